@@ -1,0 +1,53 @@
+#include "MainWindow.h"
+
+#include "InstallationState.h"
+#include "Platform.h"
+#include "Theme.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+#include <QTimer>
+#include <QVBoxLayout>
+
+namespace qf {
+
+MainWindow::MainWindow(InstallationState& state, ScreenFactory factory, QWidget* parent) : QWidget(parent)
+{
+    setObjectName(QStringLiteral("mainWindow"));
+    setWindowTitle(QStringLiteral("Quillforge"));
+    setMinimumSize(minimumWidth, minimumHeight);
+    setAutoFillBackground(true);
+    setBackgroundRole(QPalette::Window);
+
+    m_content = new ContentView(state, factory ? std::move(factory) : ScreenFactory(&makeScreen), this);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_content);
+}
+
+void MainWindow::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    if (!m_configured) {
+        m_configured = true;
+        // Runs once the window exists on screen.
+        QTimer::singleShot(0, this, &MainWindow::configure);
+    }
+}
+
+void MainWindow::configure()
+{
+    QScreen* screen = QGuiApplication::primaryScreen();
+    if (!screen)
+        return;
+    // Fill the usable area of the screen, whatever size the window was created with; the
+    // window manager's frame, where there is one, stays inside that area too.
+    const QRect available = screen->availableGeometry();
+    const QMargins frame(geometry().left() - frameGeometry().left(), geometry().top() - frameGeometry().top(),
+                         frameGeometry().right() - geometry().right(),
+                         frameGeometry().bottom() - geometry().bottom());
+    setGeometry(available.marginsRemoved(frame));
+    Platform::current().configureMainWindow(this);
+}
+
+} // namespace qf

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "ContentView.h"
+
+#include <QWidget>
+
+namespace qf {
+
+class InstallationState;
+
+// The one main window: at least 550 x 450, opening over the screen's usable area, on the
+// window background, holding the content view.
+class MainWindow : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit MainWindow(InstallationState& state, ScreenFactory factory = {}, QWidget* parent = nullptr);
+
+    ContentView* contentView() const { return m_content; }
+    bool isConfigured() const { return m_configured; }
+
+    static constexpr int minimumWidth = 550;
+    static constexpr int minimumHeight = 450;
+
+protected:
+    void showEvent(QShowEvent* event) override;
+
+private:
+    void configure();
+
+    ContentView* m_content;
+    bool m_configured = false;
+};
+
+// The screen of each step: the introduction and, until they are built, plain placeholders.
+QWidget* makeScreen(InstallationStep step, InstallationState& state);
+
+} // namespace qf

@@ -1,0 +1,54 @@
+#include "MainWindow.h"
+
+#include "InstallationState.h"
+#include "OnboardingView.h"
+
+#include "Label.h"
+#include "Layout.h"
+#include "Theme.h"
+
+#include <QPainter>
+
+namespace qf {
+
+namespace {
+
+// Stands in for a screen that is not built yet, naming its step.
+class PlaceholderScreen : public QWidget {
+public:
+    explicit PlaceholderScreen(InstallationStep step)
+    {
+        using namespace ui;
+        setObjectName(QStringLiteral("placeholder.%1").arg(caseName(step)));
+        auto* column = vstack(this, 8);
+        column->addStretch(1);
+        auto* title = new Label(caseName(step), Theme::title2());
+        title->setObjectName(QStringLiteral("placeholderTitle"));
+        title->setAlignment(Qt::AlignHCenter);
+        auto* note = new Label(QStringLiteral("This screen is not built yet."), Theme::body(), Tint(Role::secondary));
+        note->setAlignment(Qt::AlignHCenter);
+        column->addWidget(title);
+        column->addWidget(note);
+        column->addStretch(1);
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        QPainter(this).fillRect(rect(), ui::Theme::color(ui::Role::windowBackground));
+    }
+};
+
+} // namespace
+
+QWidget* makeScreen(InstallationStep step, InstallationState& state)
+{
+    switch (step) {
+    case InstallationStep::onboarding:
+        return new OnboardingView(state);
+    default:
+        return new PlaceholderScreen(step);
+    }
+}
+
+} // namespace qf

@@ -1,0 +1,14 @@
+#pragma once
+
+class QWidget;
+
+namespace qf {
+
+// For the start-up benchmark: when QUILLFORGE_REPORT_FIRST_FRAME is set, the process prints
+// "first-frame rss_kb=N" on standard output once `window` has painted its first frame, and quits.
+void reportFirstFrameIfRequested(QWidget* window);
+
+// Resident memory of this process in kilobytes (0 where it cannot be read).
+long residentMemoryKB();
+
+} // namespace qf

@@ -1,0 +1,258 @@
+#include "CLITool.h"
+
+namespace qf {
+
+namespace {
+
+// Per-tool texts, indexed by the case index.
+struct ToolTexts {
+    const char* rawValue;
+    const char* displayName;
+    const char* provider;
+    const char* commandName;
+    const char* iconName;
+    const char* logoImageName;
+    QRgb brandColor;
+    bool requiresNodeJS;
+    const char* toolDescription;
+    const char* accountRequirement;
+    const char* pricingInfo;
+    const char* signInNote;
+    const char* tryCommand;
+    const char* uninstallDescription;
+    const char* npmPackage;
+    const char* apiKeyEnvVar;
+    const char* apiKeyURL;
+    const char* signUpURL;
+    const char* docsURL;
+};
+
+constexpr QRgb rgb(double r, double g, double b)
+{
+    auto channel = [](double v) { return static_cast<int>(v * 255.0 + 0.5); };
+    return qRgb(channel(r), channel(g), channel(b));
+}
+
+const std::array<ToolTexts, 3> kTools = {{
+    {
+        "claudeCode",
+        QT_TRANSLATE_NOOP("CLITool", "Claude Code"),
+        QT_TRANSLATE_NOOP("CLITool", "Anthropic"),
+        "claude",
+        "terminal.fill",
+        "ClaudeLogo",
+        rgb(0.85, 0.55, 0.35),
+        false,
+        QT_TRANSLATE_NOOP("CLITool", "AI coding assistant from Anthropic. Works in your terminal to help write, debug, and understand code."),
+        QT_TRANSLATE_NOOP("CLITool", "Requires an Anthropic account (free tier available)"),
+        QT_TRANSLATE_NOOP("CLITool", "Free tier available, Pro plan for more usage"),
+        QT_TRANSLATE_NOOP("CLITool", "Sign in with your Anthropic account on first run."),
+        "claude \"explain this code\"",
+        QT_TRANSLATE_NOOP("CLITool", "Remove Claude Code and its configuration"),
+        "@anthropic-ai/claude-code",
+        "ANTHROPIC_API_KEY",
+        "https://platform.claude.com/settings/keys",
+        "https://claude.ai/login",
+        "https://code.claude.com/docs/en/overview",
+    },
+    {
+        "geminiCLI",
+        QT_TRANSLATE_NOOP("CLITool", "Gemini CLI"),
+        QT_TRANSLATE_NOOP("CLITool", "Google"),
+        "gemini",
+        "sparkles",
+        "GeminiLogo",
+        rgb(0.25, 0.52, 0.96),
+        true,
+        QT_TRANSLATE_NOOP("CLITool", "Google's Gemini AI in your terminal. Great for code generation and technical questions."),
+        QT_TRANSLATE_NOOP("CLITool", "Requires a Google account (you probably have one!)"),
+        QT_TRANSLATE_NOOP("CLITool", "Free tier with generous limits"),
+        QT_TRANSLATE_NOOP("CLITool", "Sign in with your Google account on first run."),
+        "gemini \"help me write a function\"",
+        QT_TRANSLATE_NOOP("CLITool", "Uninstall Gemini CLI via npm"),
+        "@google/gemini-cli",
+        "GEMINI_API_KEY",
+        "https://aistudio.google.com/apikey",
+        "https://accounts.google.com/signup",
+        "https://ai.google.dev/gemini-api/docs",
+    },
+    {
+        "codex",
+        QT_TRANSLATE_NOOP("CLITool", "Codex"),
+        QT_TRANSLATE_NOOP("CLITool", "OpenAI"),
+        "codex",
+        "cpu.fill",
+        "CodexLogo",
+        rgb(0.0, 0.65, 0.52),
+        true,
+        QT_TRANSLATE_NOOP("CLITool", "OpenAI's code-focused model. Powerful for code completion and generation."),
+        QT_TRANSLATE_NOOP("CLITool", "Requires an OpenAI account with payment method"),
+        QT_TRANSLATE_NOOP("CLITool", "Pay-as-you-go API pricing"),
+        QT_TRANSLATE_NOOP("CLITool", "Sign in with your OpenAI account on first run."),
+        "codex \"create a REST API\"",
+        QT_TRANSLATE_NOOP("CLITool", "Uninstall Codex via npm"),
+        "@openai/codex",
+        "OPENAI_API_KEY",
+        "https://platform.openai.com/api-keys",
+        "https://platform.openai.com/signup",
+        "https://platform.openai.com/docs",
+    },
+}};
+
+const ToolTexts& texts(CLITool tool) { return kTools[static_cast<size_t>(tool.index())]; }
+
+QString trText(const char* source) { return QCoreApplication::translate("CLITool", source); }
+
+// The list properties are built once, on first use, and shared by every caller.
+const std::array<QStringList, 3>& featureTable()
+{
+    static const std::array<QStringList, 3> table = {{
+        {trText("Works directly in your project folder"), trText("Can read, edit, and create files"),
+         trText("Runs commands and tests for you"), trText("Understands your entire codebase")},
+        {trText("Powered by Google's Gemini models"), trText("Great for code generation"),
+         trText("Helpful for technical explanations"), trText("Integrates with Google services")},
+        {trText("Built on OpenAI's GPT models"), trText("Strong at code completion"),
+         trText("Wide language support"), trText("Great for quick code generation")},
+    }};
+    return table;
+}
+
+const std::array<QList<AccountSetupStep>, 3>& accountStepTable()
+{
+    static const std::array<QList<AccountSetupStep>, 3> table = [] {
+        const QString installStep = trText("We'll install the CLI tool on your Mac.");
+        const QString firstLaunch = trText("On first launch, your browser will open to authenticate.");
+        return std::array<QList<AccountSetupStep>, 3>{{
+            {
+                {trText("Create an Anthropic account"),
+                 trText("Visit %1 and sign up with your email or Google account.").arg(QStringLiteral("claude.ai"))},
+                {trText("Choose a plan"), trText("Start with the free tier or upgrade to Pro for more usage.")},
+                {trText("Install Claude Code"), installStep},
+                {trText("Sign in from Terminal"), firstLaunch},
+            },
+            {
+                {trText("Use your Google account"), trText("If you have Gmail, you already have an account!")},
+                {trText("Install Gemini CLI"), installStep},
+                {trText("Sign in with Google"), firstLaunch},
+            },
+            {
+                {trText("Create an OpenAI account"),
+                 trText("Visit %1 and sign up.").arg(QStringLiteral("platform.openai.com"))},
+                {trText("Add payment method"), trText("OpenAI requires a payment method for API usage.")},
+                {trText("Install Codex"), installStep},
+                {trText("Sign in from Terminal"), firstLaunch},
+            },
+        }};
+    }();
+    return table;
+}
+
+const std::array<QList<ExampleCommand>, 3>& exampleCommandTable()
+{
+    static const std::array<QList<ExampleCommand>, 3> table = [] {
+        const QString interactive = trText("Start interactive session");
+        const QString help = trText("Show all options");
+        return std::array<QList<ExampleCommand>, 3>{{
+            {
+                {QStringLiteral("claude"), interactive},
+                {QStringLiteral("claude \"fix the bug in auth.ts\""), trText("Quick task mode")},
+                {QStringLiteral("claude --help"), help},
+                {QStringLiteral("claude /init"), trText("Initialize project settings")},
+            },
+            {
+                {QStringLiteral("gemini"), interactive},
+                {QStringLiteral("gemini \"explain this function\""), trText("Quick question")},
+                {QStringLiteral("gemini --help"), help},
+            },
+            {
+                {QStringLiteral("codex"), interactive},
+                {QStringLiteral("codex \"write a unit test\""), trText("Quick task")},
+                {QStringLiteral("codex --help"), help},
+            },
+        }};
+    }();
+    return table;
+}
+
+} // namespace
+
+const std::array<CLITool, 3>& CLITool::allCases()
+{
+    static constexpr std::array<CLITool, 3> cases = {CLITool::claudeCode, CLITool::geminiCLI, CLITool::codex};
+    return cases;
+}
+
+std::optional<CLITool> CLITool::fromRawValue(const QString& rawValue)
+{
+    for (CLITool tool : allCases()) {
+        if (rawValue == QLatin1String(texts(tool).rawValue))
+            return tool;
+    }
+    return std::nullopt;
+}
+
+QString CLITool::rawValue() const { return QString::fromLatin1(texts(*this).rawValue); }
+QString CLITool::displayName() const { return tr(texts(*this).displayName); }
+QString CLITool::provider() const { return tr(texts(*this).provider); }
+QString CLITool::commandName() const { return QString::fromLatin1(texts(*this).commandName); }
+QString CLITool::iconName() const { return QString::fromLatin1(texts(*this).iconName); }
+QString CLITool::logoImageName() const { return QString::fromLatin1(texts(*this).logoImageName); }
+QColor CLITool::brandColor() const { return QColor::fromRgb(texts(*this).brandColor); }
+bool CLITool::requiresNodeJS() const { return texts(*this).requiresNodeJS; }
+
+QString CLITool::toolDescription() const { return tr(texts(*this).toolDescription); }
+QString CLITool::accountRequirement() const { return tr(texts(*this).accountRequirement); }
+QString CLITool::pricingInfo() const { return tr(texts(*this).pricingInfo); }
+QString CLITool::signInNote() const { return tr(texts(*this).signInNote); }
+QString CLITool::tryCommand() const { return QString::fromLatin1(texts(*this).tryCommand); }
+QString CLITool::uninstallDescription() const { return tr(texts(*this).uninstallDescription); }
+
+const QStringList& CLITool::features() const { return featureTable()[static_cast<size_t>(index())]; }
+const QList<AccountSetupStep>& CLITool::accountSetupSteps() const
+{
+    return accountStepTable()[static_cast<size_t>(index())];
+}
+const QList<ExampleCommand>& CLITool::exampleCommands() const
+{
+    return exampleCommandTable()[static_cast<size_t>(index())];
+}
+
+QString CLITool::npmPackage() const { return QString::fromLatin1(texts(*this).npmPackage); }
+QString CLITool::apiKeyEnvVar() const { return QString::fromLatin1(texts(*this).apiKeyEnvVar); }
+
+QString CLITool::installCommand() const
+{
+    switch (m_case) {
+    case claudeCode:
+        return QStringLiteral("curl -fsSL ") + QLatin1String(web::claudeInstallScript) + QStringLiteral(" | bash");
+    case geminiCLI:
+    case codex:
+        return QStringLiteral("npm install -g ") + npmPackage();
+    }
+    Q_UNREACHABLE();
+}
+
+QString npmRemovalChain(const QString& package)
+{
+    return QStringLiteral("/opt/homebrew/bin/npm uninstall -g ") + package + QStringLiteral(" 2>/dev/null; ")
+         + QStringLiteral("/usr/local/bin/npm uninstall -g ") + package + QStringLiteral(" 2>/dev/null; ")
+         + QStringLiteral("for ver in ~/.nvm/versions/node/*; do [ -x \"$ver/bin/npm\" ] && "
+                          "\"$ver/bin/npm\" --prefix \"$ver\" uninstall -g ")
+         + package + QStringLiteral(" 2>/dev/null; done");
+}
+
+QString CLITool::uninstallCommand() const
+{
+    const QString chain = npmRemovalChain(npmPackage());
+    if (m_case == claudeCode) {
+        return chain
+             + QStringLiteral("; rm -rf ~/.claude/local 2>/dev/null; rm -rf ~/.claude/downloads 2>/dev/null; exit 0");
+    }
+    return chain + QStringLiteral("; exit 0");
+}
+
+QUrl CLITool::apiKeyURL() const { return QUrl(QString::fromLatin1(texts(*this).apiKeyURL)); }
+QUrl CLITool::signUpURL() const { return QUrl(QString::fromLatin1(texts(*this).signUpURL)); }
+QUrl CLITool::docsURL() const { return QUrl(QString::fromLatin1(texts(*this).docsURL)); }
+
+} // namespace qf

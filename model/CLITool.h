@@ -1,0 +1,95 @@
+#pragma once
+
+#include <QColor>
+#include <QCoreApplication>
+#include <QList>
+#include <QString>
+#include <QUrl>
+
+#include <array>
+#include <optional>
+
+namespace qf {
+
+// One step of a tool's account setup, shown as a numbered row.
+struct AccountSetupStep {
+    QString title;
+    QString description;
+    friend bool operator==(const AccountSetupStep&, const AccountSetupStep&) = default;
+};
+
+// One example command with what it does, shown with a copy button.
+struct ExampleCommand {
+    QString command;
+    QString description;
+    friend bool operator==(const ExampleCommand&, const ExampleCommand&) = default;
+};
+
+// The AI coding tools Quillforge knows. Every per-tool text, command, colour and web
+// page lives here, so that screens and services never spell a tool's text themselves.
+// Adding a tool means adding a case and a value to every property.
+class CLITool {
+    Q_DECLARE_TR_FUNCTIONS(CLITool)
+
+public:
+    enum Case { claudeCode, geminiCLI, codex };
+
+    constexpr CLITool(Case value) : m_case(value) {}
+
+    // All tools in the order every list shows them.
+    static const std::array<CLITool, 3>& allCases();
+    // Case-sensitive: only "claudeCode", "geminiCLI" and "codex" yield a tool.
+    static std::optional<CLITool> fromRawValue(const QString& rawValue);
+
+    constexpr operator Case() const { return m_case; }
+    constexpr int index() const { return static_cast<int>(m_case); }
+
+    QString rawValue() const;
+    QString id() const { return rawValue(); }
+
+    QString displayName() const;
+    QString provider() const;
+    QString commandName() const;
+    QString iconName() const;       // symbol name
+    QString logoImageName() const;  // image asset name
+    QColor brandColor() const;
+    bool requiresNodeJS() const;
+
+    QString toolDescription() const;
+    QString accountRequirement() const;
+    QString pricingInfo() const;
+    QString signInNote() const;
+    QString tryCommand() const;
+    QString uninstallDescription() const;
+
+    const QStringList& features() const;
+    const QList<AccountSetupStep>& accountSetupSteps() const;
+    const QList<ExampleCommand>& exampleCommands() const;
+
+    QString npmPackage() const;
+    QString apiKeyEnvVar() const;
+    QString installCommand() const;
+    QString uninstallCommand() const;
+
+    QUrl apiKeyURL() const;
+    QUrl signUpURL() const;
+    QUrl docsURL() const;
+
+private:
+    Case m_case;
+};
+
+// Composes the line that removes an npm package from every place npm may have put it:
+// Homebrew's npm, the npm under /usr/local and every Node.js version installed through nvm.
+QString npmRemovalChain(const QString& package);
+
+// Addresses that more than one part of the app needs.
+namespace web {
+inline constexpr auto claudeInstallScript = "https://claude.ai/install.sh";
+inline constexpr auto nodeJSDomain = "nodejs.org";
+inline constexpr auto nodeJSDownloadServer = "https://nodejs.org";
+inline constexpr auto homebrewUninstallScript =
+    "https://raw.githubusercontent.com/Homebrew/install/HEAD/uninstall.sh";
+} // namespace web
+
+} // namespace qf

@@ -1,0 +1,149 @@
+#include "SetupModel.h"
+
+namespace qf {
+
+std::optional<InstallationStep> installationStepFromRawValue(int rawValue)
+{
+    if (rawValue < 0 || rawValue >= static_cast<int>(allInstallationSteps.size()))
+        return std::nullopt;
+    return allInstallationSteps[static_cast<size_t>(rawValue)];
+}
+
+QString caseName(InstallationStep step)
+{
+    static const std::array<const char*, 9> names = {
+        "onboarding", "home", "welcome", "accountSetup", "systemCheck",
+        "installation", "apiKey", "completion", "terminal",
+    };
+    return QString::fromLatin1(names[static_cast<size_t>(rawValue(step))]);
+}
+
+// MARK: SystemRequirement
+
+const std::array<SystemRequirement, 3>& SystemRequirement::allCases()
+{
+    static constexpr std::array<SystemRequirement, 3> cases = {macOSVersion, nodeJS, diskSpace};
+    return cases;
+}
+
+QString SystemRequirement::id() const
+{
+    switch (m_case) {
+    case macOSVersion: return QStringLiteral("macOSVersion");
+    case nodeJS: return QStringLiteral("nodeJS");
+    case diskSpace: return QStringLiteral("diskSpace");
+    }
+    Q_UNREACHABLE();
+}
+
+QString SystemRequirement::title() const
+{
+    switch (m_case) {
+    case macOSVersion: return tr("macOS 14 or later");
+    case nodeJS: return tr("Node.js");
+    case diskSpace: return tr("200MB disk space");
+    }
+    Q_UNREACHABLE();
+}
+
+QString SystemRequirement::helpText() const
+{
+    switch (m_case) {
+    case macOSVersion:
+        return tr("Your Mac needs to be running macOS 14 (Sonoma) or later. Works on both Intel and Apple Silicon.");
+    case nodeJS:
+        return tr("Node.js is a JavaScript runtime that some AI tools use to run. It's a standard development tool "
+                  "used by millions of developers.");
+    case diskSpace:
+        return tr("The AI assistant and its dependencies need about 200MB of free space on your Mac. This is a "
+                  "one-time installation.");
+    }
+    Q_UNREACHABLE();
+}
+
+QString SystemRequirement::fixSuggestion() const
+{
+    switch (m_case) {
+    case macOSVersion:
+        return tr("Update your Mac: Apple Menu \u2192 System Settings \u2192 General \u2192 Software Update");
+    case nodeJS:
+        return tr("Install manually: brew install node (or download from %1)").arg(QStringLiteral("nodejs.org"));
+    case diskSpace:
+        return tr("Free up space by emptying Trash or removing unused apps");
+    }
+    Q_UNREACHABLE();
+}
+
+// MARK: SetupStepType
+
+const std::array<SetupStepType, 4>& SetupStepType::allCases()
+{
+    static constexpr std::array<SetupStepType, 4> cases = {createDeveloperFolder, checkGit, installNode, installTool};
+    return cases;
+}
+
+std::optional<SetupStepType> SetupStepType::fromRawValue(const QString& rawValue)
+{
+    for (SetupStepType type : allCases()) {
+        if (type.rawValue() == rawValue)
+            return type;
+    }
+    return std::nullopt;
+}
+
+QString SetupStepType::rawValue() const
+{
+    switch (m_case) {
+    case createDeveloperFolder: return QStringLiteral("createDeveloperFolder");
+    case checkGit: return QStringLiteral("checkGit");
+    case installNode: return QStringLiteral("installNode");
+    case installTool: return QStringLiteral("installTool");
+    }
+    Q_UNREACHABLE();
+}
+
+QString SetupStepType::title() const
+{
+    switch (m_case) {
+    case createDeveloperFolder: return tr("Create ~/Developer folder");
+    case checkGit: return tr("Check for Git");
+    case installNode: return tr("Install Node.js");
+    case installTool: return tr("Install tool");
+    }
+    Q_UNREACHABLE();
+}
+
+// MARK: SetupStepStatus
+
+SetupStepStatus SetupStepStatus::failure(const QString& message)
+{
+    SetupStepStatus status(failed);
+    status.m_message = message;
+    return status;
+}
+
+QString SetupStepStatus::label() const
+{
+    switch (m_kind) {
+    case failed: return m_message;
+    case pending: return tr("Pending");
+    case inProgress: return tr("In progress...");
+    case completed: return tr("Done");
+    case skipped: return tr("Skipped");
+    }
+    Q_UNREACHABLE();
+}
+
+StatusColorRole SetupStepStatus::colorRole() const
+{
+    switch (m_kind) {
+    case failed: return StatusColorRole::red;
+    case pending:
+    case skipped: return StatusColorRole::secondary;
+    case inProgress: return StatusColorRole::blue;
+    case completed: return StatusColorRole::green;
+    }
+    Q_UNREACHABLE();
+}
+
+} // namespace qf

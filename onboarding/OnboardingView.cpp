@@ -1,0 +1,143 @@
+#include "OnboardingView.h"
+
+#include "FeatureItem.h"
+#include "InstallationState.h"
+#include "Preferences.h"
+
+#include "Button.h"
+#include "ImageView.h"
+#include "Label.h"
+#include "Layout.h"
+#include "Motion.h"
+
+#include <QAbstractAnimation>
+#include <QLinearGradient>
+#include <QPainter>
+
+namespace qf {
+
+namespace {
+
+// The looks of the animated elements before the entrance animation.
+const ui::motion::Look kLogoOut{0.0, {0, 0}, 0.8};
+const ui::motion::Look kTitleOut{0.0, {0, 10}, 1.0};
+const ui::motion::Look kRowOut{0.0, {0, 20}, 1.0};
+
+} // namespace
+
+OnboardingView::OnboardingView(InstallationState& state, QWidget* parent) : QWidget(parent), m_state(state)
+{
+    using namespace ui;
+    setObjectName(QStringLiteral("onboardingView"));
+
+    auto* root = vstack(this, 0);
+    auto* scroll = new ScrollView;
+    scroll->setObjectName(QStringLiteral("onboardingScroll"));
+    root->addWidget(scroll);
+
+    auto* stack = vstack(scroll->content(), 40, QMargins(0, 60, 0, 0));
+
+    // Header: logo and title block.
+    auto* header = new QWidget;
+    auto* headerLayout = vstack(header, 16);
+    auto* logo = new ImageView(QStringLiteral("QuillforgeLogo"), 100);
+    logo->setObjectName(QStringLiteral("quillforgeLogo"));
+    logo->setAccessibleName(tr("Quillforge"));
+    SurfaceEffect::of(logo)->setShadow(ShadowStyle{Tint(Role::accent, 0.3), 20, {0, 10}}, Shape::opaquePixels());
+    headerLayout->addWidget(logo, 0, Qt::AlignHCenter);
+    m_logo = logo;
+
+    m_titleBlock = new QWidget;
+    auto* titleLayout = vstack(m_titleBlock, 8);
+    auto* title = new Label(tr("Welcome to Quillforge"), Theme::font(28, QFont::Bold, FontDesign::rounded));
+    title->setObjectName(QStringLiteral("onboardingTitle"));
+    title->setAlignment(Qt::AlignHCenter);
+    auto* subtitle = new Label(tr("Get started with AI-powered coding in minutes"), Theme::font(15),
+                               Tint(Role::secondary));
+    subtitle->setObjectName(QStringLiteral("onboardingSubtitle"));
+    subtitle->setAlignment(Qt::AlignHCenter);
+    titleLayout->addWidget(title, 0, Qt::AlignHCenter);
+    titleLayout->addWidget(subtitle, 0, Qt::AlignHCenter);
+    headerLayout->addWidget(m_titleBlock, 0, Qt::AlignHCenter);
+    stack->addWidget(header);
+
+    // Feature list.
+    auto* features = new QWidget;
+    auto* featureLayout = vstack(features, 16, QMargins(40, 0, 40, 0));
+    struct Feature {
+        const char* icon;
+        Role color;
+        QString title;
+        QString description;
+    };
+    const Feature rows[] = {
+        {"sparkles", Role::purple, tr("AI Coding Assistants"),
+         tr("Install Claude Code, Gemini CLI, or Codex with one click")},
+        {"wrench.and.screwdriver", Role::orange, tr("Automatic Setup"),
+         tr("We handle the dev environment so you can focus on building")},
+        {"checkmark.seal", Role::green, tr("Beginner Friendly"),
+         tr("No experience needed - just describe what you want to build")},
+    };
+    for (const Feature& feature : rows) {
+        auto* item = new FeatureItem(QString::fromLatin1(feature.icon), Tint(feature.color), feature.title,
+                                     feature.description);
+        featureLayout->addWidget(item);
+        m_rows << item;
+    }
+    stack->addWidget(features);
+
+    // "Get Started".
+    m_buttonRow = new QWidget;
+    auto* buttonLayout = hstack(m_buttonRow, 0, QMargins(0, 20, 0, 60));
+    auto* button = new Button(tr("Get Started"), Button::Style::prominent, Button::Size::large);
+    button->setObjectName(QStringLiteral("getStartedButton"));
+    button->setTitleFont(Theme::font(13, QFont::DemiBold));
+    button->setTrailingSymbol(QStringLiteral("arrow.right"), 14, SymbolWeight::semibold);
+    button->setSpacing(8);
+    button->setLabelWidth(160);
+    buttonLayout->addWidget(button, 0, Qt::AlignHCenter);
+    connect(button, &Button::clicked, this, &OnboardingView::getStarted);
+    stack->addWidget(m_buttonRow);
+    stack->addStretch(1);
+
+    render(0.0);
+}
+
+void OnboardingView::render(qreal progress)
+{
+    using ui::motion::applyLook;
+    applyLook(m_logo, kLogoOut, progress);
+    applyLook(m_titleBlock, kTitleOut, progress);
+    for (QWidget* row : std::as_const(m_rows))
+        applyLook(row, kRowOut, progress);
+    applyLook(m_buttonRow, kRowOut, progress);
+}
+
+void OnboardingView::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    if (m_animateIn)
+        return;
+    m_animateIn = true;
+    m_entrance = ui::motion::animate(this, entranceDurationMs, ui::motion::easeOut(),
+                                     [this](qreal progress) { render(progress); }, entranceDelayMs);
+}
+
+void OnboardingView::paintEvent(QPaintEvent*)
+{
+    using namespace ui;
+    QPainter painter(this);
+    painter.fillRect(rect(), Theme::color(Role::windowBackground));
+    QLinearGradient wash(0, 0, 0, height());
+    wash.setColorAt(0, Tint(Role::accent, 0.0).resolve());
+    wash.setColorAt(1, Tint(Role::accent, 0.05).resolve());
+    painter.fillRect(rect(), wash);
+}
+
+void OnboardingView::getStarted()
+{
+    Preferences::setHasCompletedOnboarding(true);
+    m_state.setCurrentStep(InstallationStep::home);
+}
+
+} // namespace qf

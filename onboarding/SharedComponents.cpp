@@ -1,0 +1,89 @@
+#include "SharedComponents.h"
+
+#include "Label.h"
+#include "Layout.h"
+#include "Symbol.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+
+namespace qf {
+
+namespace {
+
+ui::Button::Style buttonStyle(CopyButton::CopyButtonStyle style)
+{
+    return style == CopyButton::CopyButtonStyle::bordered ? ui::Button::Style::bordered
+                                                          : ui::Button::Style::borderless;
+}
+
+} // namespace
+
+qreal CopyButton::symbolSize(CopyButtonStyle style)
+{
+    // Caption-sized for the regular and bordered styles, a step smaller for the small one.
+    return style == CopyButtonStyle::small ? 9.0 : 11.0;
+}
+
+CopyButton::CopyButton(const QString& text, CopyButtonStyle style, std::function<void()> onCopy, QWidget* parent)
+    : ui::Button(QString(), buttonStyle(style), Size::regular, parent),
+      m_text(text),
+      m_copyStyle(style),
+      m_onCopy(std::move(onCopy))
+{
+    setObjectName(QStringLiteral("copyButton"));
+    setAccessibleName(tr("Copy"));
+    setAccessibleDescription(text);
+    setToolTip(tr("Copy"));
+    setLeadingSymbol(QStringLiteral("doc.on.clipboard"), symbolSize(style));
+    if (style == CopyButtonStyle::bordered)
+        setContentPadding(8, 4);
+    else
+        setContentTint(ui::Tint(ui::Role::secondary));
+    connect(this, &QAbstractButton::clicked, this, &CopyButton::copy);
+}
+
+void CopyButton::copy()
+{
+    QClipboard* clipboard = QGuiApplication::clipboard();
+    clipboard->clear();
+    clipboard->setText(m_text);
+    if (m_onCopy)
+        m_onCopy();
+}
+
+CopiedToast::CopiedToast(QWidget* parent) : ui::RoundedCard(parent)
+{
+    using namespace ui;
+    setObjectName(QStringLiteral("copiedToast"));
+    setShape(Shape::pill());
+    setFill(Tint(Role::controlBackground));
+    setShadow(ShadowStyle{Tint(Role::black, 0.15), 10, {0, 4}});
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+
+    auto* row = hstack(this, 8, QMargins(16, 10, 16, 10));
+    auto* check = new SymbolView(QStringLiteral("checkmark.circle.fill"), 13, Tint(Role::green));
+    auto* text = new Label(tr("Copied to clipboard"), Theme::font(13, QFont::Medium));
+    text->setObjectName(QStringLiteral("copiedToastText"));
+    row->addWidget(check, 0, Qt::AlignVCenter);
+    row->addWidget(text, 0, Qt::AlignVCenter);
+    setAccessibleName(text->text());
+}
+
+SectionHeader::SectionHeader(const QString& title, const QString& icon, const ui::Tint& iconColor, QWidget* parent)
+    : QWidget(parent), m_title(title), m_icon(icon)
+{
+    using namespace ui;
+    setObjectName(QStringLiteral("sectionHeader"));
+    setAccessibleName(title);
+    auto* row = hstack(this, 10);
+    auto* tile = new IconTile(QSize(28, 28), Shape::rounded(6), iconColor.withOpacity(0.15));
+    tile->setSymbol(icon, 14, iconColor, int(SymbolWeight::semibold));
+    auto* label = new Label(title, Theme::font(15, QFont::DemiBold, FontDesign::rounded));
+    label->setObjectName(QStringLiteral("sectionHeaderTitle"));
+    row->addWidget(tile, 0, Qt::AlignVCenter);
+    row->addWidget(label, 0, Qt::AlignVCenter);
+    row->addStretch(1);
+}
+
+} // namespace qf

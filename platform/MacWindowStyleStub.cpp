@@ -1,0 +1,7 @@
+#include "MacWindowStyle.h"
+
+namespace qf {
+
+void applyMacWindowStyle(QWidget*) {}
+
+} // namespace qf

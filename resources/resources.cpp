@@ -1,0 +1,1 @@
+// Holds the compiled image and icon resources.

@@ -1,0 +1,123 @@
+#include "ContentView.h"
+#include "InstallationState.h"
+#include "MainWindow.h"
+#include "OnboardingView.h"
+#include "Preferences.h"
+#include "TestSupport.h"
+
+#include <QGuiApplication>
+#include <QPointer>
+#include <QScreen>
+
+using namespace qf;
+
+namespace {
+
+class RoutingTest : public ::testing::Test {
+protected:
+    void SetUp() override { test::clearPreferences(); }
+};
+
+// Screens named after their step, counting how many were built.
+struct CountingFactory {
+    std::shared_ptr<int> built = std::make_shared<int>(0);
+    ScreenFactory factory()
+    {
+        auto counter = built;
+        return [counter](InstallationStep step, InstallationState&) {
+            ++*counter;
+            auto* screen = new QWidget;
+            screen->setObjectName(caseName(step));
+            return screen;
+        };
+    }
+};
+
+} // namespace
+
+TEST_F(RoutingTest, EveryStepGetsAFreshScreen)
+{
+    InstallationState state;
+    CountingFactory counting;
+    ContentView view(state, counting.factory());
+    EXPECT_EQ(view.currentScreen()->objectName(), QStringLiteral("onboarding"));
+
+    QPointer<QWidget> first = view.currentScreen();
+    state.setCurrentStep(InstallationStep::home);
+    state.setCurrentStep(InstallationStep::onboarding);
+    test::settle();
+    EXPECT_TRUE(first.isNull());  // the old screen is gone, not reused
+    EXPECT_EQ(view.currentScreen()->objectName(), QStringLiteral("onboarding"));
+    EXPECT_EQ(*counting.built, 3);
+}
+
+TEST_F(RoutingTest, QuickSuccessionEndsOnTheLastStep)
+{
+    test::AnimationsOn animations;
+    InstallationState state;
+    CountingFactory counting;
+    ContentView view(state, counting.factory());
+    view.resize(600, 500);
+    view.show();
+
+    state.setCurrentStep(InstallationStep::home);
+    state.setCurrentStep(InstallationStep::welcome);
+    state.setCurrentStep(InstallationStep::accountSetup);
+    EXPECT_EQ(view.shownStep(), InstallationStep::accountSetup);
+    test::settle();
+
+    QList<QWidget*> screens;
+    for (QWidget* child : view.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+        if (child != view.transitionOverlay())
+            screens << child;
+    }
+    ASSERT_EQ(screens.size(), 1);
+    EXPECT_EQ(screens.first()->objectName(), QStringLiteral("accountSetup"));
+    EXPECT_TRUE(screens.first()->isVisible());
+
+    // One picture fades out on top, and it lets clicks through to the live screen.
+    QWidget* overlay = view.transitionOverlay();
+    ASSERT_NE(overlay, nullptr);
+    EXPECT_TRUE(overlay->testAttribute(Qt::WA_TransparentForMouseEvents));
+    EXPECT_EQ(overlay->geometry(), view.rect());
+}
+
+TEST_F(RoutingTest, WithoutAnimationsThereIsNoTransitionPicture)
+{
+    InstallationState state;
+    CountingFactory counting;
+    ContentView view(state, counting.factory());
+    view.show();
+    state.setCurrentStep(InstallationStep::home);
+    EXPECT_EQ(view.transitionOverlay(), nullptr);
+}
+
+TEST_F(RoutingTest, FirstScreenFollowsThePreference)
+{
+    {
+        InstallationState state;
+        MainWindow window(state);
+        EXPECT_NE(qobject_cast<OnboardingView*>(window.contentView()->currentScreen()), nullptr);
+    }
+    Preferences::setHasCompletedOnboarding(true);
+    InstallationState state;
+    MainWindow window(state);
+    EXPECT_EQ(window.contentView()->shownStep(), InstallationStep::home);
+    EXPECT_EQ(window.contentView()->currentScreen()->objectName(), QStringLiteral("placeholder.home"));
+}
+
+TEST_F(RoutingTest, WindowFillsTheUsableScreenAndKeepsItsMinimum)
+{
+    InstallationState state;
+    MainWindow window(state);
+    EXPECT_EQ(window.minimumSize(), QSize(550, 450));
+    window.resize(300, 200);
+    EXPECT_GE(window.width(), 550);
+    EXPECT_GE(window.height(), 450);
+
+    window.show();
+    test::settle();
+    ASSERT_TRUE(window.isConfigured());
+    const QRect available = QGuiApplication::primaryScreen()->availableGeometry();
+    EXPECT_EQ(window.frameGeometry(), available);
+}

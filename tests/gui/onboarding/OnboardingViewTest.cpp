@@ -1,0 +1,212 @@
+#include "FeatureItem.h"
+#include "InstallationState.h"
+#include "MainWindow.h"
+#include "OnboardingView.h"
+#include "Preferences.h"
+#include "TestSupport.h"
+
+#include "Button.h"
+#include "Label.h"
+#include "RoundedCard.h"
+#include "Surface.h"
+
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTest>
+
+using namespace qf;
+
+namespace {
+
+class OnboardingTest : public ::testing::Test {
+protected:
+    void SetUp() override { test::clearPreferences(); }
+};
+
+struct ElementLook {
+    qreal opacity;
+    QPointF offset;
+    qreal scale;
+};
+
+ElementLook lookOf(QWidget* widget)
+{
+    auto* effect = qobject_cast<ui::SurfaceEffect*>(widget->graphicsEffect());
+    EXPECT_NE(effect, nullptr);
+    if (!effect)
+        return {1, {}, 1};
+    return {effect->opacity(), effect->offset(), effect->scale()};
+}
+
+// The animated elements: logo, title block, three rows and the button.
+struct Elements {
+    QWidget* logo;
+    QWidget* titleBlock;
+    QList<FeatureItem*> rows;
+    QWidget* buttonRow;
+};
+
+Elements elementsOf(OnboardingView& view)
+{
+    QWidget* logo = test::child(&view, QStringLiteral("quillforgeLogo"));
+    QWidget* title = test::child(&view, QStringLiteral("onboardingTitle"));
+    QWidget* button = test::child(&view, QStringLiteral("getStartedButton"));
+    return {logo, title ? title->parentWidget() : nullptr, view.findChildren<FeatureItem*>(),
+            button ? button->parentWidget() : nullptr};
+}
+
+} // namespace
+
+TEST_F(OnboardingTest, ShowsTheIntroductionTexts)
+{
+    InstallationState state;
+    OnboardingView view(state);
+
+    EXPECT_EQ(test::child<QLabel>(&view, QStringLiteral("onboardingTitle"))->text(),
+              QStringLiteral("Welcome to Quillforge"));
+    EXPECT_EQ(test::child<QLabel>(&view, QStringLiteral("onboardingSubtitle"))->text(),
+              QStringLiteral("Get started with AI-powered coding in minutes"));
+
+    const QList<FeatureItem*> rows = view.findChildren<FeatureItem*>();
+    ASSERT_EQ(rows.size(), 3);
+    const char* icons[] = {"sparkles", "wrench.and.screwdriver", "checkmark.seal"};
+    const char* titles[] = {"AI Coding Assistants", "Automatic Setup", "Beginner Friendly"};
+    const char* descriptions[] = {"Install Claude Code, Gemini CLI, or Codex with one click",
+                                  "We handle the dev environment so you can focus on building",
+                                  "No experience needed - just describe what you want to build"};
+    for (int i = 0; i < 3; ++i) {
+        EXPECT_EQ(rows[i]->icon(), QString::fromLatin1(icons[i]));
+        EXPECT_EQ(rows[i]->title(), QString::fromLatin1(titles[i]));
+        EXPECT_EQ(rows[i]->description(), QString::fromLatin1(descriptions[i]));
+        EXPECT_EQ(test::child<QLabel>(rows[i], QStringLiteral("featureTitle"))->text(), QString::fromLatin1(titles[i]));
+        auto* description = test::child<ui::Label>(rows[i], QStringLiteral("featureDescription"));
+        EXPECT_EQ(description->maximumLines(), 2);
+        EXPECT_EQ(rows[i]->shape().cornerRadius, 14);
+        ASSERT_TRUE(rows[i]->shadow().has_value());
+    }
+
+    auto* button = test::child<ui::Button>(&view, QStringLiteral("getStartedButton"));
+    EXPECT_EQ(button->title(), QStringLiteral("Get Started"));
+    EXPECT_EQ(button->trailingSymbol(), QStringLiteral("arrow.right"));
+    EXPECT_EQ(button->style(), ui::Button::Style::prominent);
+    EXPECT_EQ(button->controlSize(), ui::Button::Size::large);
+}
+
+TEST_F(OnboardingTest, EntranceAnimationMovesEveryElementFromOutToIn)
+{
+    test::AnimationsOn animations;
+    InstallationState state;
+    OnboardingView view(state);
+    const Elements e = elementsOf(view);
+    ASSERT_EQ(e.rows.size(), 3);
+
+    EXPECT_FALSE(view.animateIn());
+    view.resize(800, 700);
+    view.show();
+    EXPECT_TRUE(view.animateIn());
+    QAbstractAnimation* entrance = view.entranceAnimation();
+    ASSERT_NE(entrance, nullptr);
+    EXPECT_EQ(entrance->totalDuration(), OnboardingView::entranceDelayMs + OnboardingView::entranceDurationMs);
+
+    auto expectOut = [&] {
+        const ElementLook logo = lookOf(e.logo);
+        EXPECT_EQ(logo.opacity, 0.0);
+        EXPECT_DOUBLE_EQ(logo.scale, 0.8);
+        const ElementLook title = lookOf(e.titleBlock);
+        EXPECT_EQ(title.opacity, 0.0);
+        EXPECT_EQ(title.offset, QPointF(0, 10));
+        for (QWidget* row : e.rows) {
+            EXPECT_EQ(lookOf(row).opacity, 0.0);
+            EXPECT_EQ(lookOf(row).offset, QPointF(0, 20));
+        }
+        EXPECT_EQ(lookOf(e.buttonRow).opacity, 0.0);
+        EXPECT_EQ(lookOf(e.buttonRow).offset, QPointF(0, 20));
+    };
+    expectOut();
+    entrance->setCurrentTime(OnboardingView::entranceDelayMs - 10);  // still waiting
+    expectOut();
+
+    // Half way every element is on its way, all together.
+    entrance->setCurrentTime(OnboardingView::entranceDelayMs + OnboardingView::entranceDurationMs / 2);
+    const qreal opacity = lookOf(e.logo).opacity;
+    EXPECT_GT(opacity, 0.0);
+    EXPECT_LT(opacity, 1.0);
+    for (QWidget* element : {e.titleBlock, static_cast<QWidget*>(e.rows[1]), e.buttonRow})
+        EXPECT_DOUBLE_EQ(lookOf(element).opacity, opacity);
+    EXPECT_GT(lookOf(e.rows[0]).offset.y(), 0.0);
+    EXPECT_LT(lookOf(e.rows[0]).offset.y(), 20.0);
+
+    // After 0.7 s everything has its final look.
+    entrance->setCurrentTime(700);
+    for (QWidget* element : {e.logo, e.titleBlock, e.buttonRow, static_cast<QWidget*>(e.rows[0]),
+                             static_cast<QWidget*>(e.rows[1]), static_cast<QWidget*>(e.rows[2])}) {
+        const ElementLook look = lookOf(element);
+        EXPECT_EQ(look.opacity, 1.0);
+        EXPECT_EQ(look.offset, QPointF());
+        EXPECT_DOUBLE_EQ(look.scale, 1.0);
+    }
+}
+
+TEST_F(OnboardingTest, GetStartedMidAnimationStoresThePreferenceAndGoesHome)
+{
+    test::AnimationsOn animations;
+    InstallationState state;
+    ASSERT_EQ(state.currentStep(), InstallationStep::onboarding);
+    MainWindow window(state);
+    window.resize(900, 700);
+    window.show();
+    auto* view = qobject_cast<OnboardingView*>(window.contentView()->currentScreen());
+    ASSERT_NE(view, nullptr);
+    ASSERT_NE(view->entranceAnimation(), nullptr);
+    view->entranceAnimation()->setCurrentTime(300);  // the button is still fading in
+
+    auto* button = test::child<ui::Button>(view, QStringLiteral("getStartedButton"));
+    QTest::mouseClick(button, Qt::LeftButton);
+
+    EXPECT_TRUE(Preferences::hasCompletedOnboarding());
+    EXPECT_EQ(state.currentStep(), InstallationStep::home);
+    test::settle();
+    EXPECT_EQ(window.contentView()->shownStep(), InstallationStep::home);
+    EXPECT_EQ(window.contentView()->findChildren<OnboardingView*>().size(), 0);
+
+    // A later launch opens straight on Home.
+    InstallationState nextLaunch;
+    EXPECT_EQ(nextLaunch.currentStep(), InstallationStep::home);
+}
+
+TEST_F(OnboardingTest, ShortWindowsScrollTheContent)
+{
+    InstallationState state;
+    OnboardingView view(state);
+    view.resize(550, 450);
+    view.show();
+    test::settle();
+    auto* scroll = test::child<QScrollArea>(&view, QStringLiteral("onboardingScroll"));
+    EXPECT_GT(scroll->verticalScrollBar()->maximum(), 0);
+    auto* button = test::child(&view, QStringLiteral("getStartedButton"));
+    scroll->ensureWidgetVisible(button);
+    EXPECT_GT(scroll->verticalScrollBar()->value(), 0);
+
+    // The background stays put behind the scrolled content and fills the window.
+    const QImage shot = view.grab().toImage();
+    EXPECT_EQ(shot.size(), QSize(550, 450) * shot.devicePixelRatio());
+    EXPECT_EQ(qAlpha(shot.pixel(2, shot.height() - 3)), 255);
+
+    view.resize(1440, 900);
+    test::settle();
+    EXPECT_EQ(scroll->verticalScrollBar()->maximum(), 0);
+}
+
+TEST_F(OnboardingTest, EveryControlHasAnAccessibleName)
+{
+    InstallationState state;
+    OnboardingView view(state);
+    const QList<QWidget*> controls = test::focusableControls(&view);
+    EXPECT_FALSE(controls.isEmpty());
+    for (QWidget* control : controls) {
+        if (qobject_cast<QScrollArea*>(control))
+            continue;
+        EXPECT_FALSE(control->accessibleName().isEmpty()) << control->metaObject()->className();
+        EXPECT_FALSE(control->objectName().isEmpty()) << control->metaObject()->className();
+    }
+}

@@ -1,0 +1,104 @@
+#include "SharedComponents.h"
+#include "TestSupport.h"
+
+#include "Label.h"
+#include "RoundedCard.h"
+
+#include <QClipboard>
+#include <QTest>
+
+using namespace qf;
+
+namespace {
+
+QString clipboardText() { return QGuiApplication::clipboard()->text(); }
+
+} // namespace
+
+TEST(CopyButton, PutsTheTextOnTheClipboardBeforeCallingBack)
+{
+    QGuiApplication::clipboard()->setText(QStringLiteral("something older"));
+    QString seenDuringCallback = QStringLiteral("<not called>");
+    int calls = 0;
+    CopyButton button(QStringLiteral("claude \"explain this code\""), CopyButton::CopyButtonStyle::regular, [&] {
+        ++calls;
+        seenDuringCallback = clipboardText();
+    });
+    button.resize(button.sizeHint());
+    button.show();
+    QTest::mouseClick(&button, Qt::LeftButton);
+
+    EXPECT_EQ(calls, 1);
+    EXPECT_EQ(seenDuringCallback, QStringLiteral("claude \"explain this code\""));
+    EXPECT_EQ(clipboardText(), QStringLiteral("claude \"explain this code\""));
+}
+
+TEST(CopyButton, CopiesAnEmptyTextAsEmpty)
+{
+    QGuiApplication::clipboard()->setText(QStringLiteral("previous"));
+    QString seen = QStringLiteral("<not called>");
+    CopyButton button(QString(), CopyButton::CopyButtonStyle::small, [&] { seen = clipboardText(); });
+    button.click();
+    EXPECT_TRUE(seen.isEmpty());
+    EXPECT_TRUE(clipboardText().isEmpty());
+}
+
+TEST(CopyButton, WorksWithoutACallback)
+{
+    CopyButton button(QStringLiteral("git init"), CopyButton::CopyButtonStyle::bordered);
+    button.click();
+    EXPECT_EQ(clipboardText(), QStringLiteral("git init"));
+}
+
+TEST(CopyButton, StylesDifferInSizeAndChrome)
+{
+    using Style = CopyButton::CopyButtonStyle;
+    CopyButton regular(QStringLiteral("x"), Style::regular);
+    CopyButton small(QStringLiteral("x"), Style::small);
+    CopyButton bordered(QStringLiteral("x"), Style::bordered);
+    EXPECT_LT(CopyButton::symbolSize(Style::small), CopyButton::symbolSize(Style::regular));
+    EXPECT_LT(small.sizeHint().width(), regular.sizeHint().width());
+    EXPECT_EQ(regular.leadingSymbol(), QStringLiteral("doc.on.clipboard"));
+    EXPECT_EQ(regular.accessibleName(), QStringLiteral("Copy"));
+
+    // Only the bordered style paints a surface behind the glyph.
+    auto coverage = [](CopyButton& button) {
+        button.resize(button.sizeHint());
+        QImage canvas(button.size(), QImage::Format_ARGB32_Premultiplied);
+        canvas.fill(Qt::transparent);
+        button.render(&canvas, QPoint(), QRegion(), QWidget::DrawChildren);
+        int painted = 0;
+        for (int y = 0; y < canvas.height(); ++y)
+            for (int x = 0; x < canvas.width(); ++x)
+                painted += qAlpha(canvas.pixel(x, y)) > 0;
+        return double(painted) / (canvas.width() * canvas.height());
+    };
+    EXPECT_LT(coverage(regular), 0.7);
+    EXPECT_LT(coverage(small), 0.7);
+    EXPECT_GT(coverage(bordered), 0.9);
+}
+
+TEST(CopiedToast, ShowsTheConfirmation)
+{
+    CopiedToast toast;
+    EXPECT_EQ(test::child<QLabel>(&toast, QStringLiteral("copiedToastText"))->text(),
+              QStringLiteral("Copied to clipboard"));
+    auto* symbol = toast.findChild<ui::SymbolView*>();
+    ASSERT_NE(symbol, nullptr);
+    EXPECT_EQ(symbol->name(), QStringLiteral("checkmark.circle.fill"));
+    EXPECT_EQ(toast.shape().kind, ui::Shape::capsule);
+    ASSERT_TRUE(toast.shadow().has_value());
+    EXPECT_DOUBLE_EQ(toast.shadow()->color.opacity, 0.15);
+}
+
+TEST(SectionHeader, ShowsTitleAndTintedIcon)
+{
+    SectionHeader header(QStringLiteral("Development Environment"), QStringLiteral("wrench.and.screwdriver"),
+                         ui::Tint(ui::Role::orange));
+    EXPECT_EQ(test::child<QLabel>(&header, QStringLiteral("sectionHeaderTitle"))->text(),
+              QStringLiteral("Development Environment"));
+    auto* tile = header.findChild<ui::IconTile*>();
+    ASSERT_NE(tile, nullptr);
+    EXPECT_EQ(tile->symbolName(), QStringLiteral("wrench.and.screwdriver"));
+    EXPECT_EQ(tile->sizeHint(), QSize(28, 28));
+}

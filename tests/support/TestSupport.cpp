@@ -1,0 +1,55 @@
+#include "TestSupport.h"
+
+#include "Motion.h"
+#include "Preferences.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QFile>
+
+namespace qf::test {
+
+void settle()
+{
+    for (int i = 0; i < 3; ++i) {
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QCoreApplication::processEvents();
+    }
+}
+
+AnimationsOn::AnimationsOn() { ui::motion::setEnabled(true); }
+AnimationsOn::~AnimationsOn() { ui::motion::setEnabled(false); }
+
+QString clearPreferences()
+{
+    static int counter = 0;
+    const QString path = QStringLiteral("%1/preferences-%2.ini").arg(qEnvironmentVariable("HOME")).arg(++counter);
+    QFile::remove(path);
+    Preferences::useFile(path);
+    return path;
+}
+
+QList<QWidget*> focusableControls(const QWidget* root)
+{
+    QList<QWidget*> controls;
+    for (QWidget* widget : root->findChildren<QWidget*>()) {
+        if (widget->focusPolicy() & Qt::TabFocus)
+            controls << widget;
+    }
+    return controls;
+}
+
+bool hasVisiblePixels(const QImage& image)
+{
+    const QImage argb = image.convertToFormat(QImage::Format_ARGB32);
+    for (int y = 0; y < argb.height(); ++y) {
+        const QRgb* line = reinterpret_cast<const QRgb*>(argb.constScanLine(y));
+        for (int x = 0; x < argb.width(); ++x) {
+            if (qAlpha(line[x]) > 0)
+                return true;
+        }
+    }
+    return false;
+}
+
+} // namespace qf::test

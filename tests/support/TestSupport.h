@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QApplication>
+#include <QImage>
+#include <QWidget>
+
+#include <gtest/gtest.h>
+
+namespace qf::test {
+
+// Finds a descendant by object name, failing the test when there is none.
+template <typename T = QWidget>
+T* child(const QObject* root, const QString& name)
+{
+    T* found = root->findChild<T*>(name);
+    EXPECT_NE(found, nullptr) << "no child named " << name.toStdString();
+    return found;
+}
+
+// Runs posted events, including deferred deletions.
+void settle();
+
+// Turns animations on for one test and off again afterwards.
+class AnimationsOn {
+public:
+    AnimationsOn();
+    ~AnimationsOn();
+};
+
+// Points the preferences at a new, empty file inside the test's home and returns its path.
+QString clearPreferences();
+
+// Every widget under `root` that takes keyboard focus (a control a person can use).
+QList<QWidget*> focusableControls(const QWidget* root);
+
+// True when some pixel of `image` is not fully transparent.
+bool hasVisiblePixels(const QImage& image);
+
+} // namespace qf::test

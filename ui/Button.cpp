@@ -1,0 +1,286 @@
+#include "Button.h"
+
+#include "Surface.h"
+
+#include <QEvent>
+#include <QPainter>
+
+namespace qf::ui {
+
+Button::Button(const QString& title, Style style, Size size, QWidget* parent)
+    : QAbstractButton(parent), m_style(style), m_size(size), m_font(Theme::body())
+{
+    setText(title);
+    setAccessibleName(title);
+    setAttribute(Qt::WA_Hover);
+    setFocusPolicy(Qt::StrongFocus);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    if (style == Style::link) {
+        m_tint = Tint(Role::accent);
+        setCursor(Qt::PointingHandCursor);
+    } else if (style == Style::plain || style == Style::borderless) {
+        m_tint = Tint(Role::primary);
+    }
+}
+
+void Button::setTitle(const QString& title)
+{
+    setText(title);
+    setAccessibleName(title);
+    updateGeometry();
+    update();
+}
+
+void Button::setTitleFont(const QFont& font)
+{
+    m_font = font;
+    updateGeometry();
+    update();
+}
+
+void Button::setLeadingSymbol(const QString& name, qreal pointSize, SymbolWeight weight)
+{
+    m_leading = {name, pointSize, weight};
+    updateGeometry();
+    update();
+}
+
+void Button::setTrailingSymbol(const QString& name, qreal pointSize, SymbolWeight weight)
+{
+    m_trailing = {name, pointSize, weight};
+    updateGeometry();
+    update();
+}
+
+void Button::setTint(const Tint& tint)
+{
+    m_tint = tint;
+    update();
+}
+
+void Button::setContentTint(const Tint& tint)
+{
+    m_contentTint = tint;
+    update();
+}
+
+void Button::setSpacing(int spacing)
+{
+    m_spacing = spacing;
+    updateGeometry();
+}
+
+void Button::setLabelWidth(int width)
+{
+    m_labelWidth = width;
+    updateGeometry();
+}
+
+void Button::setMinimumLabelWidth(int width)
+{
+    m_minimumLabelWidth = width;
+    updateGeometry();
+}
+
+void Button::setContentPadding(int horizontal, int vertical)
+{
+    m_hPadding = horizontal;
+    m_vPadding = vertical;
+    updateGeometry();
+}
+
+int Button::contentWidth() const
+{
+    int width = 0;
+    int parts = 0;
+    if (!m_leading.name.isEmpty()) {
+        width += Symbol::boxSize(m_leading.pointSize);
+        ++parts;
+    }
+    if (!text().isEmpty()) {
+        width += QFontMetrics(m_font).horizontalAdvance(text());
+        ++parts;
+    }
+    if (!m_trailing.name.isEmpty()) {
+        width += Symbol::boxSize(m_trailing.pointSize);
+        ++parts;
+    }
+    width += std::max(0, parts - 1) * m_spacing;
+    if (m_labelWidth >= 0)
+        return m_labelWidth;
+    return std::max(width, m_minimumLabelWidth);
+}
+
+int Button::horizontalPadding() const
+{
+    if (m_hPadding >= 0)
+        return m_hPadding;
+    switch (m_style) {
+    case Style::prominent:
+    case Style::bordered: return m_size == Size::large ? 14 : 10;
+    case Style::plain:
+    case Style::borderless:
+    case Style::link: return 0;
+    }
+    return 0;
+}
+
+int Button::controlHeight() const
+{
+    const QFontMetrics metrics(m_font);
+    int content = metrics.height();
+    if (!m_leading.name.isEmpty())
+        content = std::max(content, Symbol::boxSize(m_leading.pointSize));
+    if (!m_trailing.name.isEmpty())
+        content = std::max(content, Symbol::boxSize(m_trailing.pointSize));
+    if (m_vPadding >= 0)
+        return content + 2 * m_vPadding;
+    switch (m_style) {
+    case Style::prominent:
+    case Style::bordered: return std::max(content + 8, m_size == Size::large ? 30 : 22);
+    case Style::plain:
+    case Style::borderless:
+    case Style::link: return content + 4;
+    }
+    return content;
+}
+
+QSize Button::sizeHint() const { return {contentWidth() + 2 * horizontalPadding(), controlHeight()}; }
+
+QColor Button::contentColor() const
+{
+    if (m_contentTint) {
+        QColor c = m_contentTint->resolve();
+        if (!isEnabled())
+            c.setAlphaF(c.alphaF() * 0.4f);
+        return c;
+    }
+    if (!isEnabled())
+        return Theme::color(Role::tertiary);
+    switch (m_style) {
+    case Style::prominent: return QColor(Qt::white);
+    case Style::bordered: return Theme::color(Role::primary);
+    case Style::plain:
+    case Style::borderless:
+    case Style::link: return m_tint.resolve();
+    }
+    return Theme::color(Role::primary);
+}
+
+QColor Button::backgroundColor() const
+{
+    const bool dark = Theme::isDark();
+    QColor fill;
+    if (m_style == Style::prominent) {
+        fill = isEnabled() ? m_tint.resolve() : Tint(Role::secondary, 0.22).resolve();
+        if (isEnabled() && isDown())
+            fill = fill.darker(118);
+        else if (isEnabled() && underMouse())
+            fill = fill.lighter(dark ? 115 : 106);
+    } else if (m_style == Style::bordered) {
+        fill = dark ? QColor(255, 255, 255, 34) : QColor(255, 255, 255);
+        if (isDown())
+            fill = dark ? QColor(255, 255, 255, 60) : QColor(232, 232, 234);
+        else if (underMouse())
+            fill = dark ? QColor(255, 255, 255, 44) : QColor(248, 248, 250);
+    }
+    return fill;
+}
+
+void Button::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRectF bounds = QRectF(rect());
+    const qreal radius = m_size == Size::large ? 8.0 : 6.0;
+    const bool dark = Theme::isDark();
+
+    if (m_style == Style::prominent || m_style == Style::bordered) {
+        const QPainterPath path = continuousRoundedRect(bounds.adjusted(0.5, 0.5, -0.5, -0.5), radius);
+        if (m_style == Style::bordered && !dark) {
+            // A hairline edge with a slightly darker bottom, like a raised macOS button.
+            painter.fillPath(continuousRoundedRect(bounds.adjusted(0, 0, 0, 0), radius), QColor(0, 0, 0, 38));
+            painter.fillPath(continuousRoundedRect(bounds.adjusted(0.5, 0.5, -0.5, -1.0), radius - 0.5),
+                             backgroundColor());
+        } else {
+            painter.fillPath(path, backgroundColor());
+        }
+        if (m_style == Style::prominent && isEnabled()) {
+            // A soft top highlight gives the fill some depth.
+            QLinearGradient sheen(bounds.topLeft(), bounds.bottomLeft());
+            sheen.setColorAt(0, QColor(255, 255, 255, 26));
+            sheen.setColorAt(1, QColor(255, 255, 255, 0));
+            painter.fillPath(path, sheen);
+        }
+    }
+
+    const bool keyboardFocus = hasFocus() && window() && window()->testAttribute(Qt::WA_KeyboardFocusChange);
+    if (keyboardFocus) {
+        QPen ring(Tint(Role::accent, 0.55).resolve(), 2.5);
+        painter.setPen(ring);
+        painter.setBrush(Qt::NoBrush);
+        const bool chrome = m_style == Style::prominent || m_style == Style::bordered;
+        painter.drawPath(continuousRoundedRect(bounds.adjusted(1.25, 1.25, -1.25, -1.25), chrome ? radius - 1 : 4));
+    }
+
+    // Content, centred.
+    QColor content = contentColor();
+    if ((m_style == Style::plain || m_style == Style::borderless || m_style == Style::link) && isDown())
+        content.setAlphaF(content.alphaF() * 0.55f);
+    const int width = contentWidth();
+    int natural = 0;
+    int parts = 0;
+    const QFontMetrics metrics(m_font);
+    if (!m_leading.name.isEmpty()) {
+        natural += Symbol::boxSize(m_leading.pointSize);
+        ++parts;
+    }
+    if (!text().isEmpty()) {
+        natural += metrics.horizontalAdvance(text());
+        ++parts;
+    }
+    if (!m_trailing.name.isEmpty()) {
+        natural += Symbol::boxSize(m_trailing.pointSize);
+        ++parts;
+    }
+    natural += std::max(0, parts - 1) * m_spacing;
+    const qreal contentLeft = (bounds.width() - width) / 2.0;
+    qreal x = contentLeft + std::max(0, width - natural) / 2.0;
+    const qreal centreY = bounds.height() / 2.0;
+
+    auto drawSymbol = [&](const SymbolPart& part) {
+        const QPixmap icon = Symbol::pixmap(part.name, part.pointSize, content, devicePixelRatioF(), part.weight);
+        const QSizeF logical = icon.deviceIndependentSize();
+        painter.drawPixmap(QPointF(x, centreY - logical.height() / 2.0), icon);
+        x += Symbol::boxSize(part.pointSize) + m_spacing;
+    };
+    if (!m_leading.name.isEmpty())
+        drawSymbol(m_leading);
+    if (!text().isEmpty()) {
+        painter.setFont(m_font);
+        painter.setPen(content);
+        const QString shown = metrics.elidedText(text(), Qt::ElideRight, std::max(0, int(bounds.width() - x)));
+        const qreal baseline = centreY + (metrics.ascent() - metrics.descent()) / 2.0;
+        painter.drawText(QPointF(x, baseline), shown);
+        x += metrics.horizontalAdvance(text()) + m_spacing;
+    }
+    if (!m_trailing.name.isEmpty())
+        drawSymbol(m_trailing);
+}
+
+bool Button::event(QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::HoverEnter:
+    case QEvent::HoverLeave:
+    case QEvent::EnabledChange:
+    case QEvent::PaletteChange:
+        update();
+        break;
+    default:
+        break;
+    }
+    return QAbstractButton::event(event);
+}
+
+} // namespace qf::ui

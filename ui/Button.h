@@ -1,0 +1,79 @@
+#pragma once
+
+#include "Symbol.h"
+#include "Theme.h"
+
+#include <QAbstractButton>
+
+namespace qf::ui {
+
+// The push button of the design, drawn the same on every platform:
+//  - prominent: filled with the tint (the accent by default), white content;
+//  - bordered: a light raised surface with primary content;
+//  - plain / borderless: content only, in the tint;
+//  - link: accent-coloured content with a pointing-hand cursor.
+// Content is an optional leading symbol, the title and an optional trailing symbol.
+class Button : public QAbstractButton {
+    Q_OBJECT
+
+public:
+    enum class Style { prominent, bordered, plain, borderless, link };
+    enum class Size { regular, large };
+
+    Button(const QString& title, Style style, Size size = Size::regular, QWidget* parent = nullptr);
+
+    Style style() const { return m_style; }
+    Size controlSize() const { return m_size; }
+
+    void setTitle(const QString& title);
+    QString title() const { return text(); }
+    void setTitleFont(const QFont& font);
+    void setLeadingSymbol(const QString& name, qreal pointSize, SymbolWeight weight = SymbolWeight::regular);
+    void setTrailingSymbol(const QString& name, qreal pointSize, SymbolWeight weight = SymbolWeight::regular);
+    QString leadingSymbol() const { return m_leading.name; }
+    QString trailingSymbol() const { return m_trailing.name; }
+    // Fill of a prominent button, content colour of the plain, borderless and link styles.
+    void setTint(const Tint& tint);
+    // Overrides the content colour of every style.
+    void setContentTint(const Tint& tint);
+    void setSpacing(int spacing);
+    // The content area (symbols and title) is exactly this wide, or at least this wide.
+    void setLabelWidth(int width);
+    void setMinimumLabelWidth(int width);
+    void setContentPadding(int horizontal, int vertical);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    bool event(QEvent* event) override;
+
+private:
+    struct SymbolPart {
+        QString name;
+        qreal pointSize = 0;
+        SymbolWeight weight = SymbolWeight::regular;
+    };
+
+    int contentWidth() const;
+    int controlHeight() const;
+    int horizontalPadding() const;
+    QColor contentColor() const;
+    QColor backgroundColor() const;
+
+    Style m_style;
+    Size m_size;
+    QFont m_font;
+    SymbolPart m_leading;
+    SymbolPart m_trailing;
+    Tint m_tint = Tint(Role::accent);
+    std::optional<Tint> m_contentTint;
+    int m_spacing = 6;
+    int m_labelWidth = -1;
+    int m_minimumLabelWidth = 0;
+    int m_hPadding = -1;
+    int m_vPadding = -1;
+};
+
+} // namespace qf::ui

@@ -1,0 +1,147 @@
+#include "Label.h"
+
+#include <QEvent>
+#include <QPainter>
+#include <QTextLayout>
+
+namespace qf::ui {
+
+Label::Label(const QString& text, const QFont& font, const Tint& tint, QWidget* parent)
+    : QLabel(text, parent), m_tint(tint)
+{
+    setFont(font);
+    setTextFormat(Qt::PlainText);
+    applyTint();
+}
+
+void Label::setTint(const Tint& tint)
+{
+    m_tint = tint;
+    applyTint();
+}
+
+void Label::applyTint()
+{
+    if (m_applying)
+        return;
+    m_applying = true;
+    QPalette p = palette();
+    const QColor color = m_tint.resolve();
+    if (p.color(QPalette::WindowText) != color || p.color(QPalette::Text) != color) {
+        p.setColor(QPalette::WindowText, color);
+        p.setColor(QPalette::Text, color);
+        setPalette(p);
+    }
+    m_applying = false;
+}
+
+void Label::changeEvent(QEvent* event)
+{
+    QLabel::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::ApplicationPaletteChange)
+        applyTint();
+}
+
+void Label::setWrapping(bool wrap, int maximumLines)
+{
+    setWordWrap(wrap);
+    m_maximumLines = wrap ? std::max(0, maximumLines) : 0;
+    if (wrap)
+        setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Minimum);
+    updateGeometry();
+    update();
+}
+
+int Label::lineCount(int width) const
+{
+    QTextLayout layout(text(), font());
+    QTextOption option;
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    layout.setTextOption(option);
+    int lines = 0;
+    layout.beginLayout();
+    while (true) {
+        QTextLine line = layout.createLine();
+        if (!line.isValid())
+            break;
+        line.setLineWidth(std::max(1, width));
+        ++lines;
+    }
+    layout.endLayout();
+    return std::max(1, lines);
+}
+
+bool Label::hasHeightForWidth() const { return wordWrap(); }
+
+int Label::heightForWidth(int width) const
+{
+    if (m_maximumLines == 0)
+        return QLabel::heightForWidth(width);
+    const QMargins m = contentsMargins();
+    const int lines = std::min(lineCount(width - m.left() - m.right()), m_maximumLines);
+    return lines * QFontMetrics(font()).lineSpacing() + m.top() + m.bottom();
+}
+
+QSize Label::sizeHint() const
+{
+    if (m_maximumLines == 0)
+        return QLabel::sizeHint();
+    const QFontMetrics metrics(font());
+    // Prefer one line, as wide as the text wants, and let the layout narrow it.
+    const int wide = metrics.horizontalAdvance(text()) + 1;
+    return {wide, heightForWidth(wide)};
+}
+
+QSize Label::minimumSizeHint() const
+{
+    if (!wordWrap())
+        return QLabel::minimumSizeHint();
+    const QFontMetrics metrics(font());
+    return {metrics.averageCharWidth() * 8, metrics.lineSpacing()};
+}
+
+void Label::paintEvent(QPaintEvent* event)
+{
+    if (m_maximumLines == 0) {
+        QLabel::paintEvent(event);
+        return;
+    }
+    QPainter painter(this);
+    painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText));
+    const QRect area = contentsRect();
+    const QFontMetrics metrics(font());
+
+    QTextLayout layout(text(), font());
+    QTextOption option;
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    layout.setTextOption(option);
+    layout.beginLayout();
+    qreal y = 0;
+    int shown = 0;
+    while (shown < m_maximumLines) {
+        QTextLine line = layout.createLine();
+        if (!line.isValid())
+            break;
+        line.setLineWidth(area.width());
+        line.setPosition(QPointF(0, y));
+        y += metrics.lineSpacing();
+        ++shown;
+    }
+    layout.endLayout();
+
+    for (int i = 0; i < layout.lineCount(); ++i) {
+        const QTextLine line = layout.lineAt(i);
+        const bool last = i == layout.lineCount() - 1;
+        const bool truncated = last && line.textStart() + line.textLength() < text().size();
+        const qreal top = area.top() + line.y();
+        if (truncated) {
+            const QString rest = text().mid(line.textStart());
+            const QString elided = metrics.elidedText(rest.simplified(), Qt::ElideRight, area.width());
+            painter.drawText(QPointF(area.left(), top + metrics.ascent()), elided);
+        } else {
+            line.draw(&painter, QPointF(area.left(), area.top()));
+        }
+    }
+}
+
+} // namespace qf::ui

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QBoxLayout>
+#include <QScrollArea>
+
+namespace qf::ui {
+
+// Stacks as the design describes them: spacing between children and padding around them.
+QVBoxLayout* vstack(QWidget* owner, int spacing, QMargins padding = {});
+QHBoxLayout* hstack(QWidget* owner, int spacing, QMargins padding = {});
+QVBoxLayout* vstack(int spacing, QMargins padding = {});
+QHBoxLayout* hstack(int spacing, QMargins padding = {});
+
+// A vertical scroll view with a transparent background, no frame and the content as wide as
+// the view. The content widget is created here; lay children into it.
+class ScrollView : public QScrollArea {
+    Q_OBJECT
+
+public:
+    explicit ScrollView(QWidget* parent = nullptr);
+    QWidget* content() const { return m_content; }
+
+private:
+    QWidget* m_content;
+};
+
+} // namespace qf::ui

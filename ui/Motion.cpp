@@ -1,0 +1,93 @@
+#include "Motion.h"
+
+#include "Surface.h"
+
+#include <QPauseAnimation>
+#include <QSequentialAnimationGroup>
+#include <QVariantAnimation>
+#include <QWidget>
+
+#include <cmath>
+
+namespace qf::ui::motion {
+
+namespace {
+
+bool g_enabled = true;
+
+QEasingCurve bezier(qreal x1, qreal y1, qreal x2, qreal y2)
+{
+    QEasingCurve curve(QEasingCurve::BezierSpline);
+    curve.addCubicBezierSegment(QPointF(x1, y1), QPointF(x2, y2), QPointF(1.0, 1.0));
+    return curve;
+}
+
+// Position of a damped spring released at 0 towards 1, with time normalised to the
+// animation's duration.
+qreal springProgress(qreal t)
+{
+    constexpr qreal response = 0.3;
+    constexpr qreal damping = 0.825;
+    constexpr qreal duration = springDurationMs / 1000.0;
+    if (t >= 1.0)
+        return 1.0;
+    const qreal omega = 2.0 * M_PI / response;
+    const qreal decay = damping * omega;
+    const qreal omegaD = omega * std::sqrt(1.0 - damping * damping);
+    const qreal seconds = t * duration;
+    return 1.0 - std::exp(-decay * seconds) * (std::cos(omegaD * seconds) + decay / omegaD * std::sin(omegaD * seconds));
+}
+
+} // namespace
+
+bool enabled() { return g_enabled; }
+void setEnabled(bool on) { g_enabled = on; }
+
+QEasingCurve easeOut() { return bezier(0.0, 0.0, 0.58, 1.0); }
+QEasingCurve easeIn() { return bezier(0.42, 0.0, 1.0, 1.0); }
+QEasingCurve easeInOut() { return bezier(0.42, 0.0, 0.58, 1.0); }
+
+QEasingCurve spring()
+{
+    QEasingCurve curve;
+    curve.setCustomType(&springProgress);
+    return curve;
+}
+
+QAbstractAnimation* animate(QObject* context, int durationMs, const QEasingCurve& curve,
+                            std::function<void(qreal)> apply, int delayMs)
+{
+    if (!g_enabled || durationMs <= 0) {
+        apply(1.0);
+        return nullptr;
+    }
+    auto* tween = new QVariantAnimation;
+    tween->setStartValue(0.0);
+    tween->setEndValue(1.0);
+    tween->setDuration(durationMs);
+    tween->setEasingCurve(curve);
+    QObject::connect(tween, &QVariantAnimation::valueChanged, context,
+                     [apply](const QVariant& value) { apply(value.toReal()); });
+
+    QAbstractAnimation* animation = tween;
+    if (delayMs > 0) {
+        auto* group = new QSequentialAnimationGroup;
+        group->addPause(delayMs);
+        group->addAnimation(tween);
+        animation = group;
+    }
+    animation->setParent(context);
+    animation->start(QAbstractAnimation::DeleteWhenStopped);
+    return animation;
+}
+
+void applyLook(QWidget* widget, const Look& out, qreal progress)
+{
+    SurfaceEffect* effect = SurfaceEffect::of(widget);
+    const qreal rest = 1.0 - progress;
+    effect->setOpacity(out.opacity + (1.0 - out.opacity) * progress);
+    effect->setOffset(out.offset * rest);
+    effect->setScale(out.scale + (1.0 - out.scale) * progress);
+}
+
+} // namespace qf::ui::motion

@@ -1,0 +1,106 @@
+#pragma once
+
+#include "Surface.h"
+#include "Theme.h"
+
+#include <QWidget>
+
+#include <optional>
+
+namespace qf::ui {
+
+// A filled shape behind content: cards, bars, tiles, toasts. Fill, stroke and shadow are
+// colour roles resolved at paint time. Children are laid out by the caller's layout.
+class RoundedCard : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit RoundedCard(QWidget* parent = nullptr);
+
+    void setShape(const Shape& shape);
+    void setCornerRadius(qreal radius) { setShape(Shape::rounded(radius)); }
+    void setFill(const Tint& fill);
+    // A linear gradient from `start` to `end`, along the card from `from` to `to` given as
+    // fractions of its size (top-leading is (0, 0), bottom-trailing is (1, 1)).
+    void setGradientFill(const Tint& start, const Tint& end, QPointF from = {0, 0}, QPointF to = {0, 1});
+    void setStroke(const Tint& stroke, qreal width);
+    void setShadow(const std::optional<ShadowStyle>& shadow);
+
+    const Shape& shape() const { return m_shape; }
+    const Tint& fill() const { return m_fill; }
+    const std::optional<ShadowStyle>& shadow() const { return m_shadow; }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    Shape m_shape = Shape::rounded(12);
+    Tint m_fill = Tint(Role::controlBackground);
+    std::optional<std::pair<Tint, Tint>> m_gradient;
+    QPointF m_gradientFrom{0, 0};
+    QPointF m_gradientTo{0, 1};
+    Tint m_stroke = Tint(Role::clear);
+    qreal m_strokeWidth = 0.0;
+    std::optional<ShadowStyle> m_shadow;
+};
+
+// A tinted tile or circle with a symbol or a short text centred on it: feature icons, step
+// numbers, section-header icons.
+class IconTile : public QWidget {
+    Q_OBJECT
+
+public:
+    IconTile(QSize size, const Shape& shape, const Tint& fill, QWidget* parent = nullptr);
+
+    void setSymbol(const QString& name, qreal pointSize, const Tint& tint, int weight = 0);
+    void setText(const QString& text, const QFont& font, const Tint& tint);
+    void setFill(const Tint& fill);
+
+    QString symbolName() const { return m_symbol; }
+    QString text() const { return m_text; }
+    QSize sizeHint() const override { return m_size; }
+    QSize minimumSizeHint() const override { return m_size; }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QSize m_size;
+    Shape m_shape;
+    Tint m_fill;
+    QString m_symbol;
+    qreal m_symbolSize = 14;
+    int m_symbolWeight = 0;
+    QString m_text;
+    QFont m_font;
+    Tint m_contentTint = Tint(Role::primary);
+};
+
+// A small capsule with a text on the text's colour at low opacity: status badges and pills.
+class Badge : public QWidget {
+    Q_OBJECT
+
+public:
+    Badge(const QString& text, const Tint& textTint, const Tint& fill, QWidget* parent = nullptr);
+
+    void setText(const QString& text);
+    QString text() const { return m_text; }
+    void setFont(const QFont& font);
+    void setPadding(int horizontal, int vertical);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QString m_text;
+    Tint m_textTint;
+    Tint m_fill;
+    QFont m_font;
+    int m_hPadding = 8;
+    int m_vPadding = 3;
+};
+
+} // namespace qf::ui
