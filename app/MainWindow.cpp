@@ -19,6 +19,10 @@ MainWindow::MainWindow(InstallationState& state, ScreenFactory factory, QWidget*
     setAutoFillBackground(true);
     setBackgroundRole(QPalette::Window);
 
+    // Start at the size the window will open with, so the first screen is laid out once.
+    if (QScreen* screen = QGuiApplication::primaryScreen())
+        resize(screen->availableGeometry().size().expandedTo(minimumSize()));
+
     m_content = new ContentView(state, factory ? std::move(factory) : ScreenFactory(&makeScreen), this);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

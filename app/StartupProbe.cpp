@@ -39,14 +39,17 @@ long residentMemoryKB()
 
 namespace {
 
+// Watches every paint of the application: the first one inside the window starts its first
+// frame (the window's own area may be covered by its children and never painted itself).
 class FirstFrameWatcher : public QObject {
 public:
-    using QObject::QObject;
+    explicit FirstFrameWatcher(QWidget* window) : QObject(window), m_window(window) {}
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override
     {
-        if (event->type() == QEvent::Paint && !m_seen) {
+        auto* widget = qobject_cast<QWidget*>(watched);
+        if (event->type() == QEvent::Paint && !m_seen && widget && widget->window() == m_window) {
             m_seen = true;
             // Report once the paint has reached the screen, on the next turn of the loop.
             QTimer::singleShot(0, this, [] {
@@ -59,6 +62,7 @@ protected:
     }
 
 private:
+    QWidget* m_window;
     bool m_seen = false;
 };
 
@@ -68,7 +72,7 @@ void reportFirstFrameIfRequested(QWidget* window)
 {
     if (qEnvironmentVariableIsEmpty("QUILLFORGE_REPORT_FIRST_FRAME"))
         return;
-    window->installEventFilter(new FirstFrameWatcher(window));
+    QCoreApplication::instance()->installEventFilter(new FirstFrameWatcher(window));
 }
 
 } // namespace qf

@@ -24,7 +24,10 @@ FeatureItem::FeatureItem(const QString& icon, const ui::Tint& iconColor, const Q
     tile->setSymbol(icon, 20, iconColor, int(SymbolWeight::semibold));
     row->addWidget(tile, 0, Qt::AlignVCenter);
 
+    // Centred by stretches rather than by alignment: an aligned layout keeps its one-line
+    // size hint and would cut a description that wraps onto a second line.
     auto* column = vstack(4);
+    column->addStretch(1);
     auto* titleLabel = new Label(title, Theme::font(15, QFont::DemiBold));
     titleLabel->setObjectName(QStringLiteral("featureTitle"));
     auto* descriptionLabel = new Label(description, Theme::font(13), Tint(Role::secondary));
@@ -32,8 +35,8 @@ FeatureItem::FeatureItem(const QString& icon, const ui::Tint& iconColor, const Q
     descriptionLabel->setWrapping(true, 2);
     column->addWidget(titleLabel);
     column->addWidget(descriptionLabel);
+    column->addStretch(1);
     row->addLayout(column, 1);
-    row->setAlignment(column, Qt::AlignVCenter);
 }
 
 } // namespace qf

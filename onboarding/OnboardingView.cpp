@@ -35,19 +35,21 @@ OnboardingView::OnboardingView(InstallationState& state, QWidget* parent) : QWid
     scroll->setObjectName(QStringLiteral("onboardingScroll"));
     root->addWidget(scroll);
 
+    // Every animated element is a direct child of the scroll content, so that while it rises
+    // into place it is never clipped by a smaller container; the stacks are plain layouts.
     auto* stack = vstack(scroll->content(), 40, QMargins(0, 60, 0, 0));
 
     // Header: logo and title block.
-    auto* header = new QWidget;
-    auto* headerLayout = vstack(header, 16);
+    auto* header = vstack(16);
     auto* logo = new ImageView(QStringLiteral("QuillforgeLogo"), 100);
     logo->setObjectName(QStringLiteral("quillforgeLogo"));
     logo->setAccessibleName(tr("Quillforge"));
     SurfaceEffect::of(logo)->setShadow(ShadowStyle{Tint(Role::accent, 0.3), 20, {0, 10}}, Shape::opaquePixels());
-    headerLayout->addWidget(logo, 0, Qt::AlignHCenter);
+    header->addWidget(logo, 0, Qt::AlignHCenter);
     m_logo = logo;
 
     m_titleBlock = new QWidget;
+    m_titleBlock->setObjectName(QStringLiteral("onboardingTitleBlock"));
     auto* titleLayout = vstack(m_titleBlock, 8);
     auto* title = new Label(tr("Welcome to Quillforge"), Theme::font(28, QFont::Bold, FontDesign::rounded));
     title->setObjectName(QStringLiteral("onboardingTitle"));
@@ -58,12 +60,11 @@ OnboardingView::OnboardingView(InstallationState& state, QWidget* parent) : QWid
     subtitle->setAlignment(Qt::AlignHCenter);
     titleLayout->addWidget(title, 0, Qt::AlignHCenter);
     titleLayout->addWidget(subtitle, 0, Qt::AlignHCenter);
-    headerLayout->addWidget(m_titleBlock, 0, Qt::AlignHCenter);
-    stack->addWidget(header);
+    header->addWidget(m_titleBlock, 0, Qt::AlignHCenter);
+    stack->addLayout(header);
 
     // Feature list.
-    auto* features = new QWidget;
-    auto* featureLayout = vstack(features, 16, QMargins(40, 0, 40, 0));
+    auto* features = vstack(16, QMargins(40, 0, 40, 0));
     struct Feature {
         const char* icon;
         Role color;
@@ -81,13 +82,14 @@ OnboardingView::OnboardingView(InstallationState& state, QWidget* parent) : QWid
     for (const Feature& feature : rows) {
         auto* item = new FeatureItem(QString::fromLatin1(feature.icon), Tint(feature.color), feature.title,
                                      feature.description);
-        featureLayout->addWidget(item);
+        features->addWidget(item);
         m_rows << item;
     }
-    stack->addWidget(features);
+    stack->addLayout(features);
 
-    // "Get Started".
+    // "Get Started", with its padding inside the animated row.
     m_buttonRow = new QWidget;
+    m_buttonRow->setObjectName(QStringLiteral("getStartedRow"));
     auto* buttonLayout = hstack(m_buttonRow, 0, QMargins(0, 20, 0, 60));
     auto* button = new Button(tr("Get Started"), Button::Style::prominent, Button::Size::large);
     button->setObjectName(QStringLiteral("getStartedButton"));

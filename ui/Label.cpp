@@ -46,14 +46,25 @@ void Label::setWrapping(bool wrap, int maximumLines)
 {
     setWordWrap(wrap);
     m_maximumLines = wrap ? std::max(0, maximumLines) : 0;
-    if (wrap)
-        setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Minimum);
+    if (wrap) {
+        QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Minimum);
+        policy.setHeightForWidth(true);
+        setSizePolicy(policy);
+    }
     updateGeometry();
     update();
 }
 
 int Label::lineCount(int width) const
 {
+    if (m_measuredText != text() || m_measuredFont != font()) {
+        m_measuredText = text();
+        m_measuredFont = font();
+        m_lineCounts.clear();
+    }
+    if (const auto cached = m_lineCounts.constFind(width); cached != m_lineCounts.constEnd())
+        return cached.value();
+
     QTextLayout layout(text(), font());
     QTextOption option;
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
@@ -68,7 +79,11 @@ int Label::lineCount(int width) const
         ++lines;
     }
     layout.endLayout();
-    return std::max(1, lines);
+    lines = std::max(1, lines);
+    if (m_lineCounts.size() > 32)
+        m_lineCounts.clear();
+    m_lineCounts.insert(width, lines);
+    return lines;
 }
 
 bool Label::hasHeightForWidth() const { return wordWrap(); }

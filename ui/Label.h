@@ -2,6 +2,7 @@
 
 #include "Theme.h"
 
+#include <QHash>
 #include <QLabel>
 
 namespace qf::ui {
@@ -36,6 +37,11 @@ private:
     Tint m_tint;
     int m_maximumLines = 0;
     bool m_applying = false;
+    // Layouts ask for the height at the same few widths over and over; shaping the text each
+    // time would dominate the cost of showing a screen.
+    mutable QString m_measuredText;
+    mutable QFont m_measuredFont;
+    mutable QHash<int, int> m_lineCounts;
 };
 
 } // namespace qf::ui

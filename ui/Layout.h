@@ -20,6 +20,10 @@ public:
     explicit ScrollView(QWidget* parent = nullptr);
     QWidget* content() const { return m_content; }
 
+    // A scroll view takes the room its screen gives it; asking the content for its size
+    // would lay the whole screen out just to throw the answer away.
+    QSize sizeHint() const override { return {320, 240}; }
+
 private:
     QWidget* m_content;
 };

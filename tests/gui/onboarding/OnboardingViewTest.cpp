@@ -48,11 +48,9 @@ struct Elements {
 
 Elements elementsOf(OnboardingView& view)
 {
-    QWidget* logo = test::child(&view, QStringLiteral("quillforgeLogo"));
-    QWidget* title = test::child(&view, QStringLiteral("onboardingTitle"));
-    QWidget* button = test::child(&view, QStringLiteral("getStartedButton"));
-    return {logo, title ? title->parentWidget() : nullptr, view.findChildren<FeatureItem*>(),
-            button ? button->parentWidget() : nullptr};
+    return {test::child(&view, QStringLiteral("quillforgeLogo")),
+            test::child(&view, QStringLiteral("onboardingTitleBlock")), view.findChildren<FeatureItem*>(),
+            test::child(&view, QStringLiteral("getStartedRow"))};
 }
 
 } // namespace
@@ -99,6 +97,10 @@ TEST_F(OnboardingTest, EntranceAnimationMovesEveryElementFromOutToIn)
     OnboardingView view(state);
     const Elements e = elementsOf(view);
     ASSERT_EQ(e.rows.size(), 3);
+    // Rising elements share one large parent, so nothing clips them on their way in.
+    QWidget* content = e.logo->parentWidget();
+    for (QWidget* element : {e.titleBlock, e.buttonRow, static_cast<QWidget*>(e.rows[2])})
+        EXPECT_EQ(element->parentWidget(), content);
 
     EXPECT_FALSE(view.animateIn());
     view.resize(800, 700);
@@ -192,9 +194,22 @@ TEST_F(OnboardingTest, ShortWindowsScrollTheContent)
     EXPECT_EQ(shot.size(), QSize(550, 450) * shot.devicePixelRatio());
     EXPECT_EQ(qAlpha(shot.pixel(2, shot.height() - 3)), 255);
 
+    // Narrow rows wrap their descriptions onto a second line instead of cutting them.
+    const QList<FeatureItem*> rows = view.findChildren<FeatureItem*>();
+    ASSERT_EQ(rows.size(), 3);
+    int wrappedRows = 0;
+    for (FeatureItem* row : rows) {
+        auto* description = test::child<QLabel>(row, QStringLiteral("featureDescription"));
+        EXPECT_GE(description->height(), description->heightForWidth(description->width()));
+        wrappedRows += description->height() >= 2 * QFontMetrics(description->font()).lineSpacing();
+    }
+    EXPECT_GE(wrappedRows, 1);
+    auto* wrapped = test::child<QLabel>(rows[2], QStringLiteral("featureDescription"));
+
     view.resize(1440, 900);
     test::settle();
     EXPECT_EQ(scroll->verticalScrollBar()->maximum(), 0);
+    EXPECT_LT(wrapped->height(), 2 * QFontMetrics(wrapped->font()).lineSpacing());
 }
 
 TEST_F(OnboardingTest, EveryControlHasAnAccessibleName)
