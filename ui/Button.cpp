@@ -3,6 +3,7 @@
 #include "Surface.h"
 
 #include <QEvent>
+#include <QKeyEvent>
 #include <QPainter>
 
 namespace qf::ui {
@@ -266,6 +267,16 @@ void Button::paintEvent(QPaintEvent*)
     }
     if (!m_trailing.name.isEmpty())
         drawSymbol(m_trailing);
+}
+
+void Button::keyPressEvent(QKeyEvent* event)
+{
+    // Return and Enter press a focused button, as Space does.
+    if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && event->modifiers() == Qt::NoModifier) {
+        animateClick();
+        return;
+    }
+    QAbstractButton::keyPressEvent(event);
 }
 
 bool Button::event(QEvent* event)
