@@ -1,12 +1,343 @@
 #include "PlatformBackends.h"
 
+#include <QDesktopServices>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QSysInfo>
+#include <QUrl>
+
+#include <cstdio>
+
 namespace qf {
+
+namespace {
+
+void printLine(const QString& text)
+{
+    const QByteArray line = (text + QLatin1Char('\n')).toUtf8();
+    std::fwrite(line.constData(), 1, static_cast<size_t>(line.size()), stdout);
+    std::fflush(stdout);
+}
+
+QMap<QString, QString> readOsRelease()
+{
+    for (const char* path : {"/etc/os-release", "/usr/lib/os-release"}) {
+        QFile file(QString::fromLatin1(path));
+        if (file.open(QIODevice::ReadOnly))
+            return LinuxPlatform::parseOsRelease(QString::fromUtf8(file.readAll()));
+    }
+    return {};
+}
+
+// The login shell the terminal ends in: the user's own when it can be run.
+QString userShell()
+{
+    const QString shell = qEnvironmentVariable("SHELL");
+    if (!shell.isEmpty()) {
+        const QFileInfo info(shell);
+        if (info.isFile() && info.isExecutable())
+            return shell;
+    }
+    return QStringLiteral("/bin/bash");
+}
+
+// "~" and "~/..." become paths under `home`, for emulators that take a working directory.
+QString expandHome(const QString& directory, const QString& home)
+{
+    if (directory == QLatin1String("~"))
+        return home;
+    if (directory.startsWith(QLatin1String("~/")))
+        return home + directory.mid(1);
+    return directory;
+}
+
+// The directory as the shell should see it: a leading "~/" stays outside the quotes so that
+// the shell expands it; the rest is quoted.
+QString shellDirectory(const QString& directory)
+{
+    if (directory == QLatin1String("~"))
+        return directory;
+    if (directory.startsWith(QLatin1String("~/"))) {
+        const QString rest = directory.mid(2);
+        return rest.isEmpty() ? directory : QStringLiteral("~/") + LinuxPlatform::shellQuote(rest);
+    }
+    return LinuxPlatform::shellQuote(directory);
+}
+
+bool isPlainShellCharacter(QChar c)
+{
+    const char16_t u = c.unicode();
+    if ((u >= 'a' && u <= 'z') || (u >= 'A' && u <= 'Z') || (u >= '0' && u <= '9'))
+        return true;
+    switch (u) {
+    case '_': case '.': case '/': case '-': case '+': case '=': case ':': case ',': case '@': case '%':
+        return true;
+    default:
+        return false;
+    }
+}
+
+QString packageLineFor(const QString& distribution)
+{
+    if (distribution == QLatin1String("debian") || distribution == QLatin1String("ubuntu"))
+        return QStringLiteral("sudo apt-get install -y git build-essential");
+    if (distribution == QLatin1String("fedora") || distribution == QLatin1String("rhel") ||
+        distribution == QLatin1String("centos"))
+        return QStringLiteral("sudo dnf install -y git gcc gcc-c++ make");
+    if (distribution == QLatin1String("arch"))
+        return QStringLiteral("sudo pacman -S --needed git base-devel");
+    if (distribution == QLatin1String("suse") || distribution.startsWith(QLatin1String("opensuse")))
+        return QStringLiteral("sudo zypper install -y git gcc gcc-c++ make");
+    return {};
+}
+
+} // namespace
 
 QString LinuxPlatform::name() const { return QStringLiteral("Linux"); }
 
 void LinuxPlatform::configureMainWindow(QWidget*)
 {
     // An ordinary decorated window: the window manager draws the title bar and corners.
+}
+
+OperatingSystemCheck LinuxPlatform::checkOperatingSystem() const
+{
+    return operatingSystemCheck(readOsRelease(), QSysInfo::WordSize == 64);
+}
+
+OperatingSystemCheck LinuxPlatform::operatingSystemCheck(const QMap<QString, QString>& osRelease, bool is64Bit)
+{
+    QString details = osRelease.value(QStringLiteral("PRETTY_NAME"));
+    if (details.isEmpty()) {
+        details = osRelease.value(QStringLiteral("NAME"));
+        const QString version = osRelease.value(QStringLiteral("VERSION_ID"));
+        if (!details.isEmpty() && !version.isEmpty())
+            details += QLatin1Char(' ') + version;
+    }
+    if (details.isEmpty())
+        details = QStringLiteral("Linux");
+    return {is64Bit, details};
+}
+
+QMap<QString, QString> LinuxPlatform::parseOsRelease(const QString& text)
+{
+    QMap<QString, QString> values;
+    const QStringList lines = text.split(QLatin1Char('\n'));
+    for (const QString& rawLine : lines) {
+        const QString line = rawLine.trimmed();
+        if (line.isEmpty() || line.startsWith(QLatin1Char('#')))
+            continue;
+        const qsizetype equals = line.indexOf(QLatin1Char('='));
+        if (equals <= 0)
+            continue;
+        const QString key = line.left(equals).trimmed();
+        if (key.isEmpty() || key.contains(QLatin1Char(' ')) || key.contains(QLatin1Char('\t')))
+            continue;
+
+        // The value follows shell quoting: '...' is literal, "..." resolves backslash escapes,
+        // and outside quotes a backslash takes the next character as it is.
+        QString value;
+        enum class Quote { None, Single, Double } quote = Quote::None;
+        const QString raw = line.mid(equals + 1);
+        qsizetype trailingBlanks = 0; // unquoted blanks at the end are not part of the value
+        for (qsizetype i = 0; i < raw.size(); ++i) {
+            const QChar c = raw.at(i);
+            switch (quote) {
+            case Quote::Single:
+                if (c == QLatin1Char('\''))
+                    quote = Quote::None;
+                else
+                    value += c;
+                break;
+            case Quote::Double:
+                if (c == QLatin1Char('"'))
+                    quote = Quote::None;
+                else if (c == QLatin1Char('\\') && i + 1 < raw.size())
+                    value += raw.at(++i);
+                else
+                    value += c;
+                break;
+            case Quote::None:
+                if (c == QLatin1Char('\'')) {
+                    quote = Quote::Single;
+                } else if (c == QLatin1Char('"')) {
+                    quote = Quote::Double;
+                } else if (c == QLatin1Char('\\') && i + 1 < raw.size()) {
+                    value += raw.at(++i);
+                } else {
+                    value += c;
+                    trailingBlanks = c.isSpace() ? trailingBlanks + 1 : 0;
+                    continue;
+                }
+                break;
+            }
+            trailingBlanks = 0;
+        }
+        value.chop(trailingBlanks);
+        values.insert(key, value);
+    }
+    return values;
+}
+
+QString LinuxPlatform::packageInstallLine(const QMap<QString, QString>& osRelease)
+{
+    QStringList distributions{osRelease.value(QStringLiteral("ID")).toLower()};
+    distributions += osRelease.value(QStringLiteral("ID_LIKE")).toLower().split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    for (const QString& distribution : distributions) {
+        const QString line = packageLineFor(distribution);
+        if (!line.isEmpty())
+            return line;
+    }
+    return packageLineFor(QStringLiteral("debian"));
+}
+
+const QStringList& LinuxPlatform::terminalEmulators()
+{
+    static const QStringList emulators{
+        QStringLiteral("xdg-terminal-exec"), QStringLiteral("x-terminal-emulator"), QStringLiteral("gnome-terminal"),
+        QStringLiteral("konsole"),           QStringLiteral("xfce4-terminal"),      QStringLiteral("xterm"),
+    };
+    return emulators;
+}
+
+std::optional<QString> LinuxPlatform::findTerminalEmulator(const QString& searchPath)
+{
+    const QStringList directories = searchPath.split(QLatin1Char(':'), Qt::SkipEmptyParts);
+    // findExecutable searches the process's PATH when given no directories.
+    if (directories.isEmpty())
+        return std::nullopt;
+    for (const QString& emulator : terminalEmulators()) {
+        const QString path = QStandardPaths::findExecutable(emulator, directories);
+        if (!path.isEmpty())
+            return path;
+    }
+    return std::nullopt;
+}
+
+QString LinuxPlatform::shellQuote(const QString& word)
+{
+    if (word.isEmpty())
+        return QStringLiteral("''");
+    // zsh replaces a word starting with "=" by the path of the command it names.
+    bool plain = !word.startsWith(QLatin1Char('='));
+    for (qsizetype i = 0; plain && i < word.size(); ++i)
+        plain = isPlainShellCharacter(word.at(i));
+    if (plain)
+        return word;
+    QString quoted = word;
+    quoted.replace(QLatin1Char('\''), QLatin1String("'\\''"));
+    return QLatin1Char('\'') + quoted + QLatin1Char('\'');
+}
+
+QString LinuxPlatform::terminalShellLine(const QString& command, const QString& directory, const QString& shell)
+{
+    return QStringLiteral("cd ") + shellDirectory(directory) + QStringLiteral(" && ") + command +
+           QStringLiteral("; exec ") + shellQuote(shell) + QStringLiteral(" -l");
+}
+
+QStringList LinuxPlatform::terminalCommandLine(const QString& emulator, const QString& command,
+                                               const QString& directory, const QString& home, const QString& shell)
+{
+    const QStringList inner{shell, QStringLiteral("-l"), QStringLiteral("-c"),
+                            terminalShellLine(command, directory, shell)};
+    const QString workingDirectory = expandHome(directory, home);
+    const QString kind = QFileInfo(emulator).fileName();
+
+    if (kind == QLatin1String("gnome-terminal"))
+        return QStringList{emulator, QStringLiteral("--working-directory=") + workingDirectory, QStringLiteral("--")} +
+               inner;
+    if (kind == QLatin1String("konsole"))
+        return QStringList{emulator, QStringLiteral("--workdir"), workingDirectory, QStringLiteral("-e")} + inner;
+    if (kind == QLatin1String("xfce4-terminal"))
+        return QStringList{emulator, QStringLiteral("--working-directory=") + workingDirectory, QStringLiteral("-x")} +
+               inner;
+    if (kind == QLatin1String("xterm"))
+        return QStringList{emulator, QStringLiteral("-hold"), QStringLiteral("-e")} + inner;
+    if (kind == QLatin1String("xdg-terminal-exec"))
+        return QStringList{emulator} + inner;
+    // x-terminal-emulator and anything else: the Debian convention of "-e program args...".
+    return QStringList{emulator, QStringLiteral("-e")} + inner;
+}
+
+void LinuxPlatform::openTerminal(const QString& command, const QString& directory)
+{
+    const std::optional<QString> emulator = findTerminalEmulator(qEnvironmentVariable("PATH"));
+    if (!emulator) {
+        printLine(QStringLiteral("Terminal error: no terminal emulator found (looked for ") +
+                  terminalEmulators().join(QStringLiteral(", ")) + QLatin1Char(')'));
+        return;
+    }
+    const QString home = QDir::homePath();
+    const QStringList commandLine = terminalCommandLine(*emulator, command, directory, home, userShell());
+
+    QProcess process;
+    process.setProgram(commandLine.first());
+    process.setArguments(commandLine.mid(1));
+    process.setWorkingDirectory(home);
+    process.setStandardInputFile(QProcess::nullDevice());
+    if (!process.startDetached()) {
+        QString reason = process.errorString();
+        if (reason.isEmpty() || process.error() == QProcess::UnknownError)
+            reason = QStringLiteral("could not start ") + *emulator;
+        printLine(QStringLiteral("Terminal error: ") + reason);
+    }
+}
+
+QString LinuxPlatform::terminalDescription() const
+{
+    const std::optional<QString> emulator = findTerminalEmulator(qEnvironmentVariable("PATH"));
+    if (!emulator)
+        return QStringLiteral("no terminal emulator found");
+    return QFileInfo(*emulator).fileName() + QStringLiteral(" (") + *emulator + QLatin1Char(')');
+}
+
+void LinuxPlatform::revealFolder(const QString& path) { QDesktopServices::openUrl(QUrl::fromLocalFile(path)); }
+
+DeveloperToolsItem LinuxPlatform::developerToolsItem() const { return gitToolsItem(); }
+
+DeveloperToolsItem LinuxPlatform::gitToolsItem()
+{
+    DeveloperToolsItem item;
+    // The dashboard knows this item by the key of its macOS counterpart.
+    item.id = QStringLiteral("xcode");
+    item.name = QStringLiteral("Git & Build Tools");
+    item.icon = QStringLiteral("hammer");
+    item.description = QStringLiteral("Provides Git and build tools");
+    item.presenceCommand = QStringLiteral("git --version");
+    item.versionCommand = QString(); // the presence command's output carries the version
+    item.versionPrefix = QStringLiteral("git version ");
+    item.uninstallCommand = std::nullopt;
+    item.uninstallNote = QStringLiteral("Use your system's package manager to remove Git");
+    return item;
+}
+
+void LinuxPlatform::startDeveloperToolsInstaller()
+{
+    openTerminal(packageInstallLine(readOsRelease()), QStringLiteral("~"));
+}
+
+QString LinuxPlatform::officialNodeInstallCommand() const
+{
+    return nodeTarballCommand(QSysInfo::currentCpuArchitecture());
+}
+
+QString LinuxPlatform::nodeTarballCommand(const QString& cpuArchitecture)
+{
+    QString arch = QStringLiteral("x64");
+    if (cpuArchitecture == QLatin1String("arm64") || cpuArchitecture == QLatin1String("aarch64"))
+        arch = QStringLiteral("arm64");
+    else if (cpuArchitecture == QLatin1String("armv7") || cpuArchitecture == QLatin1String("arm"))
+        arch = QStringLiteral("armv7l");
+
+    const QString release = QStringLiteral("node-v") + QLatin1String(kNodeReleaseVersion) + QStringLiteral("-linux-") + arch;
+    return QStringLiteral("mkdir -p ~/.local && curl -fsSL https://nodejs.org/dist/v") +
+           QLatin1String(kNodeReleaseVersion) + QLatin1Char('/') + release +
+           QStringLiteral(".tar.gz | tar -xz -C ~/.local --strip-components=1 --exclude=") + release +
+           QStringLiteral("/CHANGELOG.md --exclude=") + release + QStringLiteral("/LICENSE --exclude=") + release +
+           QStringLiteral("/README.md");
 }
 
 } // namespace qf

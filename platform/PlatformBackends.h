@@ -2,21 +2,78 @@
 
 #include "Platform.h"
 
+#include <QMap>
+
 namespace qf {
 
 // The backend for the system this binary was built for.
 Platform& nativePlatform();
 
-class LinuxPlatform : public Platform {
-public:
-    QString name() const override;
-    void configureMainWindow(QWidget* window) override;
-};
-
+// macOS: Terminal and System Events through AppleScript (run by /usr/bin/osascript), the
+// Command Line Tools installer, the official Node.js package. The script texts and command
+// lines are pure functions so that they are tested on every system.
 class MacPlatform : public Platform {
 public:
     QString name() const override;
     void configureMainWindow(QWidget* window) override;
+    OperatingSystemCheck checkOperatingSystem() const override;
+    void openTerminal(const QString& command, const QString& directory) override;
+    QString terminalDescription() const override;
+    void revealFolder(const QString& path) override;
+    DeveloperToolsItem developerToolsItem() const override;
+    void startDeveloperToolsInstaller() override;
+    QString officialNodeInstallCommand() const override;
+
+    // "macOS 14.5.0"-style check for a version triple: met from major version 14 on.
+    static OperatingSystemCheck operatingSystemCheck(int major, int minor, int patch);
+    // The AppleScript that opens a Terminal window running "cd DIR && COMMAND".
+    static QString terminalScript(const QString& command, const QString& directory);
+    // The AppleScript that brings the Command Line Tools installer to the front.
+    static QString systemEventsScript();
+    // osascript's arguments for a script: one -e per line.
+    static QStringList osascriptArguments(const QString& script);
+    static DeveloperToolsItem commandLineToolsItem();
+    static QString nodePackageCommand();
+};
+
+// Linux: the first terminal emulator found on PATH, os-release for the system's name, git and
+// the build tools as the developer-tools item, the Node.js release tarball under ~/.local.
+class LinuxPlatform : public Platform {
+public:
+    QString name() const override;
+    void configureMainWindow(QWidget* window) override;
+    OperatingSystemCheck checkOperatingSystem() const override;
+    void openTerminal(const QString& command, const QString& directory) override;
+    QString terminalDescription() const override;
+    void revealFolder(const QString& path) override;
+    DeveloperToolsItem developerToolsItem() const override;
+    void startDeveloperToolsInstaller() override;
+    QString officialNodeInstallCommand() const override;
+
+    // Terminal emulators in the order they are preferred.
+    static const QStringList& terminalEmulators();
+    // The first emulator (its absolute path) found in the ':'-separated `searchPath`.
+    static std::optional<QString> findTerminalEmulator(const QString& searchPath);
+    // The argument vector (program first) that opens `emulator` (a name or path) with a
+    // login shell that changes to `directory`, runs `command` and then stays open as an
+    // interactive shell. `home` expands a leading "~/" where the emulator wants a real path.
+    static QStringList terminalCommandLine(const QString& emulator, const QString& command, const QString& directory,
+                                           const QString& home, const QString& shell);
+    // The shell line run inside the terminal: cd to the directory (quoted, "~/" kept for the
+    // shell to expand), run the command, then replace itself by an interactive login shell.
+    static QString terminalShellLine(const QString& command, const QString& directory, const QString& shell);
+    // Single-quotes a word for sh, bash and zsh when it needs quoting.
+    static QString shellQuote(const QString& word);
+
+    // KEY=value lines of /etc/os-release, unquoted.
+    static QMap<QString, QString> parseOsRelease(const QString& text);
+    static OperatingSystemCheck operatingSystemCheck(const QMap<QString, QString>& osRelease, bool is64Bit);
+    // The package manager line that installs git and the build tools, by distribution.
+    static QString packageInstallLine(const QMap<QString, QString>& osRelease);
+    static DeveloperToolsItem gitToolsItem();
+    // Downloads and unpacks the fixed Node.js release for `cpuArchitecture` (as Qt names it:
+    // x86_64, arm64, ...) into ~/.local, so node, npm and global packages land in ~/.local/bin.
+    static QString nodeTarballCommand(const QString& cpuArchitecture);
 };
 
 } // namespace qf

@@ -1,0 +1,115 @@
+#pragma once
+
+#include <QCoreApplication>
+#include <QString>
+
+#include <optional>
+#include <utility>
+#include <variant>
+
+namespace qf {
+
+// A shell command that failed: it ran and ended with a non-zero status, it could not be
+// started, or it ran longer than it was allowed to and was stopped.
+class ShellError {
+    Q_DECLARE_TR_FUNCTIONS(ShellError)
+
+public:
+    enum Kind { commandFailed, processError, timedOut };
+
+    static ShellError failed(int exitCode, const QString& output);
+    // `description` is the launch error's own description.
+    static ShellError launchFailed(const QString& description);
+    static ShellError timeout(double seconds);
+
+    Kind kind() const { return m_kind; }
+    int exitCode() const { return m_exitCode; }
+    const QString& output() const { return m_text; }
+    // The message shown to the user.
+    QString errorDescription() const;
+
+    friend bool operator==(const ShellError&, const ShellError&) = default;
+
+private:
+    Kind m_kind = commandFailed;
+    int m_exitCode = 0;
+    QString m_text;
+    double m_seconds = 0;
+};
+
+// Failures of the installation and its relatives, each with its message.
+enum class InstallationError {
+    verificationFailed,
+    nodeInstallFailed,
+    gitNotFound,
+    uninstallFailed,
+    manualUninstallRequired,
+    folderNotEmpty,
+};
+QString errorDescription(InstallationError error);
+
+// What a service operation reports when it fails: a shell error, an installation error, or
+// another problem described in words (a file that could not be written, input refused).
+class ServiceError {
+public:
+    ServiceError(ShellError error) : m_cause(std::move(error)) {}
+    ServiceError(InstallationError error) : m_cause(error) {}
+    static ServiceError message(const QString& text)
+    {
+        ServiceError error(InstallationError::verificationFailed);
+        error.m_cause = text;
+        return error;
+    }
+
+    QString errorDescription() const;
+    const ShellError* shellError() const { return std::get_if<ShellError>(&m_cause); }
+    std::optional<InstallationError> installationError() const
+    {
+        if (auto* e = std::get_if<InstallationError>(&m_cause))
+            return *e;
+        return std::nullopt;
+    }
+
+    friend bool operator==(const ServiceError&, const ServiceError&) = default;
+
+private:
+    std::variant<ShellError, InstallationError, QString> m_cause;
+};
+
+// The outcome of an operation that may fail: a value, or the error that stopped it. Errors
+// travel as values so that nothing is thrown across a suspension point.
+template <typename T>
+class Result {
+public:
+    Result(T value) : m_state(std::move(value)) {}
+    Result(ServiceError error) : m_state(std::move(error)) {}
+    Result(ShellError error) : m_state(ServiceError(std::move(error))) {}
+    Result(InstallationError error) : m_state(ServiceError(error)) {}
+
+    bool ok() const { return std::holds_alternative<T>(m_state); }
+    explicit operator bool() const { return ok(); }
+    const T& value() const { return std::get<T>(m_state); }
+    T& value() { return std::get<T>(m_state); }
+    const ServiceError& error() const { return std::get<ServiceError>(m_state); }
+
+private:
+    std::variant<T, ServiceError> m_state;
+};
+
+template <>
+class Result<void> {
+public:
+    Result() = default;
+    Result(ServiceError error) : m_error(std::move(error)) {}
+    Result(ShellError error) : m_error(ServiceError(std::move(error))) {}
+    Result(InstallationError error) : m_error(ServiceError(error)) {}
+
+    bool ok() const { return !m_error.has_value(); }
+    explicit operator bool() const { return ok(); }
+    const ServiceError& error() const { return *m_error; }
+
+private:
+    std::optional<ServiceError> m_error;
+};
+
+} // namespace qf

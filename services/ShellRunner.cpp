@@ -1,0 +1,130 @@
+#include "ShellRunner.h"
+
+#include "ProcessRun.h"
+#include "Utf8Stream.h"
+
+#include <QCoro/QCoroTimer>
+#include <QDir>
+
+#include <algorithm>
+#include <chrono>
+
+namespace qf {
+
+using namespace std::chrono_literals;
+
+namespace {
+
+// Between a streamed command's end and the return of the call, so that every chunk of its
+// output has been handled first.
+constexpr auto kStreamCompletionDelay = 100ms;
+
+} // namespace
+
+ShellRunner& ShellRunner::shared()
+{
+    static ShellRunner runner;
+    return runner;
+}
+
+ShellRunner::ShellRunner() { resetConfiguration(); }
+
+QStringList ShellRunner::standardFixedDirectories()
+{
+    return {QStringLiteral("/usr/local/bin"), QStringLiteral("/opt/homebrew/bin"), QStringLiteral("/usr/bin"),
+            QStringLiteral("/bin")};
+}
+
+void ShellRunner::resetConfiguration()
+{
+    m_shell = QStringLiteral("/bin/zsh");
+    m_fixedDirectories = standardFixedDirectories();
+    m_inheritedPath.reset();
+    m_terminationGraceMs = 3000;
+}
+
+QString ShellRunner::searchPath(const QString& home, QStringList nvmVersionNames, const QStringList& fixedDirectories,
+                                const std::optional<QString>& inheritedPath)
+{
+    QStringList directories;
+    // Plain text order, not version order: v9.11.2 sorts after v20.10.0.
+    std::sort(nvmVersionNames.begin(), nvmVersionNames.end());
+    const QString versions = home + QStringLiteral("/.nvm/versions/node");
+    for (auto name = nvmVersionNames.crbegin(); name != nvmVersionNames.crend(); ++name)
+        directories << versions + QLatin1Char('/') + *name + QStringLiteral("/bin");
+    directories << home + QStringLiteral("/.local/bin");
+    directories << fixedDirectories;
+    if (inheritedPath)
+        directories << *inheritedPath;
+    return directories.join(QLatin1Char(':'));
+}
+
+QProcessEnvironment ShellRunner::commandEnvironment() const
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    const QString home = QDir::homePath();
+    // Every entry of nvm's version folder, hidden ones included; a missing folder adds nothing.
+    const QStringList versions = QDir(home + QStringLiteral("/.nvm/versions/node"))
+                                     .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+                                                QDir::NoSort);
+    std::optional<QString> inherited = m_inheritedPath;
+    if (!inherited && environment.contains(QStringLiteral("PATH")))
+        inherited = environment.value(QStringLiteral("PATH"));
+    environment.insert(QStringLiteral("PATH"), searchPath(home, versions, m_fixedDirectories, inherited));
+    return environment;
+}
+
+QCoro::Task<Result<QString>> ShellRunner::run(QString command, double timeoutSeconds)
+{
+    ProcessRun::Options options;
+    options.program = m_shell;
+    options.arguments = {QStringLiteral("-l"), QStringLiteral("-c"), command};
+    options.environment = commandEnvironment();
+    options.channels = ProcessRun::Channels::separate;
+    options.timeoutMs = timeoutSeconds > 0 ? static_cast<int>(std::min(timeoutSeconds * 1000.0, 2.0e9)) : 0;
+    options.terminationGraceMs = m_terminationGraceMs;
+
+    auto* process = new ProcessRun(std::move(options));
+    const ProcessOutcome outcome = co_await process->outcome();
+
+    switch (outcome.kind) {
+    case ProcessOutcome::failedToStart:
+        co_return ShellError::launchFailed(outcome.launchError);
+    case ProcessOutcome::timedOut:
+        co_return ShellError::timeout(timeoutSeconds);
+    case ProcessOutcome::exited:
+        break;
+    }
+
+    // A stream that is not valid UTF-8 counts as empty.
+    const QString output = decodeUtf8Strictly(outcome.standardOutput).value_or(QString());
+    if (outcome.exitCode == 0)
+        co_return output.trimmed();
+    const QString error = decodeUtf8Strictly(outcome.standardError).value_or(QString());
+    const QString combined = output.isEmpty() ? error : output + QLatin1Char('\n') + error;
+    co_return ShellError::failed(outcome.exitCode, combined.trimmed());
+}
+
+QCoro::Task<Result<void>> ShellRunner::runWithStreaming(QString command, OutputHandler onOutput, QObject* context)
+{
+    ProcessRun::Options options;
+    options.program = m_shell;
+    options.arguments = {QStringLiteral("-l"), QStringLiteral("-c"), command};
+    options.environment = commandEnvironment();
+    options.channels = ProcessRun::Channels::merged;
+    options.onOutput = std::move(onOutput);
+    options.context = context;
+    options.hasContext = context != nullptr;
+
+    auto* process = new ProcessRun(std::move(options));
+    const ProcessOutcome outcome = co_await process->outcome();
+    if (outcome.kind == ProcessOutcome::failedToStart)
+        co_return ShellError::launchFailed(outcome.launchError);
+
+    co_await QCoro::sleepFor(kStreamCompletionDelay);
+    if (outcome.exitCode == 0)
+        co_return Result<void>();
+    co_return ShellError::failed(outcome.exitCode, QStringLiteral("Command failed"));
+}
+
+} // namespace qf

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "Errors.h"
+
+#include <QCoro/QCoroTask>
+#include <QObject>
+#include <QPointer>
+#include <QProcessEnvironment>
+#include <QStringList>
+
+#include <functional>
+#include <optional>
+
+namespace qf {
+
+// Runs one shell command line at a time as a child process: `/bin/zsh -l -c LINE`, with the
+// application's environment and a search path that also covers Node.js versions installed
+// through nvm, ~/.local/bin and both usual Homebrew locations.
+//
+// Commands never read from a terminal: standard input is the null device and the child runs
+// in a session of its own, so a command that would ask a question fails at once instead of
+// waiting for an answer nobody sees. Everything runs on the GUI thread without blocking it.
+class ShellRunner {
+public:
+    using OutputHandler = std::function<void(const QString&)>;
+
+    // A command that has not ended after this many seconds is stopped.
+    static constexpr double defaultTimeoutSeconds = 600;
+
+    static ShellRunner& shared();
+
+    // Runs `command` and returns its standard output, trimmed. A non-zero exit gives
+    // `commandFailed` with standard output and standard error combined; a command still
+    // running after `timeoutSeconds` (0: no limit) is stopped, with its whole process group.
+    QCoro::Task<Result<QString>> run(QString command, double timeoutSeconds = defaultTimeoutSeconds);
+
+    // Runs `command` with standard output and error merged, handing the text to `onOutput`
+    // as it arrives (on the GUI thread), and returns 0.1 s after the command has ended. When
+    // `context` is given, output stops being delivered once it is destroyed. Not bounded.
+    QCoro::Task<Result<void>> runWithStreaming(QString command, OutputHandler onOutput, QObject* context = nullptr);
+
+    // The environment a command gets: the application's own, with PATH extended.
+    QProcessEnvironment commandEnvironment() const;
+
+    // PATH for a command: nvm's Node.js versions (names in descending text order), then
+    // ~/.local/bin, the fixed directories, and last the application's own PATH (if any).
+    static QString searchPath(const QString& home, QStringList nvmVersionNames, const QStringList& fixedDirectories,
+                              const std::optional<QString>& inheritedPath);
+
+    // Configuration, for tests and the support probe.
+    static QStringList standardFixedDirectories();
+    void setShell(const QString& shell) { m_shell = shell; }
+    QString shell() const { return m_shell; }
+    void setFixedDirectories(const QStringList& directories) { m_fixedDirectories = directories; }
+    // Replaces the application's PATH as the last element (nullopt: use the real one).
+    void setInheritedPath(const std::optional<QString>& path) { m_inheritedPath = path; }
+    // How long a stopped command gets between TERM and KILL.
+    void setTerminationGraceMs(int ms) { m_terminationGraceMs = ms; }
+    void resetConfiguration();
+
+private:
+    ShellRunner();
+
+    QString m_shell;
+    QStringList m_fixedDirectories;
+    std::optional<QString> m_inheritedPath;
+    int m_terminationGraceMs = 3000;
+};
+
+} // namespace qf

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QCoro/QCoroTask>
+#include <QEventLoop>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+#include <optional>
+
+namespace qf::test {
+
+// Runs a coroutine to its end in a local event loop. A coroutine that has not finished after
+// `limitMs` fails the test (instead of hanging it) and gives nothing.
+template <typename T>
+std::optional<T> await(QCoro::Task<T>&& task, int limitMs = 20000)
+{
+    QEventLoop loop;
+    std::optional<T> result;
+    bool done = false;
+    QCoro::connect(std::move(task), &loop, [&](T value) {
+        result.emplace(std::move(value));
+        done = true;
+        loop.quit();
+    });
+    QTimer limit;
+    limit.setSingleShot(true);
+    QObject::connect(&limit, &QTimer::timeout, &loop, &QEventLoop::quit);
+    limit.start(limitMs);
+    if (!done)
+        loop.exec();
+    if (!done)
+        ADD_FAILURE() << "the operation did not finish within " << limitMs << " ms";
+    return result;
+}
+
+inline bool await(QCoro::Task<void>&& task, int limitMs = 20000)
+{
+    QEventLoop loop;
+    bool done = false;
+    QCoro::connect(std::move(task), &loop, [&]() {
+        done = true;
+        loop.quit();
+    });
+    QTimer limit;
+    limit.setSingleShot(true);
+    QObject::connect(&limit, &QTimer::timeout, &loop, &QEventLoop::quit);
+    limit.start(limitMs);
+    if (!done)
+        loop.exec();
+    if (!done)
+        ADD_FAILURE() << "the operation did not finish within " << limitMs << " ms";
+    return done;
+}
+
+} // namespace qf::test

@@ -1,0 +1,113 @@
+#include "ShellSandbox.h"
+
+#include "ShellRunner.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QStandardPaths>
+
+#include <algorithm>
+
+#include <gtest/gtest.h>
+
+namespace qf::test {
+
+namespace {
+
+// Real utilities that commands and fakes may use; nothing that the app looks for.
+const char* const kUtilities[] = {
+    "sh", "bash", "cat", "sleep", "head", "tail", "printf", "mkdir", "rm", "rmdir", "dd", "tr", "ls", "env",
+    "true", "false", "echo", "wc", "sed", "grep", "seq", "touch", "chmod", "ln", "cp", "mv", "dirname",
+    "basename", "uname", "id", "tee", "yes", "mktemp", "sort", "cut", "stat", "readlink", "kill", "ps",
+};
+
+} // namespace
+
+ShellSandbox::ShellSandbox()
+{
+    EXPECT_TRUE(m_root.isValid());
+    QDir root(m_root.path());
+    root.mkpath(QStringLiteral("home"));
+    root.mkpath(QStringLiteral("bin"));
+    root.mkpath(QStringLiteral("tools"));
+    root.mkpath(QStringLiteral("state"));
+
+    const QStringList system = {QStringLiteral("/usr/bin"), QStringLiteral("/bin")};
+    for (const char* utility : kUtilities) {
+        const QString found = QStandardPaths::findExecutable(QString::fromLatin1(utility), system);
+        if (!found.isEmpty())
+            QFile::link(found, root.filePath(QStringLiteral("tools/") + QLatin1String(utility)));
+    }
+
+    setEnv("HOME", home().toUtf8());
+    setEnv("FAKE_BIN", binDirectory().toUtf8());
+    setEnv("FAKE_STATE", stateDirectory().toUtf8());
+    setEnv("FAKE_FIXTURES", QByteArray(QF_FIXTURES_DIR "/bin"));
+
+    ShellRunner& runner = ShellRunner::shared();
+    runner.resetConfiguration();
+    runner.setFixedDirectories({binDirectory()});
+    runner.setInheritedPath(root.filePath(QStringLiteral("tools")));
+}
+
+ShellSandbox::~ShellSandbox()
+{
+    ShellRunner::shared().resetConfiguration();
+    for (auto it = m_savedEnvironment.crbegin(); it != m_savedEnvironment.crend(); ++it) {
+        if (it->second)
+            qputenv(it->first.constData(), *it->second);
+        else
+            qunsetenv(it->first.constData());
+    }
+}
+
+QString ShellSandbox::home() const { return m_root.filePath(QStringLiteral("home")); }
+QString ShellSandbox::binDirectory() const { return m_root.filePath(QStringLiteral("bin")); }
+QString ShellSandbox::stateDirectory() const { return m_root.filePath(QStringLiteral("state")); }
+QString ShellSandbox::path(const QString& relative) const { return home() + QLatin1Char('/') + relative; }
+
+void ShellSandbox::installFake(const QString& name, const QString& as)
+{
+    const QString source = QStringLiteral(QF_FIXTURES_DIR "/bin/") + name;
+    const QString target = binDirectory() + QLatin1Char('/') + (as.isEmpty() ? name : as);
+    QFile::remove(target);
+    ASSERT_TRUE(QFile::copy(source, target)) << source.toStdString();
+    QFile::setPermissions(target, QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+}
+
+void ShellSandbox::removeFake(const QString& name) { QFile::remove(binDirectory() + QLatin1Char('/') + name); }
+
+void ShellSandbox::setEnv(const char* name, const QByteArray& value)
+{
+    const bool known = std::any_of(m_savedEnvironment.cbegin(), m_savedEnvironment.cend(),
+                                   [&](const auto& saved) { return saved.first == name; });
+    if (!known) {
+        std::optional<QByteArray> previous;
+        if (qEnvironmentVariableIsSet(name))
+            previous = qgetenv(name);
+        m_savedEnvironment.append({QByteArray(name), previous});
+    }
+    qputenv(name, value);
+}
+
+void ShellSandbox::writeFile(const QString& relative, const QByteArray& content)
+{
+    const QString full = path(relative);
+    QDir().mkpath(QFileInfo(full).absolutePath());
+    QFile file(full);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate)) << full.toStdString();
+    file.write(content);
+}
+
+QByteArray ShellSandbox::readFile(const QString& relative) const
+{
+    QFile file(path(relative));
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    return file.readAll();
+}
+
+bool ShellSandbox::exists(const QString& relative) const { return QFileInfo::exists(path(relative)); }
+
+} // namespace qf::test

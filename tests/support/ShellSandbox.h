@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+#include <QPair>
+#include <QString>
+#include <QTemporaryDir>
+
+#include <optional>
+
+namespace qf::test {
+
+// A machine of its own for one test: a temporary HOME, a folder of fake programs (from
+// tests/fixtures/bin) that is the only fixed search directory of the shell runner, and a
+// folder of the few real utilities the fakes and commands need in place of the real PATH.
+// So "Node.js is missing" holds here whatever this machine has installed. Everything is
+// restored when the sandbox goes away.
+class ShellSandbox {
+public:
+    ShellSandbox();
+    ~ShellSandbox();
+
+    QString home() const;
+    QString binDirectory() const;   // fake programs live here
+    QString stateDirectory() const; // fakes keep what they "installed" here
+    QString path(const QString& relative) const;  // inside home
+
+    // Puts the fake `name` (or a copy of it under `as`) into the fake program folder.
+    void installFake(const QString& name, const QString& as = QString());
+    void removeFake(const QString& name);
+    // Sets an environment variable for the rest of the test.
+    void setEnv(const char* name, const QByteArray& value);
+    void writeFile(const QString& relative, const QByteArray& content);
+    QByteArray readFile(const QString& relative) const;
+    bool exists(const QString& relative) const;
+
+private:
+    QTemporaryDir m_root;
+    QList<QPair<QByteArray, std::optional<QByteArray>>> m_savedEnvironment;
+};
+
+} // namespace qf::test

@@ -1,0 +1,561 @@
+#include "PlatformBackends.h"
+#include "PlatformTestTools.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSysInfo>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <cctype>
+#include <ostream>
+#include <string>
+
+using qf::LinuxPlatform;
+using qf::test::runShell;
+
+namespace {
+
+QString q(const char* text) { return QString::fromUtf8(text); }
+
+QStringList inner(const QString& shell, const QString& line)
+{
+    return {shell, QStringLiteral("-l"), QStringLiteral("-c"), line};
+}
+
+// --- Shell quoting -------------------------------------------------------------------------
+
+TEST(LinuxPlatformShellQuote, LeavesPlainWordsAlone)
+{
+    for (const char* word : {"claude", "/usr/bin/zsh", "a-b_c.d+e=f:g,h@i%j", "Developer", "20.10.0"})
+        EXPECT_EQ(LinuxPlatform::shellQuote(q(word)), q(word));
+}
+
+TEST(LinuxPlatformShellQuote, QuotesEverythingElse)
+{
+    EXPECT_EQ(LinuxPlatform::shellQuote(QString()), QStringLiteral("''"));
+    EXPECT_EQ(LinuxPlatform::shellQuote(QStringLiteral("My Projects")), QStringLiteral("'My Projects'"));
+    EXPECT_EQ(LinuxPlatform::shellQuote(QStringLiteral("it's")), QStringLiteral("'it'\\''s'"));
+    EXPECT_EQ(LinuxPlatform::shellQuote(QStringLiteral("~")), QStringLiteral("'~'"));
+    EXPECT_EQ(LinuxPlatform::shellQuote(QStringLiteral("=true")), QStringLiteral("'=true'"));
+}
+
+// Every word, quoted, must reach a real shell's printf exactly as it was, and nothing in it
+// may run.
+TEST(LinuxPlatformShellQuote, HostileWordsSurviveRealShells)
+{
+    const QStringList words{
+        QStringLiteral("two words"),        QStringLiteral("it's"),           QStringLiteral("\"double\""),
+        QStringLiteral("$(touch pwned)"),   QStringLiteral("`touch pwned`"),  QStringLiteral("back\\slash\\"),
+        QStringLiteral("bang! !! !$"),      QStringLiteral("line\nbreak\n"),  QStringLiteral("$HOME ${HOME}"),
+        QStringLiteral("*"),                QStringLiteral("~"),              QStringLiteral("~/x"),
+        QStringLiteral("=true"),            QString(),                        QStringLiteral("'"),
+        QStringLiteral("''\\'"),            QStringLiteral("tab\there"),      QStringLiteral("a;b|c&d>e<f"),
+        QStringLiteral("{a,b}"),            QStringLiteral("-n"),             QStringLiteral("%1 %s"),
+        QStringLiteral("\u00fcml\u00e4ut"), QStringLiteral("#not a comment"), QStringLiteral("a=$(touch pwned)"),
+    };
+    QTemporaryDir sandbox;
+    ASSERT_TRUE(sandbox.isValid());
+
+    for (const QString& shell : qf::test::availableShells()) {
+        for (const QString& word : words) {
+            const QString script = QStringLiteral("printf %s ") + LinuxPlatform::shellQuote(word);
+            const qf::test::ShellRun run = runShell(shell, script, sandbox.path(), sandbox.path());
+            ASSERT_TRUE(run.finished) << shell.toStdString();
+            EXPECT_EQ(run.exitCode, 0) << shell.toStdString() << ": " << script.toStdString() << "\n"
+                                       << run.err.toStdString();
+            EXPECT_EQ(QString::fromUtf8(run.out), word) << shell.toStdString() << ": " << script.toStdString();
+        }
+        EXPECT_FALSE(QFile::exists(sandbox.filePath(QStringLiteral("pwned")))) << shell.toStdString();
+    }
+}
+
+// --- The line run inside the terminal ------------------------------------------------------
+
+TEST(LinuxPlatformShellLine, KeepsTildeForTheShell)
+{
+    EXPECT_EQ(LinuxPlatform::terminalShellLine(QStringLiteral("claude"), QStringLiteral("~/Developer"),
+                                               QStringLiteral("/bin/zsh")),
+              QStringLiteral("cd ~/Developer && claude; exec /bin/zsh -l"));
+    EXPECT_EQ(LinuxPlatform::terminalShellLine(QStringLiteral("gemini"), QStringLiteral("~/My Projects"),
+                                               QStringLiteral("/bin/bash")),
+              QStringLiteral("cd ~/'My Projects' && gemini; exec /bin/bash -l"));
+    EXPECT_EQ(LinuxPlatform::terminalShellLine(QStringLiteral("sudo apt-get install -y git build-essential"),
+                                               QStringLiteral("~"), QStringLiteral("/bin/bash")),
+              QStringLiteral("cd ~ && sudo apt-get install -y git build-essential; exec /bin/bash -l"));
+    EXPECT_EQ(LinuxPlatform::terminalShellLine(QStringLiteral("codex"), QStringLiteral("/srv/a b"),
+                                               QStringLiteral("/opt/my shell/fish")),
+              QStringLiteral("cd '/srv/a b' && codex; exec '/opt/my shell/fish' -l"));
+}
+
+// The line is run for real: `pwd` stands for the command and /bin/true for the login shell
+// that replaces it, so the shell prints where it arrived and then ends.
+TEST(LinuxPlatformShellLine, DirectoriesWithBlanksAndQuotesArriveIntact)
+{
+    QTemporaryDir sandbox;
+    ASSERT_TRUE(sandbox.isValid());
+    const QString home = sandbox.filePath(QStringLiteral("home"));
+    const QString relative = QStringLiteral("My Projects/it's \"here\"");
+    const QString absolute = sandbox.filePath(QStringLiteral("abs dir/$(touch pwned) `touch pwned` \\ !x ~ *"));
+    ASSERT_TRUE(QDir().mkpath(home + QLatin1Char('/') + relative));
+    ASSERT_TRUE(QDir().mkpath(absolute));
+
+    const QList<QPair<QString, QString>> cases{
+        {QStringLiteral("~/") + relative, home + QLatin1Char('/') + relative},
+        {absolute, absolute},
+        {QStringLiteral("~"), home},
+    };
+    for (const QString& shell : qf::test::availableShells()) {
+        for (const auto& [directory, expected] : cases) {
+            const QString line = LinuxPlatform::terminalShellLine(QStringLiteral("pwd"), directory, QStringLiteral("/bin/true"));
+            const qf::test::ShellRun run = runShell(shell, line, home, sandbox.path());
+            ASSERT_TRUE(run.finished);
+            EXPECT_EQ(run.exitCode, 0) << shell.toStdString() << ": " << line.toStdString() << "\n"
+                                       << run.err.toStdString();
+            EXPECT_EQ(QString::fromUtf8(run.out), expected + QLatin1Char('\n'))
+                << shell.toStdString() << ": " << line.toStdString();
+        }
+    }
+    EXPECT_FALSE(QFile::exists(sandbox.filePath(QStringLiteral("pwned"))));
+}
+
+// A missing directory stops the line at `cd` (the && keeps the command from running) and the
+// terminal still ends in the login shell.
+TEST(LinuxPlatformShellLine, MissingDirectorySkipsTheCommandButKeepsTheShell)
+{
+    QTemporaryDir sandbox;
+    ASSERT_TRUE(sandbox.isValid());
+    const QString line = LinuxPlatform::terminalShellLine(QStringLiteral("touch ran"), QStringLiteral("~/Developer"),
+                                                          QStringLiteral("/bin/echo"));
+    const qf::test::ShellRun run = runShell(QStringLiteral("/bin/sh"), line, sandbox.path(), sandbox.path());
+    ASSERT_TRUE(run.finished);
+    EXPECT_EQ(QString::fromUtf8(run.out), QStringLiteral("-l\n"));
+    EXPECT_FALSE(QFile::exists(sandbox.filePath(QStringLiteral("ran"))));
+}
+
+// --- The emulator's command line -----------------------------------------------------------
+
+struct EmulatorCase {
+    const char* emulator;
+    const char* directory;
+    QStringList expectedOptions; // everything between the program and the inner shell
+};
+
+void PrintTo(const EmulatorCase& c, std::ostream* os) { *os << c.emulator << " in " << c.directory; }
+
+class LinuxPlatformCommandLine : public ::testing::TestWithParam<EmulatorCase> {};
+
+TEST_P(LinuxPlatformCommandLine, StartsALoginShellInTheDirectory)
+{
+    const EmulatorCase& c = GetParam();
+    const QString shell = QStringLiteral("/usr/bin/zsh");
+    const QStringList commandLine = LinuxPlatform::terminalCommandLine(
+        q(c.emulator), QStringLiteral("claude"), q(c.directory), QStringLiteral("/home/ada"), shell);
+
+    const QStringList expected = QStringList{q(c.emulator)} + c.expectedOptions +
+                                 inner(shell, LinuxPlatform::terminalShellLine(QStringLiteral("claude"), q(c.directory), shell));
+    EXPECT_EQ(commandLine, expected);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    LinuxPlatform, LinuxPlatformCommandLine,
+    ::testing::Values(
+        EmulatorCase{"/usr/bin/gnome-terminal", "~/Developer",
+                     {QStringLiteral("--working-directory=/home/ada/Developer"), QStringLiteral("--")}},
+        EmulatorCase{"/usr/bin/konsole", "~/Developer",
+                     {QStringLiteral("--workdir"), QStringLiteral("/home/ada/Developer"), QStringLiteral("-e")}},
+        EmulatorCase{"/usr/bin/xfce4-terminal", "~/Developer",
+                     {QStringLiteral("--working-directory=/home/ada/Developer"), QStringLiteral("-x")}},
+        EmulatorCase{"/usr/bin/xterm", "~/Developer", {QStringLiteral("-hold"), QStringLiteral("-e")}},
+        EmulatorCase{"/usr/bin/x-terminal-emulator", "~/Developer", {QStringLiteral("-e")}},
+        EmulatorCase{"/usr/local/bin/xdg-terminal-exec", "~/Developer", {}},
+        EmulatorCase{"/opt/kitty/bin/kitty", "~/Developer", {QStringLiteral("-e")}},
+        EmulatorCase{"gnome-terminal", "~", {QStringLiteral("--working-directory=/home/ada"), QStringLiteral("--")}},
+        EmulatorCase{"konsole", "/srv/My Projects",
+                     {QStringLiteral("--workdir"), QStringLiteral("/srv/My Projects"), QStringLiteral("-e")}}),
+    [](const ::testing::TestParamInfo<EmulatorCase>& info) {
+        std::string name = QFileInfo(q(info.param.emulator)).fileName().toStdString() + "_" +
+                           std::to_string(info.index);
+        for (char& ch : name)
+            if (!std::isalnum(static_cast<unsigned char>(ch)))
+                ch = '_';
+        return name;
+    });
+
+TEST(LinuxPlatformCommandLineShape, XtermHasEAsItsLastOption)
+{
+    const QStringList commandLine = LinuxPlatform::terminalCommandLine(
+        QStringLiteral("xterm"), QStringLiteral("codex"), QStringLiteral("~/Developer"), QStringLiteral("/h"),
+        QStringLiteral("/bin/bash"));
+    ASSERT_EQ(commandLine.size(), 7);
+    EXPECT_TRUE(commandLine.contains(QStringLiteral("-hold")));
+    // Everything after -e is the program xterm runs.
+    EXPECT_EQ(commandLine.indexOf(QStringLiteral("-e")), 2);
+    EXPECT_EQ(commandLine.mid(3),
+              inner(QStringLiteral("/bin/bash"), QStringLiteral("cd ~/Developer && codex; exec /bin/bash -l")));
+}
+
+// --- Finding the emulator ------------------------------------------------------------------
+
+TEST(LinuxPlatformFindEmulator, TakesTheMostPreferredEmulatorOnThePath)
+{
+    QTemporaryDir first;
+    QTemporaryDir second;
+    ASSERT_TRUE(first.isValid() && second.isValid());
+    const QString searchPath = first.path() + QLatin1Char(':') + second.path();
+
+    EXPECT_EQ(LinuxPlatform::findTerminalEmulator(searchPath), std::nullopt);
+
+    ASSERT_TRUE(qf::test::writeExecutable(first.filePath(QStringLiteral("xterm")), "#!/bin/sh\n"));
+    EXPECT_EQ(LinuxPlatform::findTerminalEmulator(searchPath), first.filePath(QStringLiteral("xterm")));
+
+    // Neither a file that cannot be run nor a directory counts.
+    QFile plain(first.filePath(QStringLiteral("gnome-terminal")));
+    ASSERT_TRUE(plain.open(QIODevice::WriteOnly));
+    plain.close();
+    ASSERT_TRUE(QDir(first.path()).mkdir(QStringLiteral("xdg-terminal-exec")));
+    EXPECT_EQ(LinuxPlatform::findTerminalEmulator(searchPath), first.filePath(QStringLiteral("xterm")));
+
+    // Preference beats the order of the directories.
+    ASSERT_TRUE(qf::test::writeExecutable(second.filePath(QStringLiteral("konsole")), "#!/bin/sh\n"));
+    EXPECT_EQ(LinuxPlatform::findTerminalEmulator(searchPath), second.filePath(QStringLiteral("konsole")));
+
+    ASSERT_TRUE(qf::test::writeExecutable(second.filePath(QStringLiteral("x-terminal-emulator")), "#!/bin/sh\n"));
+    ASSERT_TRUE(qf::test::writeExecutable(first.filePath(QStringLiteral("x-terminal-emulator")), "#!/bin/sh\n"));
+    EXPECT_EQ(LinuxPlatform::findTerminalEmulator(searchPath), first.filePath(QStringLiteral("x-terminal-emulator")));
+
+    ASSERT_TRUE(qf::test::writeExecutable(second.filePath(QStringLiteral("xdg-terminal-exec")), "#!/bin/sh\n"));
+    EXPECT_EQ(LinuxPlatform::findTerminalEmulator(searchPath), second.filePath(QStringLiteral("xdg-terminal-exec")));
+}
+
+TEST(LinuxPlatformFindEmulator, EmptyPathFindsNothing)
+{
+    // Not even what the machine itself has installed.
+    EXPECT_EQ(LinuxPlatform::findTerminalEmulator(QString()), std::nullopt);
+    EXPECT_EQ(LinuxPlatform::findTerminalEmulator(QStringLiteral("::")), std::nullopt);
+}
+
+TEST(LinuxPlatformFindEmulator, PreferenceOrder)
+{
+    EXPECT_EQ(LinuxPlatform::terminalEmulators(),
+              (QStringList{QStringLiteral("xdg-terminal-exec"), QStringLiteral("x-terminal-emulator"),
+                           QStringLiteral("gnome-terminal"), QStringLiteral("konsole"),
+                           QStringLiteral("xfce4-terminal"), QStringLiteral("xterm")}));
+}
+
+// --- Opening a terminal, end to end with fake emulators ------------------------------------
+
+class LinuxPlatformOpenTerminal : public ::testing::TestWithParam<const char*> {};
+
+// The fake emulator records its arguments and working directory, then runs the program it
+// was given the way the real one would. The fake login shell runs `-c` lines with sh and,
+// started on its own (the interactive shell the line ends in), leaves a mark.
+TEST_P(LinuxPlatformOpenTerminal, RunsTheLineInTheDirectoryAndEndsInTheShell)
+{
+    const QString emulatorName = q(GetParam());
+    QTemporaryDir sandbox;
+    ASSERT_TRUE(sandbox.isValid());
+    const QString home = sandbox.filePath(QStringLiteral("home"));
+    const QString bin = sandbox.filePath(QStringLiteral("bin"));
+    const QString relative = QStringLiteral("My Projects/it's \"here\"");
+    ASSERT_TRUE(QDir().mkpath(home + QLatin1Char('/') + relative));
+    ASSERT_TRUE(QDir().mkpath(bin));
+    const auto quoted = [](const QString& path) { return LinuxPlatform::shellQuote(path).toUtf8(); };
+    const QString argsFile = sandbox.filePath(QStringLiteral("emulator-args"));
+    const QString cwdFile = sandbox.filePath(QStringLiteral("emulator-cwd"));
+    const QString pwdFile = sandbox.filePath(QStringLiteral("command-pwd"));
+    const QString shellMark = sandbox.filePath(QStringLiteral("login-shell"));
+
+    QByteArray emulator = "#!/bin/sh\n"
+                          "for a in \"$@\"; do printf '%s\\n' \"$a\"; done > " + quoted(argsFile) + "\n"
+                          "pwd > " + quoted(cwdFile) + "\n";
+    if (emulatorName != QLatin1String("xdg-terminal-exec"))
+        emulator += "while [ $# -gt 0 ]; do a=$1; shift; case $a in --|-e|-x) break;; esac; done\n";
+    emulator += "exec \"$@\"\n";
+    ASSERT_TRUE(qf::test::writeExecutable(bin + QLatin1Char('/') + emulatorName, emulator));
+
+    const QString shell = sandbox.filePath(QStringLiteral("shells/fake sh"));
+    ASSERT_TRUE(QDir().mkpath(QFileInfo(shell).path()));
+    ASSERT_TRUE(qf::test::writeExecutable(shell, "#!/bin/sh\n"
+                                                 "if [ \"$1\" = -l ] && [ \"$2\" = -c ]; then exec /bin/sh -c \"$3\"; fi\n"
+                                                 "printf '%s\\n' \"$*\" > " + quoted(shellMark) + "\n"));
+
+    qf::test::ScopedEnv pathEnv("PATH", bin.toUtf8());
+    qf::test::ScopedEnv homeEnv("HOME", home.toUtf8());
+    qf::test::ScopedEnv shellEnv("SHELL", shell.toUtf8());
+
+    LinuxPlatform platform;
+    EXPECT_EQ(platform.terminalDescription(), emulatorName + QStringLiteral(" (") + bin + QLatin1Char('/') +
+                                                  emulatorName + QLatin1Char(')'));
+    qf::test::StdoutCapture capture;
+    platform.openTerminal(QStringLiteral("pwd > ") + LinuxPlatform::shellQuote(pwdFile),
+                          QStringLiteral("~/") + relative);
+    const bool ended = QTest::qWaitFor([&] { return QFile::exists(shellMark); }, 20000);
+    const QString printed = capture.text();
+    capture.restore();
+
+    EXPECT_EQ(printed, QString());
+    ASSERT_TRUE(ended) << "the login shell never started";
+
+    const auto read = [](const QString& path) {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QStringLiteral("<missing>");
+    };
+    EXPECT_EQ(read(pwdFile), home + QLatin1Char('/') + relative + QLatin1Char('\n'));
+    // The emulator starts in the home folder (compared as real paths: the temporary folder
+    // may lie behind a symbolic link).
+    EXPECT_EQ(QFileInfo(read(cwdFile).trimmed()).canonicalFilePath(), QFileInfo(home).canonicalFilePath());
+    EXPECT_EQ(read(shellMark), QStringLiteral("-l\n"));
+
+    const QStringList expected = LinuxPlatform::terminalCommandLine(
+        bin + QLatin1Char('/') + emulatorName, QStringLiteral("pwd > ") + LinuxPlatform::shellQuote(pwdFile),
+        QStringLiteral("~/") + relative, home, shell);
+    EXPECT_EQ(read(argsFile), expected.mid(1).join(QLatin1Char('\n')) + QLatin1Char('\n'));
+}
+
+INSTANTIATE_TEST_SUITE_P(LinuxPlatform, LinuxPlatformOpenTerminal,
+                         ::testing::Values("xdg-terminal-exec", "x-terminal-emulator", "gnome-terminal", "konsole",
+                                           "xfce4-terminal", "xterm"),
+                         [](const ::testing::TestParamInfo<const char*>& info) {
+                             std::string name = info.param;
+                             for (char& ch : name)
+                                 if (ch == '-')
+                                     ch = '_';
+                             return name;
+                         });
+
+TEST(LinuxPlatformOpenTerminalFailures, NoEmulatorIsOneDiagnosticLine)
+{
+    QTemporaryDir empty;
+    ASSERT_TRUE(empty.isValid());
+    qf::test::ScopedEnv pathEnv("PATH", empty.path().toUtf8());
+
+    LinuxPlatform platform;
+    EXPECT_EQ(platform.terminalDescription(), QStringLiteral("no terminal emulator found"));
+    qf::test::StdoutCapture capture;
+    platform.openTerminal(QStringLiteral("claude"), QStringLiteral("~/Developer"));
+    const QString printed = capture.text();
+    capture.restore();
+    EXPECT_EQ(printed, QStringLiteral("Terminal error: no terminal emulator found (looked for xdg-terminal-exec, "
+                                      "x-terminal-emulator, gnome-terminal, konsole, xfce4-terminal, xterm)\n"));
+}
+
+TEST(LinuxPlatformOpenTerminalFailures, EmulatorThatCannotStartIsOneDiagnosticLine)
+{
+    QTemporaryDir bin;
+    ASSERT_TRUE(bin.isValid());
+    ASSERT_TRUE(qf::test::writeExecutable(bin.filePath(QStringLiteral("xterm")), "#!/nonexistent/interpreter\n"));
+    qf::test::ScopedEnv pathEnv("PATH", bin.path().toUtf8());
+
+    qf::test::StdoutCapture capture;
+    LinuxPlatform().openTerminal(QStringLiteral("claude"), QStringLiteral("~/Developer"));
+    const QString printed = capture.text();
+    capture.restore();
+    EXPECT_TRUE(printed.startsWith(QStringLiteral("Terminal error: "))) << printed.toStdString();
+    EXPECT_GT(printed.trimmed().size(), QStringLiteral("Terminal error:").size()) << "the reason is missing";
+    EXPECT_EQ(printed.count(QLatin1Char('\n')), 1) << printed.toStdString();
+    EXPECT_TRUE(printed.endsWith(QLatin1Char('\n')));
+}
+
+// --- The operating system ------------------------------------------------------------------
+
+TEST(LinuxPlatformOsRelease, ParsesQuotingLikeTheShell)
+{
+    const QString text = QStringLiteral("# os-release of a test system\n"
+                                        "\n"
+                                        "PRETTY_NAME=\"Debian GNU/Linux 12 (bookworm)\"\n"
+                                        "NAME='Debian GNU/Linux'\n"
+                                        "VERSION_ID=\"12\"\r\n"
+                                        "ID=debian   \n"
+                                        "   # an indented comment=ignored\n"
+                                        "QUOTES=\"say \\\"hi\\\" \\\\ \\$HOME \\`x\\`\"\n"
+                                        "SINGLE='no \\escapes \"here\"'\n"
+                                        "EMPTY=\n"
+                                        "EMPTY_QUOTED=\"\"\n"
+                                        "HOME_URL=https://www.debian.org/\n"
+                                        "a line without an equals sign\n"
+                                        "=no key\n");
+    const QMap<QString, QString> expected{
+        {QStringLiteral("PRETTY_NAME"), QStringLiteral("Debian GNU/Linux 12 (bookworm)")},
+        {QStringLiteral("NAME"), QStringLiteral("Debian GNU/Linux")},
+        {QStringLiteral("VERSION_ID"), QStringLiteral("12")},
+        {QStringLiteral("ID"), QStringLiteral("debian")},
+        {QStringLiteral("QUOTES"), QStringLiteral("say \"hi\" \\ $HOME `x`")},
+        {QStringLiteral("SINGLE"), QStringLiteral("no \\escapes \"here\"")},
+        {QStringLiteral("EMPTY"), QString()},
+        {QStringLiteral("EMPTY_QUOTED"), QString()},
+        {QStringLiteral("HOME_URL"), QStringLiteral("https://www.debian.org/")},
+    };
+    EXPECT_EQ(LinuxPlatform::parseOsRelease(text), expected);
+}
+
+TEST(LinuxPlatformOsRelease, OperatingSystemCheck)
+{
+    using Map = QMap<QString, QString>;
+    const Map debian{{QStringLiteral("PRETTY_NAME"), QStringLiteral("Debian GNU/Linux 12 (bookworm)")},
+                     {QStringLiteral("NAME"), QStringLiteral("Debian GNU/Linux")},
+                     {QStringLiteral("VERSION_ID"), QStringLiteral("12")}};
+    qf::OperatingSystemCheck check = LinuxPlatform::operatingSystemCheck(debian, true);
+    EXPECT_TRUE(check.met);
+    EXPECT_EQ(check.details, QStringLiteral("Debian GNU/Linux 12 (bookworm)"));
+
+    check = LinuxPlatform::operatingSystemCheck(debian, false);
+    EXPECT_FALSE(check.met);
+    EXPECT_EQ(check.details, QStringLiteral("Debian GNU/Linux 12 (bookworm)"));
+
+    check = LinuxPlatform::operatingSystemCheck(
+        Map{{QStringLiteral("NAME"), QStringLiteral("Fedora Linux")}, {QStringLiteral("VERSION_ID"), QStringLiteral("39")}},
+        true);
+    EXPECT_EQ(check.details, QStringLiteral("Fedora Linux 39"));
+
+    check = LinuxPlatform::operatingSystemCheck(Map{{QStringLiteral("NAME"), QStringLiteral("Arch Linux")}}, true);
+    EXPECT_EQ(check.details, QStringLiteral("Arch Linux"));
+
+    check = LinuxPlatform::operatingSystemCheck(Map{}, true);
+    EXPECT_TRUE(check.met);
+    EXPECT_EQ(check.details, QStringLiteral("Linux"));
+}
+
+TEST(LinuxPlatformOsRelease, ThisMachine)
+{
+    const qf::OperatingSystemCheck check = LinuxPlatform().checkOperatingSystem();
+    EXPECT_EQ(check.met, QSysInfo::WordSize == 64);
+    EXPECT_FALSE(check.details.isEmpty());
+}
+
+struct DistributionCase {
+    const char* id;
+    const char* idLike;
+    const char* expected;
+};
+
+void PrintTo(const DistributionCase& c, std::ostream* os) { *os << "ID=" << c.id << " ID_LIKE=" << c.idLike; }
+
+class LinuxPlatformPackageLine : public ::testing::TestWithParam<DistributionCase> {};
+
+TEST_P(LinuxPlatformPackageLine, PicksThePackageManager)
+{
+    const DistributionCase& c = GetParam();
+    QMap<QString, QString> osRelease;
+    if (*c.id)
+        osRelease.insert(QStringLiteral("ID"), q(c.id));
+    if (*c.idLike)
+        osRelease.insert(QStringLiteral("ID_LIKE"), q(c.idLike));
+    EXPECT_EQ(LinuxPlatform::packageInstallLine(osRelease), q(c.expected));
+}
+
+constexpr const char* kApt = "sudo apt-get install -y git build-essential";
+constexpr const char* kDnf = "sudo dnf install -y git gcc gcc-c++ make";
+constexpr const char* kPacman = "sudo pacman -S --needed git base-devel";
+constexpr const char* kZypper = "sudo zypper install -y git gcc gcc-c++ make";
+
+INSTANTIATE_TEST_SUITE_P(LinuxPlatform, LinuxPlatformPackageLine,
+                         ::testing::Values(DistributionCase{"debian", "", kApt},
+                                           DistributionCase{"ubuntu", "debian", kApt},
+                                           DistributionCase{"linuxmint", "ubuntu debian", kApt},
+                                           DistributionCase{"fedora", "", kDnf},
+                                           DistributionCase{"centos", "rhel fedora", kDnf},
+                                           DistributionCase{"rocky", "rhel centos fedora", kDnf},
+                                           DistributionCase{"almalinux", "  rhel  centos ", kDnf},
+                                           DistributionCase{"rhel", "fedora", kDnf},
+                                           DistributionCase{"arch", "", kPacman},
+                                           DistributionCase{"manjaro", "arch", kPacman},
+                                           DistributionCase{"opensuse-tumbleweed", "opensuse suse", kZypper},
+                                           DistributionCase{"opensuse-leap", "", kZypper},
+                                           DistributionCase{"sles", "suse", kZypper},
+                                           DistributionCase{"gentoo", "", kApt},
+                                           DistributionCase{"", "", kApt}),
+                         [](const ::testing::TestParamInfo<DistributionCase>& info) {
+                             std::string name = *info.param.id ? info.param.id : "unknown";
+                             for (char& ch : name)
+                                 if (!std::isalnum(static_cast<unsigned char>(ch)))
+                                     ch = '_';
+                             return name;
+                         });
+
+TEST(LinuxPlatformItems, GitToolsItem)
+{
+    const qf::DeveloperToolsItem item = LinuxPlatform::gitToolsItem();
+    EXPECT_EQ(item.id, QStringLiteral("xcode"));
+    EXPECT_EQ(item.name, QStringLiteral("Git & Build Tools"));
+    EXPECT_EQ(item.icon, QStringLiteral("hammer"));
+    EXPECT_EQ(item.description, QStringLiteral("Provides Git and build tools"));
+    EXPECT_EQ(item.presenceCommand, QStringLiteral("git --version"));
+    EXPECT_EQ(item.versionCommand, QString());
+    EXPECT_EQ(item.versionPrefix, QStringLiteral("git version "));
+    EXPECT_FALSE(item.uninstallCommand.has_value());
+    EXPECT_EQ(item.uninstallNote, std::optional<QString>(QStringLiteral("Use your system's package manager to remove Git")));
+
+    LinuxPlatform platform;
+    EXPECT_EQ(platform.developerToolsItem().name, item.name);
+    EXPECT_EQ(platform.name(), QStringLiteral("Linux"));
+}
+
+// --- Node.js without Homebrew --------------------------------------------------------------
+
+const char* const kX64Tarball =
+    "mkdir -p ~/.local && curl -fsSL https://nodejs.org/dist/v20.10.0/node-v20.10.0-linux-x64.tar.gz | tar -xz -C "
+    "~/.local --strip-components=1 --exclude=node-v20.10.0-linux-x64/CHANGELOG.md "
+    "--exclude=node-v20.10.0-linux-x64/LICENSE --exclude=node-v20.10.0-linux-x64/README.md";
+
+TEST(LinuxPlatformNode, TarballPerArchitecture)
+{
+    const QString x64 = q(kX64Tarball);
+    const auto forArch = [&](const char* arch) {
+        return QString(x64).replace(QStringLiteral("linux-x64"), QStringLiteral("linux-") + q(arch));
+    };
+    EXPECT_EQ(LinuxPlatform::nodeTarballCommand(QStringLiteral("x86_64")), x64);
+    EXPECT_EQ(LinuxPlatform::nodeTarballCommand(QStringLiteral("arm64")), forArch("arm64"));
+    EXPECT_EQ(LinuxPlatform::nodeTarballCommand(QStringLiteral("aarch64")), forArch("arm64"));
+    EXPECT_EQ(LinuxPlatform::nodeTarballCommand(QStringLiteral("arm")), forArch("armv7l"));
+    EXPECT_EQ(LinuxPlatform::nodeTarballCommand(QStringLiteral("armv7")), forArch("armv7l"));
+    EXPECT_EQ(LinuxPlatform::nodeTarballCommand(QStringLiteral("i386")), x64);
+    EXPECT_EQ(LinuxPlatform::nodeTarballCommand(QString()), x64);
+
+    EXPECT_EQ(LinuxPlatform().officialNodeInstallCommand(),
+              LinuxPlatform::nodeTarballCommand(QSysInfo::currentCpuArchitecture()));
+}
+
+// The tarball's top folder is stripped, so bin/node lands in ~/.local/bin; the three loose
+// files at its top are left out so they do not litter ~/.local.
+TEST(LinuxPlatformNode, TarballUnpacksUnderLocal)
+{
+    QTemporaryDir sandbox;
+    ASSERT_TRUE(sandbox.isValid());
+    const QString release = QStringLiteral("node-v20.10.0-linux-x64");
+    const QString staging = sandbox.filePath(QStringLiteral("staging/") + release);
+    ASSERT_TRUE(QDir().mkpath(staging + QStringLiteral("/bin")));
+    for (const QString& file : {QStringLiteral("bin/node"), QStringLiteral("CHANGELOG.md"), QStringLiteral("LICENSE"),
+                                QStringLiteral("README.md")}) {
+        QFile f(staging + QLatin1Char('/') + file);
+        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+    }
+    const QString tarball = sandbox.filePath(QStringLiteral("node.tar.gz"));
+    const qf::test::ShellRun pack = runShell(
+        QStringLiteral("/bin/sh"),
+        QStringLiteral("tar -czf ") + LinuxPlatform::shellQuote(tarball) + QStringLiteral(" -C staging ") + release,
+        sandbox.path(), sandbox.path());
+    ASSERT_TRUE(pack.finished);
+    ASSERT_EQ(pack.exitCode, 0) << pack.err.toStdString();
+
+    // Everything the line does after the download, fed from the local file instead.
+    QString line = LinuxPlatform::nodeTarballCommand(QStringLiteral("x86_64"));
+    const QString download = QStringLiteral("curl -fsSL https://nodejs.org/dist/v20.10.0/") + release +
+                             QStringLiteral(".tar.gz");
+    ASSERT_TRUE(line.contains(download));
+    line.replace(download, QStringLiteral("cat ") + LinuxPlatform::shellQuote(tarball));
+
+    const QString home = sandbox.filePath(QStringLiteral("home"));
+    ASSERT_TRUE(QDir().mkpath(home));
+    const qf::test::ShellRun run = runShell(QStringLiteral("/bin/sh"), line, home, home);
+    ASSERT_TRUE(run.finished);
+    ASSERT_EQ(run.exitCode, 0) << run.err.toStdString();
+    EXPECT_EQ(QDir(home + QStringLiteral("/.local")).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+              QStringList{QStringLiteral("bin")});
+    EXPECT_TRUE(QFile::exists(home + QStringLiteral("/.local/bin/node")));
+}
+
+} // namespace

@@ -1,0 +1,170 @@
+#include "PlatformBackends.h"
+#include "PlatformTestTools.h"
+
+#include <QFile>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <ostream>
+#include <string>
+
+using qf::MacPlatform;
+
+namespace {
+
+struct TerminalScriptCase {
+    const char* command;
+    const char* expected;
+};
+
+void PrintTo(const TerminalScriptCase& c, std::ostream* os) { *os << c.command; }
+
+class MacPlatformTerminalScript : public ::testing::TestWithParam<TerminalScriptCase> {};
+
+TEST_P(MacPlatformTerminalScript, TypesTheToolCommandInTheProjectsFolder)
+{
+    const TerminalScriptCase& c = GetParam();
+    EXPECT_EQ(MacPlatform::terminalScript(QString::fromUtf8(c.command), QStringLiteral("~/Developer")),
+              QString::fromUtf8(c.expected));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    MacPlatform, MacPlatformTerminalScript,
+    ::testing::Values(
+        TerminalScriptCase{"claude",
+                           "tell application \"Terminal\"\n    activate\n    do script \"cd ~/Developer && claude\"\nend tell"},
+        TerminalScriptCase{"gemini",
+                           "tell application \"Terminal\"\n    activate\n    do script \"cd ~/Developer && gemini\"\nend tell"},
+        TerminalScriptCase{"codex",
+                           "tell application \"Terminal\"\n    activate\n    do script \"cd ~/Developer && codex\"\nend tell"}),
+    [](const ::testing::TestParamInfo<TerminalScriptCase>& info) { return std::string(info.param.command); });
+
+TEST(MacPlatformScripts, GeminiScriptIsExactlyFourLines)
+{
+    const QStringList lines =
+        MacPlatform::terminalScript(QStringLiteral("gemini"), QStringLiteral("~/Developer")).split(QLatin1Char('\n'));
+    ASSERT_EQ(lines.size(), 4);
+    EXPECT_EQ(lines[0], QStringLiteral("tell application \"Terminal\""));
+    EXPECT_EQ(lines[1], QStringLiteral("    activate"));
+    EXPECT_EQ(lines[2], QStringLiteral("    do script \"cd ~/Developer && gemini\""));
+    EXPECT_EQ(lines[3], QStringLiteral("end tell"));
+}
+
+TEST(MacPlatformScripts, InsertsDirectoryAndCommandUnchanged)
+{
+    EXPECT_EQ(MacPlatform::terminalScript(QStringLiteral("claude --help"), QStringLiteral("/tmp/x y")),
+              QStringLiteral("tell application \"Terminal\"\n    activate\n    do script \"cd /tmp/x y && claude "
+                             "--help\"\nend tell"));
+}
+
+TEST(MacPlatformScripts, SystemEventsScriptBringsTheInstallerForward)
+{
+    EXPECT_EQ(MacPlatform::systemEventsScript(),
+              QStringLiteral("tell application \"System Events\"\n"
+                             "    set frontmost of process \"Install Command Line Developer Tools\" to true\n"
+                             "end tell"));
+}
+
+TEST(MacPlatformScripts, OsascriptGetsOneDashEPerLine)
+{
+    EXPECT_EQ(MacPlatform::osascriptArguments(
+                  MacPlatform::terminalScript(QStringLiteral("gemini"), QStringLiteral("~/Developer"))),
+              (QStringList{QStringLiteral("-e"), QStringLiteral("tell application \"Terminal\""), QStringLiteral("-e"),
+                           QStringLiteral("    activate"), QStringLiteral("-e"),
+                           QStringLiteral("    do script \"cd ~/Developer && gemini\""), QStringLiteral("-e"),
+                           QStringLiteral("end tell")}));
+    EXPECT_EQ(MacPlatform::osascriptArguments(MacPlatform::systemEventsScript()),
+              (QStringList{QStringLiteral("-e"), QStringLiteral("tell application \"System Events\""),
+                           QStringLiteral("-e"),
+                           QStringLiteral("    set frontmost of process \"Install Command Line Developer Tools\" to true"),
+                           QStringLiteral("-e"), QStringLiteral("end tell")}));
+}
+
+struct VersionCase {
+    int major, minor, patch;
+    bool met;
+    const char* details;
+};
+
+void PrintTo(const VersionCase& c, std::ostream* os) { *os << c.major << '.' << c.minor << '.' << c.patch; }
+
+class MacPlatformVersionCheck : public ::testing::TestWithParam<VersionCase> {};
+
+TEST_P(MacPlatformVersionCheck, NeedsMacOS14)
+{
+    const VersionCase& c = GetParam();
+    const qf::OperatingSystemCheck check = MacPlatform::operatingSystemCheck(c.major, c.minor, c.patch);
+    EXPECT_EQ(check.met, c.met);
+    EXPECT_EQ(check.details, QString::fromUtf8(c.details));
+}
+
+INSTANTIATE_TEST_SUITE_P(MacPlatform, MacPlatformVersionCheck,
+                         ::testing::Values(VersionCase{14, 0, 0, true, "macOS 14.0.0"},
+                                           VersionCase{13, 6, 1, false, "macOS 13.6.1"},
+                                           VersionCase{13, 99, 99, false, "macOS 13.99.99"},
+                                           VersionCase{15, 1, 2, true, "macOS 15.1.2"},
+                                           VersionCase{26, 0, 1, true, "macOS 26.0.1"}),
+                         [](const ::testing::TestParamInfo<VersionCase>& info) {
+                             return std::to_string(info.param.major) + "_" + std::to_string(info.param.minor) + "_" +
+                                    std::to_string(info.param.patch);
+                         });
+
+TEST(MacPlatformItems, CommandLineToolsItem)
+{
+    const qf::DeveloperToolsItem item = MacPlatform::commandLineToolsItem();
+    EXPECT_EQ(item.id, QStringLiteral("xcode"));
+    EXPECT_EQ(item.name, QStringLiteral("Xcode CLI Tools"));
+    EXPECT_EQ(item.icon, QStringLiteral("hammer"));
+    EXPECT_EQ(item.description, QStringLiteral("Provides Git and build tools"));
+    EXPECT_EQ(item.presenceCommand, QStringLiteral("xcode-select -p"));
+    EXPECT_EQ(item.versionCommand, QStringLiteral("xcodebuild -version 2>/dev/null | head -1"));
+    EXPECT_EQ(item.versionPrefix, QStringLiteral("Xcode "));
+    EXPECT_EQ(item.uninstallCommand, std::optional<QString>(QStringLiteral("sudo rm -rf /Library/Developer/CommandLineTools")));
+    EXPECT_FALSE(item.uninstallNote.has_value());
+
+    MacPlatform platform;
+    EXPECT_EQ(platform.developerToolsItem().name, item.name);
+    EXPECT_EQ(platform.developerToolsItem().uninstallCommand, item.uninstallCommand);
+}
+
+TEST(MacPlatformItems, NodePackageCommand)
+{
+    const QString expected = QStringLiteral(
+        "curl -fsSL https://nodejs.org/dist/v20.10.0/node-v20.10.0.pkg -o /tmp/node-installer.pkg && sudo installer "
+        "-pkg /tmp/node-installer.pkg -target / && rm /tmp/node-installer.pkg");
+    EXPECT_EQ(MacPlatform::nodePackageCommand(), expected);
+    EXPECT_EQ(MacPlatform().officialNodeInstallCommand(), expected);
+}
+
+TEST(MacPlatformItems, Descriptions)
+{
+    MacPlatform platform;
+    EXPECT_EQ(platform.name(), QStringLiteral("macOS"));
+    EXPECT_EQ(platform.terminalDescription(), QStringLiteral("Terminal.app (through AppleScript)"));
+}
+
+// Where there is no osascript (every system but macOS) the launch fails, which must come out
+// as exactly one diagnostic line. On a Mac this would open a real Terminal window.
+TEST(MacPlatformTerminal, LaunchFailureIsOneDiagnosticLine)
+{
+    if (QFile::exists(QStringLiteral("/usr/bin/osascript")))
+        GTEST_SKIP() << "osascript is present; opening Terminal is not hermetic";
+
+    qf::test::StdoutCapture capture;
+    MacPlatform().openTerminal(QStringLiteral("claude"), QStringLiteral("~/Developer"));
+    const bool reported = QTest::qWaitFor([&] { return capture.text().contains(QLatin1Char('\n')); }, 20000);
+    // Lets the failed process be deleted and anything else it might print come out.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCoreApplication::processEvents();
+    const QString text = capture.text();
+    capture.restore();
+
+    ASSERT_TRUE(reported) << text.toStdString();
+    EXPECT_TRUE(text.startsWith(QStringLiteral("AppleScript error: "))) << text.toStdString();
+    EXPECT_GT(text.trimmed().size(), QStringLiteral("AppleScript error:").size()) << "the reason is missing";
+    EXPECT_EQ(text.count(QLatin1Char('\n')), 1) << text.toStdString();
+    EXPECT_TRUE(text.endsWith(QLatin1Char('\n')));
+}
+
+} // namespace

@@ -1,0 +1,138 @@
+#pragma once
+
+#include <QByteArray>
+#include <QFile>
+#include <QProcess>
+#include <QProcessEnvironment>
+#include <QString>
+#include <QStringList>
+#include <QTemporaryFile>
+
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <optional>
+
+#include <unistd.h>
+
+namespace qf::test {
+
+// Sets an environment variable for the lifetime of the object and puts the old value back.
+class ScopedEnv {
+public:
+    ScopedEnv(const char* name, const QByteArray& value) : m_name(name), m_old(qgetenv(name)), m_had(qEnvironmentVariableIsSet(name))
+    {
+        qputenv(name, value);
+    }
+    ~ScopedEnv()
+    {
+        if (m_had)
+            qputenv(m_name, m_old);
+        else
+            qunsetenv(m_name);
+    }
+    ScopedEnv(const ScopedEnv&) = delete;
+    ScopedEnv& operator=(const ScopedEnv&) = delete;
+
+private:
+    const char* m_name;
+    QByteArray m_old;
+    bool m_had;
+};
+
+// Sends file descriptor 1 (stdout) to a temporary file until destroyed, so that diagnostic
+// lines written by the code under test can be read back.
+class StdoutCapture {
+public:
+    StdoutCapture()
+    {
+        m_file.open();
+        std::fflush(stdout);
+        m_saved = ::dup(STDOUT_FILENO);
+        ::dup2(m_file.handle(), STDOUT_FILENO);
+    }
+    ~StdoutCapture() { restore(); }
+    StdoutCapture(const StdoutCapture&) = delete;
+    StdoutCapture& operator=(const StdoutCapture&) = delete;
+
+    QString text()
+    {
+        std::fflush(stdout);
+        QFile reader(m_file.fileName());
+        if (!reader.open(QIODevice::ReadOnly))
+            return {};
+        return QString::fromUtf8(reader.readAll());
+    }
+
+    void restore()
+    {
+        if (m_saved < 0)
+            return;
+        std::fflush(stdout);
+        ::dup2(m_saved, STDOUT_FILENO);
+        ::close(m_saved);
+        m_saved = -1;
+    }
+
+private:
+    QTemporaryFile m_file;
+    int m_saved = -1;
+};
+
+struct ShellRun {
+    bool finished = false;
+    int exitCode = -1;
+    QByteArray out;
+    QByteArray err;
+};
+
+// Runs `shell -c script` with a small fixed environment. Blocking is fine here: a test is
+// not the GUI.
+inline ShellRun runShell(const QString& shell, const QString& script, const QString& home,
+                         const QString& workingDirectory)
+{
+    QProcessEnvironment environment;
+    environment.insert(QStringLiteral("HOME"), home);
+    environment.insert(QStringLiteral("PATH"), QStringLiteral("/usr/bin:/bin"));
+    environment.insert(QStringLiteral("LANG"), QStringLiteral("C.UTF-8"));
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.setWorkingDirectory(workingDirectory);
+    process.setStandardInputFile(QProcess::nullDevice());
+    process.start(shell, {QStringLiteral("-c"), script});
+    ShellRun run;
+    run.finished = process.waitForFinished(30000);
+    if (!run.finished) {
+        process.kill();
+        process.waitForFinished(5000);
+        return run;
+    }
+    run.exitCode = process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
+    run.out = process.readAllStandardOutput();
+    run.err = process.readAllStandardError();
+    return run;
+}
+
+// The POSIX shells present here: sh always, bash and zsh (the shells our users have) when
+// installed.
+inline QStringList availableShells()
+{
+    QStringList shells{QStringLiteral("/bin/sh")};
+    for (const QString& shell : {QStringLiteral("/bin/bash"), QStringLiteral("/bin/zsh")})
+        if (QFile::exists(shell))
+            shells << shell;
+    return shells;
+}
+
+// Writes an executable file.
+inline bool writeExecutable(const QString& path, const QByteArray& content)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
+        return false;
+    file.write(content);
+    file.close();
+    return file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+}
+
+} // namespace qf::test

@@ -1,0 +1,252 @@
+#include "CoroTest.h"
+#include "ShellRunner.h"
+#include "ShellSandbox.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QThread>
+
+#include <csignal>
+
+#include <unistd.h>
+
+using namespace qf;
+using qf::test::await;
+
+namespace {
+
+Result<QString> run(const QString& command, double timeout = ShellRunner::defaultTimeoutSeconds)
+{
+    auto result = await(ShellRunner::shared().run(command, timeout));
+    if (!result)
+        return ServiceError::message(QStringLiteral("did not finish"));
+    return *result;
+}
+
+struct Streamed {
+    QStringList chunks;
+    bool allOnGuiThread = true;
+    std::optional<Result<void>> result;
+    QString text() const { return chunks.join(QString()); }
+};
+
+Streamed stream(const QString& command)
+{
+    Streamed streamed;
+    auto result = await(ShellRunner::shared().runWithStreaming(command, [&](const QString& text) {
+        streamed.chunks << text;
+        streamed.allOnGuiThread = streamed.allOnGuiThread && QThread::currentThread() == qApp->thread();
+    }));
+    streamed.result = result;
+    return streamed;
+}
+
+QString message(const Result<QString>& result) { return result.ok() ? QString() : result.error().errorDescription(); }
+
+} // namespace
+
+TEST(ShellRunnerPath, OrderOfTheSearchPath)
+{
+    const QString path = ShellRunner::searchPath(
+        QStringLiteral("/Users/ada"), {QStringLiteral("v18.17.0"), QStringLiteral("v9.11.2"), QStringLiteral("v20.10.0")},
+        ShellRunner::standardFixedDirectories(), QStringLiteral("/usr/bin:/bin:/usr/sbin"));
+    EXPECT_EQ(path, QStringLiteral("/Users/ada/.nvm/versions/node/v9.11.2/bin:"
+                                   "/Users/ada/.nvm/versions/node/v20.10.0/bin:"
+                                   "/Users/ada/.nvm/versions/node/v18.17.0/bin:"
+                                   "/Users/ada/.local/bin:/usr/local/bin:/opt/homebrew/bin:/usr/bin:/bin:"
+                                   "/usr/bin:/bin:/usr/sbin"));
+    // Without nvm and without a PATH of its own.
+    EXPECT_EQ(ShellRunner::searchPath(QStringLiteral("/home/b"), {}, {QStringLiteral("/x")}, std::nullopt),
+              QStringLiteral("/home/b/.local/bin:/x"));
+}
+
+TEST(ShellRunnerPath, ChildSeesNvmVersionsFirstAndTheAppPathOnceAtTheEnd)
+{
+    test::ShellSandbox sandbox;
+    for (const char* version : {"v18.17.0", "v20.10.0", ".hidden"})
+        QDir().mkpath(sandbox.path(QStringLiteral(".nvm/versions/node/") + QLatin1String(version)));
+    const Result<QString> path = run(QStringLiteral("printf %s \"$PATH\""));
+    ASSERT_TRUE(path.ok()) << message(path).toStdString();
+    const QStringList parts = path.value().split(QLatin1Char(':'));
+    const QString versions = sandbox.home() + QStringLiteral("/.nvm/versions/node/");
+    ASSERT_GE(parts.size(), 6);
+    EXPECT_EQ(parts[0], versions + QStringLiteral("v20.10.0/bin"));
+    EXPECT_EQ(parts[1], versions + QStringLiteral("v18.17.0/bin"));
+    EXPECT_EQ(parts[2], versions + QStringLiteral(".hidden/bin"));
+    EXPECT_EQ(parts[3], sandbox.home() + QStringLiteral("/.local/bin"));
+    EXPECT_EQ(parts[4], sandbox.binDirectory());
+    EXPECT_TRUE(parts.last().endsWith(QStringLiteral("/tools")));
+    EXPECT_EQ(parts.count(parts.last()), 1);
+
+    QDir(sandbox.path(QStringLiteral(".nvm"))).removeRecursively();
+    const Result<QString> plain = run(QStringLiteral("printf %s \"$PATH\""));
+    ASSERT_TRUE(plain.ok());
+    EXPECT_TRUE(plain.value().startsWith(sandbox.home() + QStringLiteral("/.local/bin:")));
+}
+
+TEST(ShellRunnerRun, ResultTexts)
+{
+    test::ShellSandbox sandbox;
+    EXPECT_EQ(run(QStringLiteral("echo hello")).value(), QStringLiteral("hello"));
+    EXPECT_EQ(run(QStringLiteral("printf '  spaced out \\n\\n'")).value(), QStringLiteral("spaced out"));
+    EXPECT_EQ(run(QStringLiteral("echo only-errors >&2")).value(), QString());
+
+    const Result<QString> onlyErr = run(QStringLiteral("echo '  broken  ' >&2; exit 4"));
+    ASSERT_FALSE(onlyErr.ok());
+    ASSERT_NE(onlyErr.error().shellError(), nullptr);
+    EXPECT_EQ(onlyErr.error().shellError()->exitCode(), 4);
+    EXPECT_EQ(onlyErr.error().shellError()->output(), QStringLiteral("broken"));
+
+    const Result<QString> both = run(QStringLiteral("echo out; echo err >&2; exit 1"));
+    ASSERT_FALSE(both.ok());
+    EXPECT_EQ(both.error().shellError()->output(), QStringLiteral("out\n\nerr"));
+
+    const Result<QString> silent = run(QStringLiteral("exit 3"));
+    ASSERT_FALSE(silent.ok());
+    EXPECT_EQ(silent.error().errorDescription(), QStringLiteral("Command failed with exit code 3: "));
+
+    // Output that is not UTF-8 counts as empty.
+    EXPECT_EQ(run(QStringLiteral("printf 'ab\\377'")).value(), QString());
+}
+
+TEST(ShellRunnerRun, ALaunchFailureIsAProcessError)
+{
+    test::ShellSandbox sandbox;
+    ShellRunner::shared().setShell(QStringLiteral("/nonexistent/zsh"));
+    const Result<QString> result = run(QStringLiteral("true"));
+    ASSERT_FALSE(result.ok());
+    ASSERT_NE(result.error().shellError(), nullptr);
+    EXPECT_EQ(result.error().shellError()->kind(), ShellError::processError);
+    EXPECT_TRUE(result.error().errorDescription().startsWith(QStringLiteral("Process error: ")));
+    EXPECT_GT(result.error().errorDescription().size(), QStringLiteral("Process error: ").size());
+
+    bool called = false;
+    auto streamed = await(ShellRunner::shared().runWithStreaming(QStringLiteral("echo x"), [&](const QString&) {
+        called = true;
+    }));
+    ASSERT_TRUE(streamed.has_value());
+    EXPECT_FALSE(streamed->ok());
+    EXPECT_FALSE(called);
+}
+
+TEST(ShellRunnerReliability, LargeOutputOnBothPipesDoesNotStall)
+{
+    test::ShellSandbox sandbox;
+    // 10 MB on standard error while 10 MB go to standard output.
+    const Result<QString> result =
+        run(QStringLiteral("(head -c 10485760 /dev/zero | tr '\\0' e >&2) & head -c 10485760 /dev/zero | tr '\\0' o; wait"));
+    ASSERT_TRUE(result.ok()) << message(result).toStdString();
+    EXPECT_EQ(result.value().size(), 10485760);
+    EXPECT_TRUE(result.value().startsWith(QStringLiteral("ooo")));
+
+    const Result<QString> failing =
+        run(QStringLiteral("head -c 10485760 /dev/zero | tr '\\0' e >&2; echo done; exit 9"));
+    ASSERT_FALSE(failing.ok());
+    // Standard output as it was ("done\n"), a line break, then standard error.
+    EXPECT_EQ(failing.error().shellError()->output().size(), 10485760 + 6);
+    EXPECT_TRUE(failing.error().shellError()->output().startsWith(QStringLiteral("done\n\neee")));
+}
+
+TEST(ShellRunnerReliability, CommandsCannotWaitForAnswers)
+{
+    test::ShellSandbox sandbox;
+    // Standard input is the null device: a question gets no answer instead of waiting.
+    EXPECT_EQ(run(QStringLiteral("cat")).value(), QString());
+    EXPECT_FALSE(run(QStringLiteral("read answer")).ok());
+    // No controlling terminal, also when the app itself was started from one.
+    EXPECT_FALSE(run(QStringLiteral("exec 3</dev/tty")).ok());
+
+    if (!QFile::exists(QStringLiteral("/proc/self/stat")))
+        GTEST_SKIP() << "no /proc";
+    // The shell leads a session and a process group of its own.
+    const Result<QString> stat = run(QStringLiteral("cat /proc/$$/stat"));
+    ASSERT_TRUE(stat.ok());
+    const QStringList fields = stat.value().mid(stat.value().lastIndexOf(QLatin1Char(')')) + 2).split(QLatin1Char(' '));
+    const QString pid = stat.value().section(QLatin1Char(' '), 0, 0);
+    ASSERT_GE(fields.size(), 4);
+    EXPECT_EQ(fields[2], pid);  // process group
+    EXPECT_EQ(fields[3], pid);  // session
+    EXPECT_NE(fields[3].toLongLong(), static_cast<long long>(getsid(0)));
+}
+
+TEST(ShellRunnerReliability, BackgroundChildrenHoldingThePipeDoNotDelayTheResult)
+{
+    test::ShellSandbox sandbox;
+    QElapsedTimer clock;
+    clock.start();
+    const Result<QString> result = run(QStringLiteral("echo a; sleep 20 & echo b"));
+    ASSERT_TRUE(result.ok()) << message(result).toStdString();
+    EXPECT_EQ(result.value(), QStringLiteral("a\nb"));
+    EXPECT_LT(clock.elapsed(), 15000) << "the result waited for the background child";
+}
+
+TEST(ShellRunnerReliability, OverlongCommandsAreStoppedWithTheirWholeGroup)
+{
+    test::ShellSandbox sandbox;
+    ShellRunner::shared().setTerminationGraceMs(200);
+    const QString pidFile = sandbox.path(QStringLiteral("child.pid"));
+    const Result<QString> result =
+        run(QStringLiteral("sleep 30 & echo $! > '%1'; trap '' TERM; wait; sleep 30").arg(pidFile), 0.5);
+    ASSERT_FALSE(result.ok());
+    ASSERT_NE(result.error().shellError(), nullptr);
+    EXPECT_EQ(result.error().shellError()->kind(), ShellError::timedOut);
+    EXPECT_FALSE(result.error().errorDescription().isEmpty());
+
+    // The background child went with the shell.
+    const pid_t child = sandbox.readFile(QStringLiteral("child.pid")).trimmed().toInt();
+    ASSERT_GT(child, 0);
+    bool gone = false;
+    for (int i = 0; i < 100 && !gone; ++i) {
+        gone = ::kill(child, 0) != 0;
+        if (!gone)
+            QThread::msleep(20);
+    }
+    EXPECT_TRUE(gone);
+}
+
+TEST(ShellRunnerStreaming, DeliversOutputWhileRunningOnTheGuiThread)
+{
+    test::ShellSandbox sandbox;
+    const Streamed streamed = stream(QStringLiteral("echo one; sleep 0.2; echo two >&2; sleep 0.2; echo three"));
+    ASSERT_TRUE(streamed.result.has_value());
+    EXPECT_TRUE(streamed.result->ok());
+    EXPECT_GE(streamed.chunks.size(), 3);
+    EXPECT_EQ(streamed.text(), QStringLiteral("one\ntwo\nthree\n"));
+    EXPECT_TRUE(streamed.allOnGuiThread);
+}
+
+TEST(ShellRunnerStreaming, AFailureComesAfterAllOfItsOutput)
+{
+    test::ShellSandbox sandbox;
+    const Streamed streamed = stream(QStringLiteral("echo partial; exit 2"));
+    ASSERT_TRUE(streamed.result.has_value());
+    ASSERT_FALSE(streamed.result->ok());
+    EXPECT_EQ(streamed.result->error().errorDescription(),
+              QStringLiteral("Command failed with exit code 2: Command failed"));
+    EXPECT_EQ(streamed.text(), QStringLiteral("partial\n"));
+}
+
+TEST(ShellRunnerStreaming, NeverLosesText)
+{
+    test::ShellSandbox sandbox;
+    // A character split over two writes arrives whole; bytes that are not UTF-8 show as U+FFFD.
+    const Streamed split = stream(QStringLiteral("printf 'caf\\303'; sleep 0.3; printf '\\251 \\342\\206'; sleep 0.3; "
+                                                 "printf '\\222 ok\\n'; printf 'bad \\377 byte\\n'"));
+    ASSERT_TRUE(split.result.has_value());
+    EXPECT_EQ(split.text(), QString::fromUtf8("caf\xC3\xA9 \xE2\x86\x92 ok\nbad \xEF\xBF\xBD byte\n"));
+    EXPECT_GE(split.chunks.size(), 2);
+}
+
+TEST(ShellRunnerStreaming, StopsDeliveringWhenItsContextIsGone)
+{
+    test::ShellSandbox sandbox;
+    auto* context = new QObject;
+    int calls = 0;
+    QTimer::singleShot(300, context, [context] { delete context; });
+    auto result = await(ShellRunner::shared().runWithStreaming(
+        QStringLiteral("echo early; sleep 0.8; echo late"), [&](const QString&) { ++calls; }, context));
+    ASSERT_TRUE(result.has_value());
+    EXPECT_TRUE(result->ok());
+    EXPECT_EQ(calls, 1);
+}
