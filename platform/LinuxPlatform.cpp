@@ -1,4 +1,5 @@
 #include "PlatformBackends.h"
+#include "ShellQuote.h"
 
 #include <QDesktopServices>
 #include <QDir>
@@ -65,19 +66,6 @@ QString shellDirectory(const QString& directory)
         return rest.isEmpty() ? directory : QStringLiteral("~/") + LinuxPlatform::shellQuote(rest);
     }
     return LinuxPlatform::shellQuote(directory);
-}
-
-bool isPlainShellCharacter(QChar c)
-{
-    const char16_t u = c.unicode();
-    if ((u >= 'a' && u <= 'z') || (u >= 'A' && u <= 'Z') || (u >= '0' && u <= '9'))
-        return true;
-    switch (u) {
-    case '_': case '.': case '/': case '-': case '+': case '=': case ':': case ',': case '@': case '%':
-        return true;
-    default:
-        return false;
-    }
 }
 
 QString packageLineFor(const QString& distribution)
@@ -217,20 +205,7 @@ std::optional<QString> LinuxPlatform::findTerminalEmulator(const QString& search
     return std::nullopt;
 }
 
-QString LinuxPlatform::shellQuote(const QString& word)
-{
-    if (word.isEmpty())
-        return QStringLiteral("''");
-    // zsh replaces a word starting with "=" by the path of the command it names.
-    bool plain = !word.startsWith(QLatin1Char('='));
-    for (qsizetype i = 0; plain && i < word.size(); ++i)
-        plain = isPlainShellCharacter(word.at(i));
-    if (plain)
-        return word;
-    QString quoted = word;
-    quoted.replace(QLatin1Char('\''), QLatin1String("'\\''"));
-    return QLatin1Char('\'') + quoted + QLatin1Char('\'');
-}
+QString LinuxPlatform::shellQuote(const QString& word) { return qf::shellQuote(word); }
 
 QString LinuxPlatform::terminalShellLine(const QString& command, const QString& directory, const QString& shell)
 {

@@ -32,6 +32,8 @@ ShellSandbox::ShellSandbox()
     root.mkpath(QStringLiteral("bin"));
     root.mkpath(QStringLiteral("tools"));
     root.mkpath(QStringLiteral("state"));
+    root.mkpath(QStringLiteral("root/opt/homebrew/bin"));
+    root.mkpath(QStringLiteral("root/usr/local/bin"));
 
     const QStringList system = {QStringLiteral("/usr/bin"), QStringLiteral("/bin")};
     for (const char* utility : kUtilities) {
@@ -44,9 +46,11 @@ ShellSandbox::ShellSandbox()
     setEnv("FAKE_BIN", binDirectory().toUtf8());
     setEnv("FAKE_STATE", stateDirectory().toUtf8());
     setEnv("FAKE_FIXTURES", QByteArray(QF_FIXTURES_DIR "/bin"));
+    setEnv("FAKE_ROOT", root.filePath(QStringLiteral("root")).toUtf8());
 
     ShellRunner& runner = ShellRunner::shared();
     runner.resetConfiguration();
+    runner.setShell(QStringLiteral(QF_FIXTURES_DIR "/sandbox-shell"));
     runner.setFixedDirectories({binDirectory()});
     runner.setInheritedPath(root.filePath(QStringLiteral("tools")));
 }
@@ -65,12 +69,22 @@ ShellSandbox::~ShellSandbox()
 QString ShellSandbox::home() const { return m_root.filePath(QStringLiteral("home")); }
 QString ShellSandbox::binDirectory() const { return m_root.filePath(QStringLiteral("bin")); }
 QString ShellSandbox::stateDirectory() const { return m_root.filePath(QStringLiteral("state")); }
+QString ShellSandbox::systemPath(const QString& absolute) const
+{
+    return m_root.filePath(QStringLiteral("root")) + absolute;
+}
+
 QString ShellSandbox::path(const QString& relative) const { return home() + QLatin1Char('/') + relative; }
 
 void ShellSandbox::installFake(const QString& name, const QString& as)
 {
+    installFakeAt(name, binDirectory() + QLatin1Char('/') + (as.isEmpty() ? name : as));
+}
+
+void ShellSandbox::installFakeAt(const QString& name, const QString& target)
+{
     const QString source = QStringLiteral(QF_FIXTURES_DIR "/bin/") + name;
-    const QString target = binDirectory() + QLatin1Char('/') + (as.isEmpty() ? name : as);
+    QDir().mkpath(QFileInfo(target).absolutePath());
     QFile::remove(target);
     ASSERT_TRUE(QFile::copy(source, target)) << source.toStdString();
     QFile::setPermissions(target, QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);

@@ -24,9 +24,13 @@ public:
     QString binDirectory() const;   // fake programs live here
     QString stateDirectory() const; // fakes keep what they "installed" here
     QString path(const QString& relative) const;  // inside home
+    // Where the sandbox keeps what commands see at a fixed system path such as /usr/local/bin.
+    QString systemPath(const QString& absolute) const;
 
     // Puts the fake `name` (or a copy of it under `as`) into the fake program folder.
     void installFake(const QString& name, const QString& as = QString());
+    // Puts the fake `name` at an absolute path (inside the sandbox).
+    void installFakeAt(const QString& name, const QString& target);
     void removeFake(const QString& name);
     // Sets an environment variable for the rest of the test.
     void setEnv(const char* name, const QByteArray& value);

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QCoro/QCoroTask>
+#include <QList>
+#include <QString>
+
+#include <functional>
+#include <optional>
+
+namespace qf {
+
+// One supporting item of the dashboard: the developer tools, the projects folder, Homebrew
+// or Node.js.
+struct SystemTool {
+    QString id;
+    QString name;
+    QString icon;
+    QString description;
+    bool isInstalled = false;
+    std::optional<QString> version;
+    std::optional<QString> uninstallCommand;
+    std::optional<QString> uninstallNote;
+    std::optional<int> stepNumber;
+    bool isOptional = false;
+
+    friend bool operator==(const SystemTool&, const SystemTool&) = default;
+};
+
+// The four items in dashboard order, with the projects folder's presence already known.
+QList<SystemTool> systemToolCatalogue();
+
+// Fills in presence and version of each item, one command at a time. A check that fails
+// leaves its item missing; nothing is reported.
+QCoro::Task<QList<SystemTool>> detectSystemTools(QList<SystemTool> tools);
+
+// The action of an item's button: the projects folder is created when missing and shown;
+// missing developer tools get their installer; everything else does nothing. `reload` runs
+// after the folder was created, so the dashboard can show it.
+void handleSystemToolAction(const SystemTool& tool, const std::function<void()>& reload);
+
+QString developerFolderPath();
+
+} // namespace qf

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "CLITool.h"
+#include "SetupModel.h"
+
+#include <QCoro/QCoroTask>
+#include <QString>
+
+#include <functional>
+#include <optional>
+
+namespace qf {
+
+// What is known about the installed Node.js: its version as printed ("v20.10.0") and whether
+// it is new enough (major version 18 or later).
+struct NodeCheck {
+    bool isInstalled = false;
+    std::optional<QString> version;
+    bool meetsRequirement = false;
+
+    friend bool operator==(const NodeCheck&, const NodeCheck&) = default;
+};
+
+// Answers what the setup needs to know about the machine. It only looks, never changes
+// anything, and remembers nothing between calls.
+class SystemDetector {
+public:
+    static constexpr int minimumNodeMajorVersion = 18;
+    static constexpr qint64 minimumDiskSpaceMB = 200;
+
+    static SystemDetector& shared();
+
+    // The operating system, the free disk space and, for tools that need it, Node.js.
+    QCoro::Task<QList<RequirementStatus>> checkAllRequirements(CLITool tool);
+    QCoro::Task<NodeCheck> checkNodeJS();
+    QCoro::Task<std::optional<QString>> getNodeVersion();
+    // Whatever `<command> --version` prints, trimmed; nothing when it fails.
+    QCoro::Task<std::optional<QString>> getToolVersion(CLITool tool);
+
+    RequirementStatus checkOperatingSystem() const;
+    // Megabytes free on the volume of the home folder; nothing (and one diagnostic line on
+    // standard output) when it cannot be read.
+    std::optional<qint64> availableDiskSpaceMB() const;
+    // The first of ~/.zshrc, ~/.bash_profile and ~/.bashrc that exists as a file, else ~/.zshrc.
+    QString shellProfilePath() const;
+
+    // The rules, on their own.
+    static NodeCheck evaluateNodeVersion(const std::optional<QString>& version);
+    static RequirementStatus diskSpaceStatus(std::optional<qint64> megabytes);
+    static qint64 bytesToMegabytes(qint64 bytes) { return bytes / (1024 * 1024); }
+
+    // Replaces the free-space reading (tests); an empty function returns to the real one.
+    void setAvailableBytesProvider(std::function<std::optional<qint64>()> provider)
+    {
+        m_availableBytes = std::move(provider);
+    }
+
+private:
+    SystemDetector() = default;
+    std::function<std::optional<qint64>()> m_availableBytes;
+};
+
+} // namespace qf

@@ -1,0 +1,223 @@
+#include "ToolInstaller.h"
+
+#include "Platform.h"
+#include "ProfileWriter.h"
+#include "ShellRunner.h"
+#include "SystemDetector.h"
+#include "Utf8Stream.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <filesystem>
+#include <system_error>
+
+namespace qf {
+
+ToolInstaller& ToolInstaller::shared()
+{
+    static ToolInstaller installer;
+    return installer;
+}
+
+QCoro::Task<QList<SetupStep>> ToolInstaller::setupSteps(CLITool tool)
+{
+    QList<SetupStep> steps;
+    steps << SetupStep{SetupStepType::createDeveloperFolder, SetupStepStatus::pending, std::nullopt};
+    steps << SetupStep{SetupStepType::checkGit, SetupStepStatus::pending, std::nullopt};
+    if (tool.requiresNodeJS()) {
+        const NodeCheck node = co_await SystemDetector::shared().checkNodeJS();
+        if (node.isInstalled && node.meetsRequirement)
+            steps << SetupStep{SetupStepType::installNode, SetupStepStatus::skipped, node.version};
+        else
+            steps << SetupStep{SetupStepType::installNode, SetupStepStatus::pending, std::nullopt};
+    }
+    steps << SetupStep{SetupStepType::installTool, SetupStepStatus::pending, tool.displayName()};
+    co_return steps;
+}
+
+ToolInstaller::FolderOutcome ToolInstaller::makeDeveloperFolder(const Output& onOutput)
+{
+    const QString folder = QDir::homePath() + QStringLiteral("/Developer");
+    if (QFileInfo::exists(folder) || QFileInfo(folder).isSymLink()) {
+        onOutput(QStringLiteral("~/Developer folder already exists\n"));
+        return FolderOutcome::existed;
+    }
+    std::error_code error;
+    std::filesystem::create_directories(std::filesystem::path(folder.toStdString()), error);
+    if (error) {
+        onOutput(QStringLiteral("Note: Could not create ~/Developer folder: ") +
+                 QString::fromStdString(error.message()) + QLatin1Char('\n'));
+        return FolderOutcome::failed;
+    }
+    onOutput(QStringLiteral("Created ~/Developer folder for your projects\n"));
+    return FolderOutcome::created;
+}
+
+QCoro::Task<bool> ToolInstaller::createDeveloperFolder(Output onOutput)
+{
+    co_return makeDeveloperFolder(onOutput) == FolderOutcome::created;
+}
+
+QCoro::Task<ToolInstaller::GitCheck> ToolInstaller::checkGit(Output onOutput)
+{
+    const Result<QString> result = co_await ShellRunner::shared().run(QStringLiteral("git --version"));
+    if (!result) {
+        onOutput(QStringLiteral("Git not found. Please install Xcode Command Line Tools.\n"));
+        co_return GitCheck{false, std::nullopt};
+    }
+    const QString version = result.value().trimmed();
+    onOutput(QStringLiteral("Found ") + version + QLatin1Char('\n'));
+    co_return GitCheck{true, version};
+}
+
+QCoro::Task<Result<void>> ToolInstaller::installNodeJS(Output onOutput)
+{
+    ShellRunner& shell = ShellRunner::shared();
+    const Result<QString> brew = co_await shell.run(QStringLiteral("which brew"));
+    Result<void> installed;
+    if (brew) {
+        onOutput(QStringLiteral("Installing Node.js via Homebrew...\n"));
+        installed = co_await shell.runWithStreaming(QStringLiteral("brew install node"), onOutput);
+    } else {
+        onOutput(QStringLiteral("Installing Node.js via official installer...\n"));
+        installed = co_await shell.runWithStreaming(Platform::current().officialNodeInstallCommand(), onOutput);
+    }
+    if (!installed)
+        co_return installed;
+
+    const NodeCheck node = co_await SystemDetector::shared().checkNodeJS();
+    if (!node.isInstalled)
+        co_return InstallationError::nodeInstallFailed;
+    onOutput(QStringLiteral("Node.js ") + node.version.value_or(QStringLiteral("installed")) +
+             QStringLiteral(" successfully!\n"));
+    co_return Result<void>();
+}
+
+QCoro::Task<Result<void>> ToolInstaller::runSetup(CLITool tool, StepUpdate report, Output log)
+{
+    // 1. The projects folder. A folder that cannot be created is reported and setup goes on.
+    report(SetupStepType::createDeveloperFolder, SetupStepStatus::inProgress, std::nullopt);
+    switch (makeDeveloperFolder(log)) {
+    case FolderOutcome::created:
+        report(SetupStepType::createDeveloperFolder, SetupStepStatus::completed, QStringLiteral("Created"));
+        break;
+    case FolderOutcome::existed:
+        report(SetupStepType::createDeveloperFolder, SetupStepStatus::skipped, QStringLiteral("Already exists"));
+        break;
+    case FolderOutcome::failed:
+        report(SetupStepType::createDeveloperFolder, SetupStepStatus::failure(QStringLiteral("Could not create")),
+               std::nullopt);
+        break;
+    }
+
+    // 2. git.
+    report(SetupStepType::checkGit, SetupStepStatus::inProgress, std::nullopt);
+    const GitCheck git = co_await checkGit(log);
+    if (!git.found) {
+        report(SetupStepType::checkGit, SetupStepStatus::failure(QStringLiteral("Not found")), std::nullopt);
+        co_return InstallationError::gitNotFound;
+    }
+    report(SetupStepType::checkGit, SetupStepStatus::completed, git.version);
+
+    // 3. Node.js, for the tools that run on it.
+    if (tool.requiresNodeJS()) {
+        const NodeCheck before = co_await SystemDetector::shared().checkNodeJS();
+        if (before.isInstalled && before.meetsRequirement) {
+            report(SetupStepType::installNode, SetupStepStatus::skipped, before.version);
+        } else {
+            report(SetupStepType::installNode, SetupStepStatus::inProgress, std::nullopt);
+            const Result<void> node = co_await installNodeJS(log);
+            if (!node)
+                co_return node;
+            const NodeCheck after = co_await SystemDetector::shared().checkNodeJS();
+            report(SetupStepType::installNode, SetupStepStatus::completed, after.version);
+        }
+    }
+
+    // 4. The tool itself.
+    report(SetupStepType::installTool, SetupStepStatus::inProgress, tool.displayName());
+    log(QStringLiteral("\nInstalling ") + tool.displayName() + QStringLiteral("...\n"));
+    const Result<void> installed = co_await ShellRunner::shared().runWithStreaming(tool.installCommand(), log);
+    if (!installed)
+        co_return installed;
+
+    // 5. Verification.
+    log(QStringLiteral("\nVerifying installation...\n"));
+    const Result<QString> found = co_await ShellRunner::shared().run(QStringLiteral("which ") + tool.commandName());
+    if (!found) {
+        report(SetupStepType::installTool, SetupStepStatus::failure(QStringLiteral("Verification failed")),
+               std::nullopt);
+        co_return InstallationError::verificationFailed;
+    }
+    const std::optional<QString> version = co_await SystemDetector::shared().getToolVersion(tool);
+    report(SetupStepType::installTool, SetupStepStatus::completed, version);
+    if (version)
+        log(QStringLiteral("\n") + tool.displayName() + QLatin1Char(' ') + *version +
+            QStringLiteral(" installed successfully!\n"));
+    else
+        log(QStringLiteral("\n") + tool.displayName() + QStringLiteral(" installed successfully!\n"));
+    co_return Result<void>();
+}
+
+QCoro::Task<void> ToolInstaller::uninstall(CLITool tool, Output log)
+{
+    ShellRunner& shell = ShellRunner::shared();
+    log(QStringLiteral("Uninstalling ") + tool.displayName() + QStringLiteral("...\n"));
+    // The removal line walks nvm's versions with a glob. In zsh a glob that matches nothing
+    // aborts the whole line, so without nvm nothing after the loop would run (for Claude Code:
+    // neither removal of its folders); with NOMATCH off the loop is simply skipped, as in sh.
+    const Result<QString> removal =
+        co_await shell.run(QStringLiteral("setopt nonomatch; ") + tool.uninstallCommand());
+    if (removal) {
+        if (!removal.value().isEmpty())
+            log(removal.value() + QLatin1Char('\n'));
+    } else {
+        log(QStringLiteral("Note: ") + removal.error().errorDescription() + QLatin1Char('\n'));
+    }
+
+    const Result<QString> stillThere = co_await shell.run(QStringLiteral("which ") + tool.commandName());
+    if (!stillThere) {
+        log(QStringLiteral("\n") + tool.displayName() + QStringLiteral(" has been uninstalled.\n"));
+        co_return;
+    }
+    log(QStringLiteral("\nNote: '") + tool.commandName() +
+        QStringLiteral("' is still found in PATH. You may have multiple installations.\n"));
+    log(QStringLiteral("Run 'which ") + tool.commandName() + QStringLiteral("' in Terminal to find other copies.\n"));
+}
+
+QCoro::Task<Result<void>> ToolInstaller::saveAPIKey(QString key, CLITool tool)
+{
+    // Checked before any file is touched; the key itself is never written to a log.
+    if (const std::optional<QString> reason = ProfileWriter::rejectionReason(key))
+        co_return ServiceError::message(*reason);
+
+    const QString profile = SystemDetector::shared().shellProfilePath();
+    const QString variable = tool.apiKeyEnvVar();
+    const QString line = ProfileWriter::exportLine(variable, key);
+
+    std::optional<QString> text;
+    QFile file(profile);
+    if (file.open(QIODevice::ReadOnly))
+        text = decodeUtf8Strictly(file.readAll());
+    file.close();
+
+    if (text && text->contains(variable)) {
+        const QString rewritten = ProfileWriter::rewrite(*text, variable, line);
+        if (rewritten != *text) {
+            const Result<void> written = ProfileWriter::replaceFileContents(profile, rewritten);
+            if (!written)
+                co_return written;
+        }
+    } else {
+        const Result<QString> appended = co_await ShellRunner::shared().run(
+            ProfileWriter::appendCommand(tool.displayName(), line, profile));
+        if (!appended)
+            co_return appended.error();
+    }
+    qputenv(variable.toUtf8().constData(), key.toUtf8());
+    co_return Result<void>();
+}
+
+} // namespace qf

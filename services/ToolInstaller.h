@@ -1,0 +1,54 @@
+#pragma once
+
+#include "CLITool.h"
+#include "Errors.h"
+#include "SetupModel.h"
+
+#include <QCoro/QCoroTask>
+
+#include <functional>
+#include <optional>
+
+namespace qf {
+
+// Installs, removes and configures the AI tools: proposes the setup steps of a tool, runs
+// them with step reports and a readable log, removes a tool from every place npm may have put
+// it, and stores a tool's API key in the shell profile.
+class ToolInstaller {
+public:
+    // A step changed: its type, its new status and, when given, new details (none keeps the
+    // details the step had).
+    using StepUpdate = std::function<void(SetupStepType, SetupStepStatus, std::optional<QString>)>;
+    using Output = std::function<void(const QString&)>;
+
+    struct GitCheck {
+        bool found = false;
+        std::optional<QString> version;
+    };
+
+    static ToolInstaller& shared();
+
+    QCoro::Task<QList<SetupStep>> setupSteps(CLITool tool);
+    QCoro::Task<Result<void>> runSetup(CLITool tool, StepUpdate onStepUpdate, Output onOutput);
+
+    // True when this call created ~/Developer.
+    QCoro::Task<bool> createDeveloperFolder(Output onOutput);
+    QCoro::Task<GitCheck> checkGit(Output onOutput);
+    // Through Homebrew when it is there, otherwise from the official Node.js release.
+    QCoro::Task<Result<void>> installNodeJS(Output onOutput);
+
+    // Never fails: what happened is told in the log.
+    QCoro::Task<void> uninstall(CLITool tool, Output onOutput);
+
+    // Stores `key` as the tool's environment variable in the shell profile (rewriting an
+    // existing export line in place, or appending one) and sets it in this process too.
+    QCoro::Task<Result<void>> saveAPIKey(QString key, CLITool tool);
+
+private:
+    enum class FolderOutcome { created, existed, failed };
+    FolderOutcome makeDeveloperFolder(const Output& onOutput);
+
+    ToolInstaller() = default;
+};
+
+} // namespace qf

@@ -1,0 +1,298 @@
+#include "CoroTest.h"
+#include "FakePlatform.h"
+#include "ShellSandbox.h"
+#include "ShellRunner.h"
+#include "ToolInstaller.h"
+
+#include <QDir>
+#include <QFile>
+
+using namespace qf;
+using qf::test::await;
+
+namespace {
+
+struct Report {
+    SetupStepType type;
+    SetupStepStatus status;
+    std::optional<QString> details;
+    friend bool operator==(const Report&, const Report&) = default;
+};
+
+void PrintTo(const Report& r, std::ostream* os)
+{
+    *os << r.type.rawValue().toStdString() << "/" << r.status.label().toStdString() << "/"
+        << r.details.value_or("<none>").toStdString();
+}
+
+struct SetupRun {
+    QList<Report> reports;
+    QString log;
+    std::optional<Result<void>> result;
+
+    QString error() const { return result && !result->ok() ? result->error().errorDescription() : QString(); }
+    // The last status reported for a step.
+    std::optional<SetupStepStatus> last(SetupStepType type) const
+    {
+        for (auto it = reports.crbegin(); it != reports.crend(); ++it)
+            if (it->type == type)
+                return it->status;
+        return std::nullopt;
+    }
+    bool mentions(SetupStepType type) const { return last(type).has_value(); }
+};
+
+class ToolInstallerTest : public ::testing::Test {
+protected:
+    SetupRun runSetup(CLITool tool)
+    {
+        SetupRun run;
+        auto result = await(ToolInstaller::shared().runSetup(
+            tool,
+            [&](SetupStepType type, SetupStepStatus status, std::optional<QString> details) {
+                run.reports.append({type, status, details});
+            },
+            [&](const QString& text) { run.log += text; }));
+        if (result)
+            run.result = *result;
+        return run;
+    }
+
+    QList<SetupStep> steps(CLITool tool) { return *await(ToolInstaller::shared().setupSteps(tool)); }
+
+    test::ShellSandbox sandbox;
+    test::FakePlatform platform;
+};
+
+const SetupStepStatus kPending = SetupStepStatus::pending;
+const SetupStepStatus kInProgress = SetupStepStatus::inProgress;
+const SetupStepStatus kDone = SetupStepStatus::completed;
+const SetupStepStatus kSkipped = SetupStepStatus::skipped;
+
+} // namespace
+
+TEST_F(ToolInstallerTest, ClaudeCodeInstallsWithoutNode)
+{
+    sandbox.installFake(QStringLiteral("git"));
+    sandbox.installFake(QStringLiteral("curl"));
+    sandbox.installFake(QStringLiteral("node"));
+
+    const QList<SetupStep> list = steps(CLITool::claudeCode);
+    ASSERT_EQ(list.size(), 3);
+    EXPECT_EQ(list[0], (SetupStep{SetupStepType::createDeveloperFolder, kPending, std::nullopt}));
+    EXPECT_EQ(list[1], (SetupStep{SetupStepType::checkGit, kPending, std::nullopt}));
+    EXPECT_EQ(list[2], (SetupStep{SetupStepType::installTool, kPending, QStringLiteral("Claude Code")}));
+
+    const SetupRun run = runSetup(CLITool::claudeCode);
+    ASSERT_TRUE(run.result && run.result->ok()) << run.error().toStdString();
+    const QList<Report> expected = {
+        {SetupStepType::createDeveloperFolder, kInProgress, std::nullopt},
+        {SetupStepType::createDeveloperFolder, kDone, QStringLiteral("Created")},
+        {SetupStepType::checkGit, kInProgress, std::nullopt},
+        {SetupStepType::checkGit, kDone, QStringLiteral("git version 2.39.5")},
+        {SetupStepType::installTool, kInProgress, QStringLiteral("Claude Code")},
+        {SetupStepType::installTool, kDone, QStringLiteral("1.0.42 (claude)")},
+    };
+    EXPECT_EQ(run.reports, expected);
+    EXPECT_EQ(run.log, QStringLiteral("Created ~/Developer folder for your projects\n"
+                                      "Found git version 2.39.5\n"
+                                      "\nInstalling Claude Code...\n"
+                                      "Installing Claude Code native build...\n"
+                                      "Claude Code successfully installed!\n"
+                                      "\nVerifying installation...\n"
+                                      "\nClaude Code 1.0.42 (claude) installed successfully!\n"));
+    EXPECT_TRUE(QFileInfo(sandbox.path(QStringLiteral("Developer"))).isDir());
+    EXPECT_FALSE(QFile::exists(sandbox.stateDirectory() + QStringLiteral("/node.log")));
+    // The maker's own installer was fetched over TLS.
+    EXPECT_TRUE(QFile(sandbox.stateDirectory() + QStringLiteral("/curl.log")).exists());
+}
+
+TEST_F(ToolInstallerTest, GeminiWithARecentNodeSkipsTheNodeStep)
+{
+    sandbox.installFake(QStringLiteral("git"));
+    sandbox.installFake(QStringLiteral("node"));
+    sandbox.installFake(QStringLiteral("npm"));
+    QDir().mkpath(sandbox.path(QStringLiteral("Developer")));
+
+    const QList<SetupStep> list = steps(CLITool::geminiCLI);
+    ASSERT_EQ(list.size(), 4);
+    EXPECT_EQ(list[2], (SetupStep{SetupStepType::installNode, kSkipped, QStringLiteral("v20.10.0")}));
+    EXPECT_EQ(list[3].details, QStringLiteral("Gemini CLI"));
+
+    const SetupRun run = runSetup(CLITool::geminiCLI);
+    ASSERT_TRUE(run.result && run.result->ok()) << run.error().toStdString();
+    EXPECT_EQ(run.reports[1], (Report{SetupStepType::createDeveloperFolder, kSkipped, QStringLiteral("Already exists")}));
+    EXPECT_TRUE(run.reports.contains(Report{SetupStepType::installNode, kSkipped, QStringLiteral("v20.10.0")}));
+    EXPECT_FALSE(run.reports.contains(Report{SetupStepType::installNode, kInProgress, std::nullopt}));
+    EXPECT_EQ(run.last(SetupStepType::installTool), kDone);
+    EXPECT_TRUE(run.log.startsWith(QStringLiteral("~/Developer folder already exists\n")));
+    EXPECT_TRUE(run.log.contains(QStringLiteral("added 1 package in 2s\n")));
+    EXPECT_TRUE(run.log.endsWith(QStringLiteral("\nGemini CLI 1.0.42 (gemini) installed successfully!\n")));
+}
+
+TEST_F(ToolInstallerTest, AnOldNodeIsReplacedThroughHomebrew)
+{
+    sandbox.installFake(QStringLiteral("git"));
+    sandbox.installFake(QStringLiteral("node"));
+    sandbox.installFake(QStringLiteral("npm"));
+    sandbox.installFake(QStringLiteral("brew"));
+    sandbox.setEnv("FAKE_NODE_VERSION", "v16.20.2");
+
+    EXPECT_EQ(steps(CLITool::codex)[2], (SetupStep{SetupStepType::installNode, kPending, std::nullopt}));
+    const SetupRun run = runSetup(CLITool::codex);
+    ASSERT_TRUE(run.result && run.result->ok()) << run.error().toStdString();
+    EXPECT_TRUE(run.reports.contains(Report{SetupStepType::installNode, kInProgress, std::nullopt}));
+    EXPECT_TRUE(run.reports.contains(Report{SetupStepType::installNode, kDone, QStringLiteral("v21.5.0")}));
+    EXPECT_TRUE(run.log.contains(QStringLiteral("Installing Node.js via Homebrew...\n==> Downloading")));
+    EXPECT_TRUE(run.log.contains(QStringLiteral("Node.js v21.5.0 successfully!\n")));
+}
+
+TEST_F(ToolInstallerTest, WithoutHomebrewNodeComesFromTheOfficialRelease)
+{
+    sandbox.installFake(QStringLiteral("git"));
+    sandbox.installFake(QStringLiteral("npm"));
+    // Stands in for the platform's release installer: it puts node on the search path.
+    platform.nodeInstallCommand = QStringLiteral("echo fetching release; cp \"$FAKE_FIXTURES/node\" "
+                                                 "\"$FAKE_BIN/node\"; chmod +x \"$FAKE_BIN/node\"");
+    const SetupRun run = runSetup(CLITool::codex);
+    ASSERT_TRUE(run.result && run.result->ok()) << run.error().toStdString();
+    EXPECT_TRUE(run.log.contains(QStringLiteral("Installing Node.js via official installer...\nfetching release\n")));
+    EXPECT_TRUE(run.reports.contains(Report{SetupStepType::installNode, kDone, QStringLiteral("v20.10.0")}));
+}
+
+TEST_F(ToolInstallerTest, NodeFailures)
+{
+    sandbox.installFake(QStringLiteral("git"));
+    sandbox.installFake(QStringLiteral("npm"));
+    sandbox.installFake(QStringLiteral("brew"));
+
+    // The installer itself fails: its error ends the run and the step stays in progress.
+    sandbox.setEnv("FAKE_BREW_FAIL", "1");
+    SetupRun failed = runSetup(CLITool::geminiCLI);
+    EXPECT_EQ(failed.error(), QStringLiteral("Command failed with exit code 1: Command failed"));
+    EXPECT_EQ(failed.last(SetupStepType::installNode), kInProgress);
+    EXPECT_FALSE(failed.mentions(SetupStepType::installTool));
+    EXPECT_TRUE(failed.log.contains(QStringLiteral("failed to download resource")));
+
+    // The installer succeeds but Node.js is still missing afterwards.
+    sandbox.setEnv("FAKE_BREW_FAIL", "");
+    sandbox.setEnv("FAKE_BREW_NO_NODE", "1");
+    SetupRun missing = runSetup(CLITool::geminiCLI);
+    EXPECT_EQ(missing.error(), QStringLiteral("Failed to install Node.js. Please install it manually from nodejs.org"));
+    ASSERT_TRUE(missing.result);
+    EXPECT_EQ(missing.result->error().installationError(), InstallationError::nodeInstallFailed);
+    EXPECT_EQ(missing.last(SetupStepType::installNode), kInProgress);
+}
+
+TEST_F(ToolInstallerTest, MissingGitStopsEverything)
+{
+    sandbox.installFake(QStringLiteral("npm"));
+    sandbox.installFake(QStringLiteral("node"));
+    const SetupRun run = runSetup(CLITool::geminiCLI);
+    EXPECT_EQ(run.error(), QStringLiteral("Git is required but not found. Please install Xcode Command Line Tools by "
+                                          "running: xcode-select --install"));
+    EXPECT_EQ(run.reports.last(), (Report{SetupStepType::checkGit, SetupStepStatus::failure(QStringLiteral("Not found")),
+                                          std::nullopt}));
+    EXPECT_TRUE(run.log.endsWith(QStringLiteral("Git not found. Please install Xcode Command Line Tools.\n")));
+    EXPECT_FALSE(QFile::exists(sandbox.stateDirectory() + QStringLiteral("/npm.log")));
+}
+
+TEST_F(ToolInstallerTest, ToolInstallAndVerificationFailures)
+{
+    sandbox.installFake(QStringLiteral("git"));
+    sandbox.installFake(QStringLiteral("node"));
+    sandbox.installFake(QStringLiteral("npm"));
+
+    sandbox.setEnv("FAKE_NPM_FAIL", "1");
+    const SetupRun failed = runSetup(CLITool::codex);
+    EXPECT_EQ(failed.error(), QStringLiteral("Command failed with exit code 1: Command failed"));
+    EXPECT_EQ(failed.last(SetupStepType::installTool), kInProgress);
+    EXPECT_TRUE(failed.log.contains(QStringLiteral("npm ERR! 404 Not Found")));
+    EXPECT_FALSE(failed.log.contains(QStringLiteral("Verifying")));
+
+    sandbox.setEnv("FAKE_NPM_FAIL", "");
+    sandbox.setEnv("FAKE_NPM_SKIP_BIN", "1");
+    const SetupRun unverified = runSetup(CLITool::codex);
+    EXPECT_EQ(unverified.error(),
+              QStringLiteral("Installation completed but the tool could not be verified. Please try again."));
+    EXPECT_EQ(unverified.reports.last(),
+              (Report{SetupStepType::installTool, SetupStepStatus::failure(QStringLiteral("Verification failed")),
+                      std::nullopt}));
+    EXPECT_TRUE(unverified.log.endsWith(QStringLiteral("\nVerifying installation...\n")));
+}
+
+TEST_F(ToolInstallerTest, AnUnreadableVersionKeepsTheDetails)
+{
+    sandbox.installFake(QStringLiteral("git"));
+    sandbox.installFake(QStringLiteral("node"));
+    sandbox.installFake(QStringLiteral("npm"));
+    sandbox.setEnv("FAKE_TOOL_VERSION_FAIL", "1");
+    const SetupRun run = runSetup(CLITool::geminiCLI);
+    ASSERT_TRUE(run.result && run.result->ok());
+    EXPECT_EQ(run.reports.last(), (Report{SetupStepType::installTool, kDone, std::nullopt}));
+    EXPECT_TRUE(run.log.endsWith(QStringLiteral("\nGemini CLI installed successfully!\n")));
+}
+
+TEST_F(ToolInstallerTest, TheProjectsFolder)
+{
+    // Anything already at the path counts, an ordinary file too.
+    sandbox.writeFile(QStringLiteral("Developer"), "not a folder");
+    QString log;
+    EXPECT_FALSE(*await(ToolInstaller::shared().createDeveloperFolder([&](const QString& t) { log += t; })));
+    EXPECT_EQ(log, QStringLiteral("~/Developer folder already exists\n"));
+
+    // A folder that cannot be made is noted and the setup goes on.
+    sandbox.setEnv("HOME", (sandbox.path(QStringLiteral("Developer")) + QStringLiteral("/inside")).toUtf8());
+    sandbox.installFake(QStringLiteral("git"));
+    sandbox.installFake(QStringLiteral("curl"));
+    const SetupRun run = runSetup(CLITool::claudeCode);
+    EXPECT_TRUE(run.log.startsWith(QStringLiteral("Note: Could not create ~/Developer folder: ")));
+    EXPECT_EQ(run.reports[1].type, SetupStepType::createDeveloperFolder);
+    EXPECT_EQ(run.reports[1].status.kind(), SetupStepStatus::failed);
+    EXPECT_TRUE(run.mentions(SetupStepType::installTool));
+}
+
+TEST_F(ToolInstallerTest, UninstallRemovesEveryNpmCopy)
+{
+    // Gemini CLI in Homebrew's npm and in an nvm version: one line removes both.
+    sandbox.installFakeAt(QStringLiteral("npm"), sandbox.systemPath(QStringLiteral("/opt/homebrew/bin/npm")));
+    sandbox.installFakeAt(QStringLiteral("gemini"), sandbox.systemPath(QStringLiteral("/opt/homebrew/bin/gemini")));
+    const QString nvm = sandbox.path(QStringLiteral(".nvm/versions/node/v20.10.0/bin/"));
+    sandbox.installFakeAt(QStringLiteral("npm"), nvm + QStringLiteral("npm"));
+    sandbox.installFakeAt(QStringLiteral("gemini"), nvm + QStringLiteral("gemini"));
+
+    QString log;
+    ASSERT_TRUE(await(ToolInstaller::shared().uninstall(CLITool::geminiCLI, [&](const QString& t) { log += t; })));
+    EXPECT_FALSE(QFile::exists(nvm + QStringLiteral("gemini")));
+    EXPECT_FALSE(QFile::exists(sandbox.systemPath(QStringLiteral("/opt/homebrew/bin/gemini"))));
+    EXPECT_EQ(log, QStringLiteral("Uninstalling Gemini CLI...\nremoved 1 package\nremoved 1 package\n"
+                                  "\nGemini CLI has been uninstalled.\n"));
+}
+
+TEST_F(ToolInstallerTest, UninstallTellsAboutCopiesLeftOnThePath)
+{
+    // Claude Code installed by other means, in ~/.local/bin; nothing for npm to remove.
+    sandbox.installFakeAt(QStringLiteral("claude"), sandbox.path(QStringLiteral(".local/bin/claude")));
+    QDir().mkpath(sandbox.path(QStringLiteral(".claude/local")));
+    QDir().mkpath(sandbox.path(QStringLiteral(".claude/downloads")));
+    sandbox.writeFile(QStringLiteral(".claude/settings.json"), "{}");
+
+    QString log;
+    ASSERT_TRUE(await(ToolInstaller::shared().uninstall(CLITool::claudeCode, [&](const QString& t) { log += t; })));
+    EXPECT_EQ(log, QStringLiteral("Uninstalling Claude Code...\n"
+                                  "\nNote: 'claude' is still found in PATH. You may have multiple installations.\n"
+                                  "Run 'which claude' in Terminal to find other copies.\n"));
+    EXPECT_FALSE(sandbox.exists(QStringLiteral(".claude/local")));
+    EXPECT_FALSE(sandbox.exists(QStringLiteral(".claude/downloads")));
+    EXPECT_TRUE(sandbox.exists(QStringLiteral(".claude/settings.json")));
+}
+
+TEST_F(ToolInstallerTest, UninstallNotesAFailingRemovalAndCarriesOn)
+{
+    // A removal line that cannot even start still ends in a verdict.
+    ShellRunner::shared().setShell(QStringLiteral("/nonexistent/zsh"));
+    QString log;
+    ASSERT_TRUE(await(ToolInstaller::shared().uninstall(CLITool::codex, [&](const QString& t) { log += t; })));
+    EXPECT_TRUE(log.startsWith(QStringLiteral("Uninstalling Codex...\nNote: Process error: ")));
+    EXPECT_TRUE(log.endsWith(QStringLiteral("\nCodex has been uninstalled.\n")));
+}
