@@ -1,0 +1,293 @@
+// quillforge-probe: the support tool. Runs the real services against the current HOME and
+// prints, as plain text, what the dashboard and the system check would show on this machine:
+// the AI tools found and their versions, the supporting items, the requirement list of each
+// tool, the shell profile and the terminal Quillforge would open.
+//
+// It only looks. Nothing is installed, removed, written or created; the commands it runs are
+// the detection commands of the services themselves (`which`, `--version`).
+#include "CLITool.h"
+#include "Errors.h"
+#include "Platform.h"
+#include "SetupModel.h"
+#include "ShellRunner.h"
+#include "SystemDetector.h"
+#include "SystemTool.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+#include <QCoro/QCoroTask>
+
+#include <algorithm>
+#include <cstdio>
+
+namespace {
+
+using namespace qf;
+
+// Width of the label column of "label  value" lines.
+constexpr int kLabelWidth = 18;
+constexpr auto kIndent = "  ";
+
+void printLine(const QString& text = QString())
+{
+    std::fputs(text.toUtf8().constData(), stdout);
+    std::fputc('\n', stdout);
+}
+
+void printHeading(const QString& title)
+{
+    printLine();
+    printLine(title);
+    printLine(QString(title.size(), QLatin1Char('-')));
+}
+
+// "  label             value"; a value of several lines continues under the first one.
+void printField(const QString& label, const QString& value, const QString& indent = QLatin1String(kIndent))
+{
+    const QStringList lines = value.split(QLatin1Char('\n'));
+    const QString padding(kLabelWidth, QLatin1Char(' '));
+    for (qsizetype i = 0; i < lines.size(); ++i) {
+        const QString head = i == 0 ? label.leftJustified(kLabelWidth) : padding;
+        printLine(indent + head + QLatin1Char(' ') + lines.at(i));
+    }
+}
+
+// A small text table: columns as wide as their widest cell, two blanks between them. A cell
+// of several lines takes several rows.
+class Table {
+public:
+    explicit Table(QStringList header) : m_header(std::move(header)) {}
+
+    void addRow(QStringList cells) { m_rows << std::move(cells); }
+
+    void print(const QString& indent = QLatin1String(kIndent)) const
+    {
+        QList<qsizetype> widths(m_header.size(), 0);
+        auto measure = [&widths](const QStringList& cells) {
+            for (qsizetype c = 0; c < cells.size() && c < widths.size(); ++c)
+                for (const QString& line : cells.at(c).split(QLatin1Char('\n')))
+                    widths[c] = std::max(widths[c], line.size());
+        };
+        measure(m_header);
+        for (const QStringList& row : m_rows)
+            measure(row);
+
+        printRow(m_header, widths, indent);
+        QStringList rules;
+        for (qsizetype width : widths)
+            rules << QString(width, QLatin1Char('-'));
+        printRow(rules, widths, indent);
+        for (const QStringList& row : m_rows)
+            printRow(row, widths, indent);
+    }
+
+private:
+    static void printRow(const QStringList& cells, const QList<qsizetype>& widths, const QString& indent)
+    {
+        QList<QStringList> columns;
+        qsizetype height = 1;
+        for (qsizetype c = 0; c < widths.size(); ++c) {
+            columns << (c < cells.size() ? cells.at(c).split(QLatin1Char('\n')) : QStringList{QString()});
+            height = std::max(height, columns.last().size());
+        }
+        for (qsizetype r = 0; r < height; ++r) {
+            QString text = indent;
+            for (qsizetype c = 0; c < widths.size(); ++c) {
+                const QString cell = r < columns.at(c).size() ? columns.at(c).at(r) : QString();
+                const bool last = c + 1 == widths.size();
+                text += last ? cell : cell.leftJustified(widths.at(c) + 2);
+            }
+            printLine(text);
+        }
+    }
+
+    QStringList m_header;
+    QList<QStringList> m_rows;
+};
+
+QString orDash(const std::optional<QString>& text)
+{
+    return text && !text->isEmpty() ? *text : QStringLiteral("-");
+}
+
+QString describeFailure(const ServiceError& error)
+{
+    QString text = error.errorDescription().trimmed();
+    return text.isEmpty() ? QStringLiteral("failed") : text;
+}
+
+void printHeader()
+{
+    printLine(QStringLiteral("Quillforge support probe"));
+    printLine(QStringLiteral("========================"));
+
+    const RequirementStatus os = SystemDetector::shared().checkOperatingSystem();
+    printField(QStringLiteral("Operating system"),
+               Platform::current().name() + QStringLiteral(": ") + os.details +
+                   (os.isMet ? QStringLiteral(" (supported)") : QStringLiteral(" (not supported)")));
+    printField(QStringLiteral("Home folder"), QDir::homePath());
+
+    ShellRunner& runner = ShellRunner::shared();
+    printField(QStringLiteral("Shell"), runner.shell() + QStringLiteral(" -l -c <command>"));
+
+    // The search path every command gets, one directory a line; missing ones are marked.
+    QStringList directories;
+    const QString path = runner.commandEnvironment().value(QStringLiteral("PATH"));
+    for (const QString& directory : path.split(QLatin1Char(':'))) {
+        const QFileInfo info(directory);
+        directories << (directory.isEmpty() ? QStringLiteral("(empty entry: the current folder)")
+                        : info.isDir()      ? directory
+                                            : directory + QStringLiteral("  (missing)"));
+    }
+    printField(QStringLiteral("Command PATH"), directories.join(QLatin1Char('\n')));
+}
+
+QCoro::Task<void> printAiTools()
+{
+    printHeading(QStringLiteral("AI tools"));
+    Table table({QStringLiteral("Tool"), QStringLiteral("Command"), QStringLiteral("Status"),
+                 QStringLiteral("which"), QStringLiteral("Version (--version)")});
+    for (const CLITool& tool : CLITool::allCases()) {
+        const QString command = tool.commandName();
+        const Result<QString> found = co_await ShellRunner::shared().run(QStringLiteral("which ") + command);
+
+        QString status;
+        QString location;
+        if (found) {
+            status = QStringLiteral("installed");
+            location = found.value();
+        } else if (const ShellError* shell = found.error().shellError();
+                   shell && shell->kind() == ShellError::commandFailed) {
+            status = QStringLiteral("not installed");
+            location = shell->output().isEmpty() ? QStringLiteral("-") : shell->output();
+        } else {
+            status = QStringLiteral("unknown");
+            location = describeFailure(found.error());
+        }
+
+        const std::optional<QString> version = co_await SystemDetector::shared().getToolVersion(tool);
+        table.addRow({tool.displayName(), command, status, location, orDash(version)});
+    }
+    table.print();
+}
+
+QCoro::Task<void> printSupportingItems()
+{
+    printHeading(QStringLiteral("Supporting items"));
+    const QList<SystemTool> items = co_await detectSystemTools(systemToolCatalogue());
+
+    Table table({QStringLiteral("#"), QStringLiteral("Item"), QStringLiteral("Status"), QStringLiteral("Version"),
+                 QStringLiteral("Optional")});
+    for (const SystemTool& item : items) {
+        table.addRow({item.stepNumber ? QString::number(*item.stepNumber) : QStringLiteral("-"), item.name,
+                      item.isInstalled ? QStringLiteral("installed") : QStringLiteral("missing"),
+                      orDash(item.version), item.isOptional ? QStringLiteral("yes") : QStringLiteral("no")});
+    }
+    table.print();
+
+    printLine();
+    printLine(QStringLiteral("  How each item is removed:"));
+    for (const SystemTool& item : items) {
+        QString removal;
+        if (item.uninstallCommand)
+            removal = QStringLiteral("command: ") + *item.uninstallCommand;
+        else if (item.uninstallNote)
+            removal = QStringLiteral("note:    ") + *item.uninstallNote;
+        else
+            removal = QStringLiteral("-");
+        printField(item.name, removal);
+    }
+}
+
+QCoro::Task<void> printRequirements()
+{
+    printHeading(QStringLiteral("Requirements"));
+
+    const NodeCheck node = co_await SystemDetector::shared().checkNodeJS();
+    QString nodeText = QStringLiteral("not installed");
+    if (node.isInstalled) {
+        const QString verdict = node.meetsRequirement ? QStringLiteral(" (new enough: %1 or later)")
+                                                      : QStringLiteral(" (too old: %1 or later needed)");
+        nodeText = node.version.value_or(QString()) + verdict.arg(SystemDetector::minimumNodeMajorVersion);
+    }
+    printField(QStringLiteral("Node.js"), nodeText);
+    const std::optional<qint64> space = SystemDetector::shared().availableDiskSpaceMB();
+    printField(QStringLiteral("Free disk space"),
+               space ? QString::number(*space) + QStringLiteral(" MB on the volume of the home folder")
+                     : QStringLiteral("could not be read"));
+
+    for (const CLITool& tool : CLITool::allCases()) {
+        printLine();
+        printLine(QLatin1String(kIndent) + tool.displayName());
+        const QList<RequirementStatus> requirements = co_await SystemDetector::shared().checkAllRequirements(tool);
+
+        Table table({QStringLiteral("Requirement"), QStringLiteral("Status"), QStringLiteral("Details")});
+        bool canProceed = true;
+        bool nodeWillBeInstalled = false;
+        for (const RequirementStatus& status : requirements) {
+            table.addRow({status.requirement.title(), status.isMet ? QStringLiteral("met") : QStringLiteral("not met"),
+                          status.details});
+            if (status.isMet)
+                continue;
+            // A missing or old Node.js never blocks: the installation installs it.
+            if (status.requirement == SystemRequirement::nodeJS)
+                nodeWillBeInstalled = true;
+            else
+                canProceed = false;
+        }
+        const QString nested = QLatin1String(kIndent) + QLatin1String(kIndent);
+        table.print(nested);
+        printField(QStringLiteral("Installation"),
+                   !canProceed           ? QStringLiteral("blocked (a requirement above is not met)")
+                   : nodeWillBeInstalled ? QStringLiteral("could proceed (Node.js would be installed first)")
+                                         : QStringLiteral("could proceed"),
+                   nested);
+    }
+}
+
+void printProfileAndTerminal()
+{
+    printHeading(QStringLiteral("Shell profile and terminal"));
+    const QString profile = SystemDetector::shared().shellProfilePath();
+    const QFileInfo info(profile);
+    QString state;
+    if (info.isSymLink())
+        state = QStringLiteral(" (symbolic link to ") + info.symLinkTarget() +
+                (info.exists() ? QStringLiteral(")") : QStringLiteral(", which does not exist)"));
+    else if (info.exists())
+        state = QStringLiteral(" (exists)");
+    else
+        state = QStringLiteral(" (does not exist yet; it would be created when a key is saved)");
+    printField(QStringLiteral("Shell profile"), profile + state);
+    printField(QStringLiteral("Terminal"), Platform::current().terminalDescription());
+}
+
+QCoro::Task<void> probe()
+{
+    printHeader();
+    std::fflush(stdout);
+    co_await printAiTools();
+    std::fflush(stdout);
+    co_await printSupportingItems();
+    std::fflush(stdout);
+    co_await printRequirements();
+    printProfileAndTerminal();
+    std::fflush(stdout);
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    QCoreApplication app(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("quillforge-probe"));
+
+    // A command-line tool with nothing else to do meanwhile: waiting here is fine.
+    QCoro::waitFor(probe());
+    return 0;
+}

@@ -1,0 +1,264 @@
+#include "CoroTest.h"
+#include "FakePlatform.h"
+#include "ProfileWriter.h"
+#include "ShellSandbox.h"
+#include "ToolInstaller.h"
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+using namespace qf;
+using qf::test::await;
+
+namespace {
+
+class ApiKeyTest : public ::testing::Test {
+protected:
+    Result<void> save(const QString& key, CLITool tool)
+    {
+        auto result = await(ToolInstaller::shared().saveAPIKey(key, tool));
+        if (!result)
+            return ServiceError::message(QStringLiteral("did not finish"));
+        return *result;
+    }
+    QByteArray profile(const QString& name = QStringLiteral(".zshrc")) const { return sandbox.readFile(name); }
+
+    // What `shell` (bash or zsh) sets the variable to when it sources the profile.
+    QByteArray sourced(const QString& shell, const QString& profileName, const QString& variable) const
+    {
+        QProcess process;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("HOME"), sandbox.home());
+        environment.remove(variable);
+        process.setProcessEnvironment(environment);
+        process.setWorkingDirectory(sandbox.home());
+        process.start(shell, {QStringLiteral("-c"), QStringLiteral(". \"$HOME/%1\"; printf %s \"$%2\"").arg(profileName, variable)});
+        EXPECT_TRUE(process.waitForFinished(10000));
+        return process.readAllStandardOutput();
+    }
+
+    test::ShellSandbox sandbox;
+    test::FakePlatform platform;
+};
+
+} // namespace
+
+TEST(ProfileWriter, ExportLines)
+{
+    EXPECT_EQ(ProfileWriter::exportLine(QStringLiteral("ANTHROPIC_API_KEY"), QStringLiteral("sk-ant-api03_AB.c9")),
+              QStringLiteral("export ANTHROPIC_API_KEY=\"sk-ant-api03_AB.c9\""));
+    EXPECT_EQ(ProfileWriter::exportLine(QStringLiteral("K"), QStringLiteral("it's $(x)")),
+              QStringLiteral("export K='it'\\''s $(x)'"));
+    EXPECT_TRUE(ProfileWriter::isPlainKey(QStringLiteral("AIzaSy-abc_DEF.123")));
+    for (const char* key : {"", "a b", "a$b", "a\"b", "ключ", "a`b`"})
+        EXPECT_FALSE(ProfileWriter::isPlainKey(QString::fromUtf8(key))) << key;
+
+    EXPECT_TRUE(ProfileWriter::rejectionReason(QStringLiteral("one\ntwo")).has_value());
+    EXPECT_TRUE(ProfileWriter::rejectionReason(QStringLiteral("one\rtwo")).has_value());
+    EXPECT_TRUE(ProfileWriter::rejectionReason(QStringLiteral("one") + QChar(u'\0') + QStringLiteral("two")).has_value());
+    EXPECT_FALSE(ProfileWriter::rejectionReason(QStringLiteral("   ")).has_value());
+}
+
+TEST(ProfileWriter, RewriteTouchesOnlyTheExportLines)
+{
+    const QString line = QStringLiteral("export OPENAI_API_KEY=\"new\"");
+    const QString text = QStringLiteral("# my settings\r\n"
+                                        "export OPENAI_API_KEY=\"old\"\r\n"
+                                        "#export OPENAI_API_KEY=older\n"
+                                        "export OPENAI_API_KEY_2=keep\n"
+                                        "export MY_OPENAI_API_KEY=keep\n"
+                                        "# OPENAI_API_KEY is set above\n"
+                                        "alias x=y");
+    EXPECT_EQ(ProfileWriter::rewrite(text, QStringLiteral("OPENAI_API_KEY"), line),
+              QStringLiteral("# my settings\r\n"
+                             "export OPENAI_API_KEY=\"new\"\r\n"
+                             "#export OPENAI_API_KEY=\"new\"\n"
+                             "export OPENAI_API_KEY_2=keep\n"
+                             "export MY_OPENAI_API_KEY=keep\n"
+                             "# OPENAI_API_KEY is set above\n"
+                             "alias x=y"));
+    // The replacement goes in literally: no group references, no escapes.
+    EXPECT_EQ(ProfileWriter::rewrite(QStringLiteral("export K=1"), QStringLiteral("K"), QStringLiteral("export K='$1\\0&'")),
+              QStringLiteral("export K='$1\\0&'"));
+}
+
+TEST(ProfileWriter, AppendCommands)
+{
+    EXPECT_EQ(ProfileWriter::appendCommand(QStringLiteral("Claude Code"), QStringLiteral("export ANTHROPIC_API_KEY=\"k\""),
+                                           QStringLiteral("/Users/ada/.zshrc")),
+              QStringLiteral("echo '\n# Claude Code API Key\nexport ANTHROPIC_API_KEY=\"k\"' >> /Users/ada/.zshrc"));
+    // A home folder with a blank in its name still gets the block.
+    EXPECT_EQ(ProfileWriter::appendCommand(QStringLiteral("Codex"), QStringLiteral("export OPENAI_API_KEY=\"k\""),
+                                           QStringLiteral("/home/Ada Lovelace/.zshrc")),
+              QStringLiteral("printf '%s\\n' '' '# Codex API Key' 'export OPENAI_API_KEY=\"k\"' >> "
+                             "'/home/Ada Lovelace/.zshrc'"));
+}
+
+TEST_F(ApiKeyTest, FirstSaveCreatesTheProfileBlock)
+{
+    ASSERT_TRUE(save(QStringLiteral("sk-ant-123"), CLITool::claudeCode).ok());
+    EXPECT_EQ(profile(), QByteArray("\n# Claude Code API Key\nexport ANTHROPIC_API_KEY=\"sk-ant-123\"\n"));
+    EXPECT_EQ(qgetenv("ANTHROPIC_API_KEY"), QByteArray("sk-ant-123"));
+    qunsetenv("ANTHROPIC_API_KEY");
+}
+
+TEST_F(ApiKeyTest, TheKeyGoesToTheProfileInUse)
+{
+    sandbox.writeFile(QStringLiteral(".bash_profile"), "export PATH=$PATH:/opt/bin");  // no final newline
+    ASSERT_TRUE(save(QStringLiteral("AIza-1"), CLITool::geminiCLI).ok());
+    EXPECT_FALSE(sandbox.exists(QStringLiteral(".zshrc")));
+    EXPECT_EQ(profile(QStringLiteral(".bash_profile")),
+              QByteArray("export PATH=$PATH:/opt/bin\n# Gemini CLI API Key\nexport GEMINI_API_KEY=\"AIza-1\"\n"));
+    qunsetenv("GEMINI_API_KEY");
+}
+
+TEST_F(ApiKeyTest, LaterSavesRewriteInPlace)
+{
+    sandbox.writeFile(QStringLiteral(".zshrc"), "alias ll='ls -l'\r\nexport GEMINI_API_KEY=\"old\"\r\nbindkey -e\r\n");
+    const QByteArray path = sandbox.path(QStringLiteral(".zshrc")).toLocal8Bit();
+    ::chmod(path.constData(), 0600);
+    ASSERT_TRUE(save(QStringLiteral("AIza-new"), CLITool::geminiCLI).ok());
+    const QByteArray first = profile();
+    EXPECT_EQ(first, QByteArray("alias ll='ls -l'\r\nexport GEMINI_API_KEY=\"AIza-new\"\r\nbindkey -e\r\n"));
+    struct stat info {};
+    ASSERT_EQ(::stat(path.constData(), &info), 0);
+    EXPECT_EQ(info.st_mode & 07777, 0600u);
+    ASSERT_TRUE(save(QStringLiteral("AIza-new"), CLITool::geminiCLI).ok());
+    EXPECT_EQ(profile(), first);  // a second save changes nothing
+    qunsetenv("GEMINI_API_KEY");
+}
+
+TEST_F(ApiKeyTest, MentionsAndCommentedLines)
+{
+    // Named only in a comment: nothing is added, the key is still set for this run.
+    sandbox.writeFile(QStringLiteral(".zshrc"), "# remember OPENAI_API_KEY\n");
+    ASSERT_TRUE(save(QStringLiteral("sk-proj-1"), CLITool::codex).ok());
+    EXPECT_EQ(profile(), QByteArray("# remember OPENAI_API_KEY\n"));
+    EXPECT_EQ(qgetenv("OPENAI_API_KEY"), QByteArray("sk-proj-1"));
+
+    // A commented-out export line is rewritten and stays commented.
+    sandbox.writeFile(QStringLiteral(".zshrc"), "# export OPENAI_API_KEY=\"old\"\n");
+    ASSERT_TRUE(save(QStringLiteral("sk-proj-2"), CLITool::codex).ok());
+    EXPECT_EQ(profile(), QByteArray("# export OPENAI_API_KEY=\"sk-proj-2\"\n"));
+    qunsetenv("OPENAI_API_KEY");
+}
+
+TEST_F(ApiKeyTest, ALinkedProfileStaysALink)
+{
+    sandbox.writeFile(QStringLiteral("dotfiles/zshrc"), "export ANTHROPIC_API_KEY=\"old\"\n");
+    ASSERT_TRUE(QFile::link(sandbox.path(QStringLiteral("dotfiles/zshrc")), sandbox.path(QStringLiteral(".zshrc"))));
+    ASSERT_TRUE(save(QStringLiteral("sk-ant-9"), CLITool::claudeCode).ok());
+    EXPECT_TRUE(QFileInfo(sandbox.path(QStringLiteral(".zshrc"))).isSymLink());
+    EXPECT_EQ(sandbox.readFile(QStringLiteral("dotfiles/zshrc")), QByteArray("export ANTHROPIC_API_KEY=\"sk-ant-9\"\n"));
+    qunsetenv("ANTHROPIC_API_KEY");
+}
+
+TEST_F(ApiKeyTest, HostileKeysStayData)
+{
+    const QString canary = sandbox.path(QStringLiteral("pwned"));
+    const QStringList keys = {
+        QStringLiteral("it's"),
+        QStringLiteral("$(touch %1)").arg(canary),
+        QStringLiteral("`touch %1`").arg(canary),
+        QStringLiteral("a\\nb\\c\\\\d"),
+        QStringLiteral("bang!!x !$"),
+        QStringLiteral("  spaced  out  "),
+        QStringLiteral("\"; touch %1; echo \"").arg(canary),
+        QStringLiteral("'; touch %1; echo '").arg(canary),
+        QStringLiteral("${HOME}*?[a]"),
+        QString::fromUtf8("clé-ключ"),
+    };
+    for (const QString& key : keys) {
+        // Both ways into the profile: appending to a new file, and rewriting an existing line.
+        for (bool existing : {false, true}) {
+            QFile::remove(sandbox.path(QStringLiteral(".zshrc")));
+            if (existing)
+                sandbox.writeFile(QStringLiteral(".zshrc"), "export OPENAI_API_KEY=\"old\"\n");
+            ASSERT_TRUE(save(key, CLITool::codex).ok()) << key.toStdString();
+            EXPECT_EQ(sourced(QStringLiteral("/bin/zsh"), QStringLiteral(".zshrc"), QStringLiteral("OPENAI_API_KEY")),
+                      key.toUtf8())
+                << key.toStdString();
+            EXPECT_EQ(sourced(QStringLiteral("/bin/bash"), QStringLiteral(".zshrc"), QStringLiteral("OPENAI_API_KEY")),
+                      key.toUtf8())
+                << key.toStdString();
+            EXPECT_EQ(qgetenv("OPENAI_API_KEY"), key.toUtf8());
+            EXPECT_FALSE(QFile::exists(canary)) << key.toStdString() << " ran as code";
+        }
+    }
+    qunsetenv("OPENAI_API_KEY");
+}
+
+TEST_F(ApiKeyTest, RefusedKeysTouchNothing)
+{
+    sandbox.writeFile(QStringLiteral(".zshrc"), "export GEMINI_API_KEY=\"old\"\n");
+    const Result<void> result = save(QStringLiteral("first\nsecond"), CLITool::geminiCLI);
+    ASSERT_FALSE(result.ok());
+    EXPECT_TRUE(result.error().errorDescription().contains(QStringLiteral("line break")));
+    EXPECT_FALSE(result.error().errorDescription().contains(QStringLiteral("first")));  // the key is never echoed
+    EXPECT_EQ(profile(), QByteArray("export GEMINI_API_KEY=\"old\"\n"));
+    EXPECT_FALSE(qEnvironmentVariableIsSet("GEMINI_API_KEY"));
+}
+
+TEST_F(ApiKeyTest, AProfileThatCannotBeAppendedToIsAClearError)
+{
+    // ~/.zshrc is a folder: no profile exists as a file, and appending to that path fails.
+    QDir().mkpath(sandbox.path(QStringLiteral(".zshrc")));
+    const Result<void> result = save(QStringLiteral("sk-1"), CLITool::claudeCode);
+    ASSERT_FALSE(result.ok());
+    EXPECT_TRUE(result.error().errorDescription().startsWith(QStringLiteral("Command failed with exit code 1: ")));
+    EXPECT_TRUE(QDir(sandbox.path(QStringLiteral(".zshrc"))).isEmpty());
+    EXPECT_FALSE(qEnvironmentVariableIsSet("ANTHROPIC_API_KEY"));
+}
+
+TEST_F(ApiKeyTest, AProfileThatCannotBeRewrittenIsLeftAlone)
+{
+    // Permissions only stop ordinary users: as root the write is tried as "nobody", in a child.
+    const QString folder = sandbox.path(QStringLiteral("locked"));
+    QDir().mkpath(folder);
+    const QString file = folder + QStringLiteral("/.zshrc");
+    sandbox.writeFile(QStringLiteral("locked/.zshrc"), "export GEMINI_API_KEY=\"old\"\n");
+    ::chmod(file.toLocal8Bit().constData(), 0444);
+    ::chmod(folder.toLocal8Bit().constData(), 0555);
+    // The other user must be able to reach the folder.
+    for (QString dir = QFileInfo(folder).absolutePath(); dir.startsWith(QDir::tempPath() + QLatin1Char('/'));
+         dir = QFileInfo(dir).absolutePath()) {
+        struct stat info {};
+        if (::stat(dir.toLocal8Bit().constData(), &info) == 0)
+            ::chmod(dir.toLocal8Bit().constData(), (info.st_mode & 07777) | 0055);
+    }
+
+    auto attempt = [&] {
+        return ProfileWriter::replaceFileContents(file, QStringLiteral("export GEMINI_API_KEY=\"new\"\n"));
+    };
+
+    bool ok = true;
+    if (geteuid() != 0) {
+        const Result<void> result = attempt();
+        ok = result.ok();
+        if (!ok) {
+            EXPECT_TRUE(result.error().errorDescription().contains(file));
+        }
+    } else {
+        const pid_t child = fork();
+        if (child == 0) {
+            if (setgid(65534) != 0 || setuid(65534) != 0)
+                _exit(3);
+            _exit(attempt().ok() ? 0 : 1);
+        }
+        int status = 0;
+        waitpid(child, &status, 0);
+        ASSERT_TRUE(WIFEXITED(status));
+        ASSERT_NE(WEXITSTATUS(status), 3) << "could not become another user";
+        ok = WEXITSTATUS(status) == 0;
+    }
+    EXPECT_FALSE(ok);
+    EXPECT_EQ(sandbox.readFile(QStringLiteral("locked/.zshrc")), QByteArray("export GEMINI_API_KEY=\"old\"\n"));
+    EXPECT_EQ(QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+              QStringList{QStringLiteral(".zshrc")});  // no temporary file left behind
+    ::chmod(folder.toLocal8Bit().constData(), 0755);
+}
