@@ -94,9 +94,10 @@ void ProcessRun::finish(ProcessOutcome::Kind kind)
     m_grace.stop();
     if (kind != ProcessOutcome::failedToStart) {
         readOutput();
-        readError();
         if (m_options.channels == Channels::merged)
             deliver(m_decoder.finish());
+        else
+            readError();
     }
     m_outcome.kind = kind;
     // Resume the waiting coroutine outside QProcess's own signal handling; once it has taken

@@ -21,7 +21,7 @@ int sequenceLength(unsigned char lead)
 }
 
 // How many bytes at the end of `bytes` start a character that has not fully arrived yet.
-qsizetype incompleteTail(const QByteArray& bytes)
+qsizetype incompleteTail(QByteArrayView bytes)
 {
     const qsizetype size = bytes.size();
     // A character is at most four bytes: look at the last three for an unfinished one.
@@ -39,6 +39,12 @@ qsizetype incompleteTail(const QByteArray& bytes)
 
 QString Utf8StreamDecoder::feed(QByteArrayView bytes)
 {
+    if (m_pending.isEmpty()) {
+        // The usual case: decode straight from the chunk, keep only an unfinished tail.
+        const qsizetype keep = incompleteTail(bytes);
+        m_pending = bytes.last(keep).toByteArray();
+        return QString::fromUtf8(bytes.first(bytes.size() - keep));
+    }
     m_pending.append(bytes);
     const qsizetype keep = incompleteTail(m_pending);
     const qsizetype ready = m_pending.size() - keep;

@@ -262,7 +262,7 @@ void printProfileAndTerminal()
     else if (info.exists())
         state = QStringLiteral(" (exists)");
     else
-        state = QStringLiteral(" (does not exist yet; it would be created when a key is saved)");
+        state = QStringLiteral(" (does not exist)");
     printField(QStringLiteral("Shell profile"), profile + state);
     printField(QStringLiteral("Terminal"), Platform::current().terminalDescription());
 }
