@@ -90,7 +90,7 @@ void Button::setContentPadding(int horizontal, int vertical)
     updateGeometry();
 }
 
-int Button::contentWidth() const
+int Button::naturalContentWidth() const
 {
     int width = 0;
     int parts = 0;
@@ -106,10 +106,14 @@ int Button::contentWidth() const
         width += Symbol::boxSize(m_trailing.pointSize);
         ++parts;
     }
-    width += std::max(0, parts - 1) * m_spacing;
+    return width + std::max(0, parts - 1) * m_spacing;
+}
+
+int Button::contentWidth() const
+{
     if (m_labelWidth >= 0)
         return m_labelWidth;
-    return std::max(width, m_minimumLabelWidth);
+    return std::max(naturalContentWidth(), m_minimumLabelWidth);
 }
 
 int Button::horizontalPadding() const
@@ -229,22 +233,8 @@ void Button::paintEvent(QPaintEvent*)
     if ((m_style == Style::plain || m_style == Style::borderless || m_style == Style::link) && isDown())
         content.setAlphaF(content.alphaF() * 0.55f);
     const int width = contentWidth();
-    int natural = 0;
-    int parts = 0;
+    const int natural = naturalContentWidth();
     const QFontMetrics metrics(m_font);
-    if (!m_leading.name.isEmpty()) {
-        natural += Symbol::boxSize(m_leading.pointSize);
-        ++parts;
-    }
-    if (!text().isEmpty()) {
-        natural += metrics.horizontalAdvance(text());
-        ++parts;
-    }
-    if (!m_trailing.name.isEmpty()) {
-        natural += Symbol::boxSize(m_trailing.pointSize);
-        ++parts;
-    }
-    natural += std::max(0, parts - 1) * m_spacing;
     const qreal contentLeft = (bounds.width() - width) / 2.0;
     qreal x = contentLeft + std::max(0, width - natural) / 2.0;
     const qreal centreY = bounds.height() / 2.0;

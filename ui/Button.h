@@ -57,6 +57,7 @@ private:
         SymbolWeight weight = SymbolWeight::regular;
     };
 
+    int naturalContentWidth() const;
     int contentWidth() const;
     int controlHeight() const;
     int horizontalPadding() const;

@@ -238,14 +238,6 @@ TEST(LinuxPlatformFindEmulator, EmptyPathFindsNothing)
     EXPECT_EQ(LinuxPlatform::findTerminalEmulator(QStringLiteral("::")), std::nullopt);
 }
 
-TEST(LinuxPlatformFindEmulator, PreferenceOrder)
-{
-    EXPECT_EQ(LinuxPlatform::terminalEmulators(),
-              (QStringList{QStringLiteral("xdg-terminal-exec"), QStringLiteral("x-terminal-emulator"),
-                           QStringLiteral("gnome-terminal"), QStringLiteral("konsole"),
-                           QStringLiteral("xfce4-terminal"), QStringLiteral("xterm")}));
-}
-
 // --- Opening a terminal, end to end with fake emulators ------------------------------------
 
 class LinuxPlatformOpenTerminal : public ::testing::TestWithParam<const char*> {};
@@ -475,24 +467,6 @@ INSTANTIATE_TEST_SUITE_P(LinuxPlatform, LinuxPlatformPackageLine,
                                      ch = '_';
                              return name;
                          });
-
-TEST(LinuxPlatformItems, GitToolsItem)
-{
-    const qf::DeveloperToolsItem item = LinuxPlatform::gitToolsItem();
-    EXPECT_EQ(item.id, QStringLiteral("xcode"));
-    EXPECT_EQ(item.name, QStringLiteral("Git & Build Tools"));
-    EXPECT_EQ(item.icon, QStringLiteral("hammer"));
-    EXPECT_EQ(item.description, QStringLiteral("Provides Git and build tools"));
-    EXPECT_EQ(item.presenceCommand, QStringLiteral("git --version"));
-    EXPECT_EQ(item.versionCommand, QString());
-    EXPECT_EQ(item.versionPrefix, QStringLiteral("git version "));
-    EXPECT_FALSE(item.uninstallCommand.has_value());
-    EXPECT_EQ(item.uninstallNote, std::optional<QString>(QStringLiteral("Use your system's package manager to remove Git")));
-
-    LinuxPlatform platform;
-    EXPECT_EQ(platform.developerToolsItem().name, item.name);
-    EXPECT_EQ(platform.name(), QStringLiteral("Linux"));
-}
 
 // --- Node.js without Homebrew --------------------------------------------------------------
 

@@ -110,24 +110,6 @@ INSTANTIATE_TEST_SUITE_P(MacPlatform, MacPlatformVersionCheck,
                                     std::to_string(info.param.patch);
                          });
 
-TEST(MacPlatformItems, CommandLineToolsItem)
-{
-    const qf::DeveloperToolsItem item = MacPlatform::commandLineToolsItem();
-    EXPECT_EQ(item.id, QStringLiteral("xcode"));
-    EXPECT_EQ(item.name, QStringLiteral("Xcode CLI Tools"));
-    EXPECT_EQ(item.icon, QStringLiteral("hammer"));
-    EXPECT_EQ(item.description, QStringLiteral("Provides Git and build tools"));
-    EXPECT_EQ(item.presenceCommand, QStringLiteral("xcode-select -p"));
-    EXPECT_EQ(item.versionCommand, QStringLiteral("xcodebuild -version 2>/dev/null | head -1"));
-    EXPECT_EQ(item.versionPrefix, QStringLiteral("Xcode "));
-    EXPECT_EQ(item.uninstallCommand, std::optional<QString>(QStringLiteral("sudo rm -rf /Library/Developer/CommandLineTools")));
-    EXPECT_FALSE(item.uninstallNote.has_value());
-
-    MacPlatform platform;
-    EXPECT_EQ(platform.developerToolsItem().name, item.name);
-    EXPECT_EQ(platform.developerToolsItem().uninstallCommand, item.uninstallCommand);
-}
-
 TEST(MacPlatformItems, NodePackageCommand)
 {
     const QString expected = QStringLiteral(
@@ -135,13 +117,6 @@ TEST(MacPlatformItems, NodePackageCommand)
         "-pkg /tmp/node-installer.pkg -target / && rm /tmp/node-installer.pkg");
     EXPECT_EQ(MacPlatform::nodePackageCommand(), expected);
     EXPECT_EQ(MacPlatform().officialNodeInstallCommand(), expected);
-}
-
-TEST(MacPlatformItems, Descriptions)
-{
-    MacPlatform platform;
-    EXPECT_EQ(platform.name(), QStringLiteral("macOS"));
-    EXPECT_EQ(platform.terminalDescription(), QStringLiteral("Terminal.app (through AppleScript)"));
 }
 
 // Where there is no osascript (every system but macOS) the launch fails, which must come out
