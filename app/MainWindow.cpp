@@ -1,7 +1,7 @@
 #include "MainWindow.h"
 
 #include "InstallationState.h"
-#include "Platform.h"
+#include "Services.h"
 #include "Theme.h"
 
 #include <QGuiApplication>
@@ -11,7 +11,8 @@
 
 namespace qf {
 
-MainWindow::MainWindow(InstallationState& state, ScreenFactory factory, QWidget* parent) : QWidget(parent)
+MainWindow::MainWindow(InstallationState& state, Services& services, ScreenFactory factory, QWidget* parent)
+    : QWidget(parent), m_services(services)
 {
     setObjectName(QStringLiteral("mainWindow"));
     setWindowTitle(QStringLiteral("Quillforge"));
@@ -23,7 +24,12 @@ MainWindow::MainWindow(InstallationState& state, ScreenFactory factory, QWidget*
     if (QScreen* screen = QGuiApplication::primaryScreen())
         resize(screen->availableGeometry().size().expandedTo(minimumSize()));
 
-    m_content = new ContentView(state, factory ? std::move(factory) : ScreenFactory(&makeScreen), this);
+    if (!factory) {
+        factory = [&services](InstallationStep step, InstallationState& shared) {
+            return makeScreen(step, shared, services);
+        };
+    }
+    m_content = new ContentView(state, std::move(factory), this);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_content);
@@ -51,7 +57,7 @@ void MainWindow::configure()
                          frameGeometry().right() - geometry().right(),
                          frameGeometry().bottom() - geometry().bottom());
     setGeometry(available.marginsRemoved(frame));
-    Platform::current().configureMainWindow(this);
+    m_services.platform.configureMainWindow(this);
 }
 
 } // namespace qf

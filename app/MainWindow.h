@@ -7,6 +7,7 @@
 namespace qf {
 
 class InstallationState;
+class Services;
 
 // The one main window: at least 550 x 450, opening over the screen's usable area, on the
 // window background, holding the content view.
@@ -14,7 +15,8 @@ class MainWindow : public QWidget {
     Q_OBJECT
 
 public:
-    explicit MainWindow(InstallationState& state, ScreenFactory factory = {}, QWidget* parent = nullptr);
+    // Without a factory the window shows the application's screens, built with `services`.
+    MainWindow(InstallationState& state, Services& services, ScreenFactory factory = {}, QWidget* parent = nullptr);
 
     ContentView* contentView() const { return m_content; }
     bool isConfigured() const { return m_configured; }
@@ -28,11 +30,12 @@ protected:
 private:
     void configure();
 
+    Services& m_services;
     ContentView* m_content;
     bool m_configured = false;
 };
 
 // The screen of each step: the introduction and, until they are built, plain placeholders.
-QWidget* makeScreen(InstallationStep step, InstallationState& state);
+QWidget* makeScreen(InstallationStep step, InstallationState& state, Services& services);
 
 } // namespace qf

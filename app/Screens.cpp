@@ -41,7 +41,7 @@ protected:
 
 } // namespace
 
-QWidget* makeScreen(InstallationStep step, InstallationState& state)
+QWidget* makeScreen(InstallationStep step, InstallationState& state, Services&)
 {
     switch (step) {
     case InstallationStep::onboarding:

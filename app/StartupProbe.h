@@ -8,7 +8,4 @@ namespace qf {
 // "first-frame rss_kb=N" on standard output once `window` has painted its first frame, and quits.
 void reportFirstFrameIfRequested(QWidget* window);
 
-// Resident memory of this process in kilobytes (0 where it cannot be read).
-long residentMemoryKB();
-
 } // namespace qf

@@ -1,5 +1,6 @@
 #include "InstallationState.h"
 #include "MainWindow.h"
+#include "Services.h"
 #include "StartupProbe.h"
 #include "Theme.h"
 
@@ -13,10 +14,14 @@ int main(int argc, char* argv[])
     QCoreApplication::setApplicationName(QStringLiteral("Quillforge"));
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Quillforge"));
     QGuiApplication::setDesktopFileName(QStringLiteral("app.quillforge.Quillforge"));
-    qf::ui::Theme::applyApplicationLook(app);
+
+    // The one set of services of this run: every screen and controller gets it from here.
+    const std::unique_ptr<qf::Platform> platform = qf::createNativePlatform();
+    qf::Services services(*platform);
+    qf::ui::Theme::applyApplicationLook(app, platform->applicationLook());
 
     qf::InstallationState state;
-    qf::MainWindow window(state);
+    qf::MainWindow window(state, services);
     qf::reportFirstFrameIfRequested(&window);
     window.show();
     return app.exec();

@@ -1,5 +1,6 @@
 // The baseline of the start-up benchmark: an empty Qt window built and shown the way
 // Quillforge builds and shows its own, reporting its first painted frame the same way.
+#include "Platform.h"
 #include "StartupProbe.h"
 #include "Theme.h"
 
@@ -13,7 +14,7 @@ int main(int argc, char* argv[])
     QApplication app(argc, argv);
     QCoreApplication::setOrganizationName(QStringLiteral("Quillforge"));
     QCoreApplication::setApplicationName(QStringLiteral("QuillforgeBareWindow"));
-    qf::ui::Theme::applyApplicationLook(app);
+    qf::ui::Theme::applyApplicationLook(app, qf::createNativePlatform()->applicationLook());
 
     QWidget window;
     window.setMinimumSize(550, 450);

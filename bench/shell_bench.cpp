@@ -13,6 +13,9 @@
 //    with its output decoded into a QString: the consumer's own share of the time.
 //
 // Every file lives in a temporary folder; HOME is used as it is and never written to.
+#include "Platform.h"
+#include "ProcessMemory.h"
+#include "ShellQuote.h"
 #include "ShellRunner.h"
 
 #include <QByteArray>
@@ -30,8 +33,6 @@
 #include <cstdio>
 #include <optional>
 #include <vector>
-
-#include <sys/resource.h>
 
 namespace {
 
@@ -61,26 +62,8 @@ double millisecondsSince(const QElapsedTimer& timer) { return timer.nsecsElapsed
 // Peak resident memory of this process so far, in KiB; nothing when it cannot be read.
 std::optional<qint64> peakResidentKiB()
 {
-    QFile status(QStringLiteral("/proc/self/status"));
-    if (status.open(QIODevice::ReadOnly | QIODevice::Text)) {
-        const QList<QByteArray> lines = status.readAll().split('\n');
-        for (const QByteArray& line : lines) {
-            if (line.startsWith("VmHWM:")) {
-                bool ok = false;
-                const qint64 kib = line.mid(6).trimmed().split(' ').first().toLongLong(&ok);
-                if (ok)
-                    return kib;
-            }
-        }
-    }
-    rusage usage{};
-    if (getrusage(RUSAGE_SELF, &usage) != 0)
-        return std::nullopt;
-#ifdef Q_OS_MACOS
-    return static_cast<qint64>(usage.ru_maxrss) / 1024;  // bytes there
-#else
-    return static_cast<qint64>(usage.ru_maxrss);  // KiB
-#endif
+    const long kib = qf::peakResidentMemoryKB();
+    return kib > 0 ? std::optional<qint64>(kib) : std::nullopt;
 }
 
 QString formatMiB(std::optional<qint64> kib)
@@ -117,7 +100,8 @@ bool writeTextFile(const QString& path, qint64 bytes)
 
 // `zsh -l -c LINE` started directly, with the runner's environment; waits for it here.
 // Returns the wall time in milliseconds, or a negative value when the command failed.
-double runDirectly(const QString& line, const QProcessEnvironment& environment, bool discardOutput)
+double runDirectly(const QString& shell, const QString& line, const QProcessEnvironment& environment,
+                   bool discardOutput)
 {
     QProcess process;
     process.setProcessEnvironment(environment);
@@ -125,7 +109,7 @@ double runDirectly(const QString& line, const QProcessEnvironment& environment, 
         process.setStandardOutputFile(QProcess::nullDevice());
     QElapsedTimer timer;
     timer.start();
-    process.start(ShellRunner::shared().shell(), {QStringLiteral("-l"), QStringLiteral("-c"), line});
+    process.start(shell, {QStringLiteral("-l"), QStringLiteral("-c"), line});
     const bool finished = process.waitForFinished(-1);
     const double elapsed = millisecondsSince(timer);
     if (!finished || process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0)
@@ -135,14 +119,15 @@ double runDirectly(const QString& line, const QProcessEnvironment& environment, 
 
 // The same command started directly, its output read into a QString the way the consumer
 // builds it, waiting here: the cost of the work itself, without the runner around it.
-double runDirectlyIntoString(const QString& line, const QProcessEnvironment& environment, qint64& length)
+double runDirectlyIntoString(const QString& shell, const QString& line, const QProcessEnvironment& environment,
+                             qint64& length)
 {
     QProcess process;
     process.setProcessEnvironment(environment);
     QString text;
     QElapsedTimer timer;
     timer.start();
-    process.start(ShellRunner::shared().shell(), {QStringLiteral("-l"), QStringLiteral("-c"), line});
+    process.start(shell, {QStringLiteral("-l"), QStringLiteral("-c"), line});
     if (!process.waitForStarted(-1))
         return -1;
     while (process.waitForReadyRead(-1))
@@ -156,16 +141,10 @@ double runDirectlyIntoString(const QString& line, const QProcessEnvironment& env
     return elapsed;
 }
 
-QString shellQuoted(const QString& text)
+QCoro::Task<bool> benchmarkOverhead(ShellRunner& runner, int runs)
 {
-    return QLatin1Char('\'') + QString(text).replace(QLatin1Char('\''), QStringLiteral("'\\''")) + QLatin1Char('\'');
-}
-
-QCoro::Task<bool> benchmarkOverhead(int runs)
-{
-    ShellRunner& runner = ShellRunner::shared();
     const QProcessEnvironment environment = runner.commandEnvironment();
-    std::printf("1. run() overhead: `%s -l -c true`, %d runs of each, interleaved\n", qPrintable(runner.shell()),
+    std::printf("1. run() overhead: `%s -l -c true`, %d runs of each, interleaved\n", qPrintable(runner.configuration().shell),
                 runs);
 
     // Warm-up: the shell binary and its start files into the page cache.
@@ -175,7 +154,7 @@ QCoro::Task<bool> benchmarkOverhead(int runs)
             std::printf("   run(\"true\") failed: %s\n", qPrintable(warm.error().errorDescription()));
             co_return false;
         }
-        runDirectly(QStringLiteral("true"), environment, false);
+        runDirectly(runner.configuration().shell, QStringLiteral("true"), environment, false);
     }
 
     std::vector<double> viaRunner;
@@ -194,7 +173,7 @@ QCoro::Task<bool> benchmarkOverhead(int runs)
                 }
                 viaRunner.push_back(elapsed);
             } else {
-                const double elapsed = runDirectly(QStringLiteral("true"), environment, false);
+                const double elapsed = runDirectly(runner.configuration().shell, QStringLiteral("true"), environment, false);
                 if (elapsed < 0) {
                     std::printf("   direct zsh -l -c true failed\n");
                     co_return false;
@@ -217,9 +196,8 @@ QCoro::Task<bool> benchmarkOverhead(int runs)
     co_return true;
 }
 
-QCoro::Task<bool> benchmarkStreaming(int runs)
+QCoro::Task<bool> benchmarkStreaming(ShellRunner& runner, int runs)
 {
-    ShellRunner& runner = ShellRunner::shared();
     const QProcessEnvironment environment = runner.commandEnvironment();
 
     QTemporaryDir folder;
@@ -234,7 +212,7 @@ QCoro::Task<bool> benchmarkStreaming(int runs)
     }
     const qint64 fileSize = QFileInfo(path).size();
     const double fileMiB = fileSize / kMiB;
-    const QString command = QStringLiteral("cat ") + shellQuoted(path);
+    const QString command = QStringLiteral("cat ") + qf::shellQuote(path, qf::Quoting::always);
     std::printf("\n2. Streaming: %s, %.1f MB of text (%lld bytes), %d runs of each, interleaved\n",
                 qPrintable(command), fileMiB, static_cast<long long>(fileSize), runs);
 
@@ -254,7 +232,7 @@ QCoro::Task<bool> benchmarkStreaming(int runs)
             const int which = (turn + i) % 3;
             if (which == 2) {
                 qint64 length = 0;
-                const double elapsed = runDirectlyIntoString(command, environment, length);
+                const double elapsed = runDirectlyIntoString(runner.configuration().shell, command, environment, length);
                 if (elapsed < 0 || length != fileSize) {
                     std::printf("   direct zsh -l -c 'cat FILE' read into a QString failed\n");
                     co_return false;
@@ -263,7 +241,7 @@ QCoro::Task<bool> benchmarkStreaming(int runs)
                 continue;
             }
             if (which == 1) {
-                const double elapsed = runDirectly(command, environment, true);
+                const double elapsed = runDirectly(runner.configuration().shell, command, environment, true);
                 if (elapsed < 0) {
                     std::printf("   direct zsh -l -c 'cat FILE' failed\n");
                     co_return false;
@@ -342,11 +320,11 @@ QCoro::Task<bool> benchmarkStreaming(int runs)
     co_return lengthMatches;
 }
 
-QCoro::Task<int> benchmark(int runs, int streamRuns)
+QCoro::Task<int> benchmark(ShellRunner& runner, int runs, int streamRuns)
 {
-    const bool overhead = co_await benchmarkOverhead(runs);
+    const bool overhead = co_await benchmarkOverhead(runner, runs);
     std::fflush(stdout);
-    const bool streaming = co_await benchmarkStreaming(streamRuns);
+    const bool streaming = co_await benchmarkStreaming(runner, streamRuns);
     std::fflush(stdout);
     co_return overhead && streaming ? 0 : 1;
 }
@@ -367,5 +345,7 @@ int main(int argc, char* argv[])
     QCoreApplication app(argc, argv);
     const int runs = positiveArgument(argc, argv, 1, 40);
     const int streamRuns = positiveArgument(argc, argv, 2, 5);
-    return QCoro::waitFor(benchmark(runs, streamRuns));
+    const std::unique_ptr<qf::Platform> platform = qf::createNativePlatform();
+    ShellRunner runner(ShellRunner::standardConfiguration(*platform));
+    return QCoro::waitFor(benchmark(runner, runs, streamRuns));
 }

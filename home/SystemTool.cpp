@@ -1,53 +1,78 @@
 #include "SystemTool.h"
 
 #include "CLITool.h"
-#include "Platform.h"
-#include "ShellRunner.h"
+#include "DeveloperFolder.h"
 
-#include <QDir>
-#include <QFileInfo>
-
-#include <filesystem>
-#include <system_error>
+#include <QCoreApplication>
 
 namespace qf {
 
-QString developerFolderPath() { return QDir::homePath() + QStringLiteral("/Developer"); }
+namespace {
 
-QList<SystemTool> systemToolCatalogue()
+QString trText(const char* source) { return QCoreApplication::translate("SystemTool", source); }
+
+} // namespace
+
+QList<SystemTool> systemToolCatalogue(const Platform& platform)
 {
-    const DeveloperToolsItem tools = Platform::current().developerToolsItem();
-    const QString optionalNote = QCoreApplication::translate("SystemTool", "Only needed for Gemini or Codex");
-    const QFileInfo folder(developerFolderPath());
+    const DeveloperToolsItem tools = platform.developerToolsItem();
+    const QString optionalNote = trText("Only needed for Gemini or Codex");
     return {
-        SystemTool{tools.id, tools.name, tools.icon, tools.description, false, std::nullopt, tools.uninstallCommand,
-                   tools.uninstallNote, 1, false},
-        SystemTool{QStringLiteral("developer"), QCoreApplication::translate("SystemTool", "Developer Folder"),
-                   QStringLiteral("folder.badge.plus"),
-                   QCoreApplication::translate("SystemTool", "Where your projects live"),
-                   folder.exists() || folder.isSymLink(), std::nullopt, std::nullopt,
-                   QCoreApplication::translate("SystemTool", "Open Finder to manage this folder"), 2, false},
-        SystemTool{QStringLiteral("homebrew"), QStringLiteral("Homebrew"), QStringLiteral("mug"), optionalNote, false,
-                   std::nullopt,
-                   QStringLiteral("/bin/bash -c \"$(curl -fsSL ") + QLatin1String(web::homebrewUninstallScript) +
-                       QStringLiteral(")\""),
-                   std::nullopt, 3, true},
-        SystemTool{QStringLiteral("node"), QStringLiteral("Node.js"), QStringLiteral("server.rack"), optionalNote,
-                   false, std::nullopt, QStringLiteral("brew uninstall node"), std::nullopt, 4, true},
+        SystemTool{
+            .id = SystemToolID::developerTools,
+            .key = tools.key,
+            .name = tools.name,
+            .icon = tools.icon,
+            .description = tools.description,
+            .uninstallCommand = tools.uninstallCommand,
+            .uninstallNote = tools.uninstallNote,
+            .stepNumber = 1,
+        },
+        SystemTool{
+            .id = SystemToolID::developerFolder,
+            .key = QStringLiteral("developer"),
+            .name = trText("Developer Folder"),
+            .icon = QStringLiteral("folder.badge.plus"),
+            .description = trText("Where your projects live"),
+            .isInstalled = developerFolderExists(),
+            .uninstallNote = platform.wording().developerFolderNote,
+            .stepNumber = 2,
+        },
+        SystemTool{
+            .id = SystemToolID::homebrew,
+            .key = QStringLiteral("homebrew"),
+            .name = QStringLiteral("Homebrew"),
+            .icon = QStringLiteral("mug"),
+            .description = optionalNote,
+            .uninstallCommand = QStringLiteral("/bin/bash -c \"$(curl -fsSL ") +
+                                QLatin1String(web::homebrewUninstallScript) + QStringLiteral(")\""),
+            .stepNumber = 3,
+            .isOptional = true,
+        },
+        SystemTool{
+            .id = SystemToolID::node,
+            .key = QStringLiteral("node"),
+            .name = QStringLiteral("Node.js"),
+            .icon = QStringLiteral("server.rack"),
+            .description = optionalNote,
+            .uninstallCommand = QStringLiteral("brew uninstall node"),
+            .stepNumber = 4,
+            .isOptional = true,
+        },
     };
 }
 
-QCoro::Task<QList<SystemTool>> detectSystemTools(QList<SystemTool> tools)
+QCoro::Task<QList<SystemTool>> detectSystemTools(QList<SystemTool> tools, ShellRunner& shell,
+                                                 DeveloperToolsItem developerTools)
 {
-    ShellRunner& shell = ShellRunner::shared();
-    const DeveloperToolsItem developerTools = Platform::current().developerToolsItem();
     for (SystemTool& tool : tools) {
-        if (tool.id == QLatin1String("developer"))
-            continue;  // known when the catalogue was built
-        if (tool.id == developerTools.id) {
+        switch (tool.id) {
+        case SystemToolID::developerFolder:
+            break;  // known when the catalogue was built
+        case SystemToolID::developerTools: {
             const Result<QString> present = co_await shell.run(developerTools.presenceCommand);
             if (!present)
-                continue;
+                break;
             tool.isInstalled = true;
             std::optional<QString> output;
             if (developerTools.versionCommand.isEmpty()) {
@@ -59,45 +84,53 @@ QCoro::Task<QList<SystemTool>> detectSystemTools(QList<SystemTool> tools)
             }
             if (output)
                 tool.version = QString(*output).remove(developerTools.versionPrefix);
-        } else if (tool.id == QLatin1String("homebrew")) {
+            break;
+        }
+        case SystemToolID::homebrew: {
             const Result<QString> version = co_await shell.run(QStringLiteral("brew --version"));
             if (!version)
-                continue;
+                break;
             tool.isInstalled = true;
             const QStringList lines = version.value().split(QLatin1Char('\n'));
             if (!lines.isEmpty())
                 tool.version = QString(lines.first()).remove(QStringLiteral("Homebrew "));
-        } else if (tool.id == QLatin1String("node")) {
+            break;
+        }
+        case SystemToolID::node: {
             const Result<QString> version = co_await shell.run(QStringLiteral("node --version"));
             if (!version)
-                continue;
+                break;
             tool.isInstalled = true;
             tool.version = version.value();
+            break;
+        }
         }
     }
     co_return tools;
 }
 
-void handleSystemToolAction(const SystemTool& tool, const std::function<void()>& reload)
+void handleSystemToolAction(const SystemTool& tool, Platform& platform, const std::function<void()>& reload)
 {
-    Platform& platform = Platform::current();
-    if (tool.id == QLatin1String("developer")) {
-        const QString folder = developerFolderPath();
+    switch (tool.id) {
+    case SystemToolID::developerFolder:
         if (tool.isInstalled) {
-            platform.revealFolder(folder);
+            platform.revealFolder(developerFolderPath());
             return;
         }
-        std::error_code ignored;  // a folder that cannot be created simply stays missing
-        std::filesystem::create_directories(std::filesystem::path(folder.toStdString()), ignored);
-        platform.revealFolder(folder);
+        // A folder that cannot be created simply stays missing; the reload shows that.
+        static_cast<void>(makeDeveloperFolder());
+        platform.revealFolder(developerFolderPath());
         if (reload)
             reload();
         return;
-    }
-    if (tool.isInstalled)
+    case SystemToolID::developerTools:
+        if (!tool.isInstalled)
+            platform.startDeveloperToolsInstaller();
         return;
-    if (tool.id == platform.developerToolsItem().id)
-        platform.startDeveloperToolsInstaller();
+    case SystemToolID::homebrew:
+    case SystemToolID::node:
+        return;  // they come with the setup, not from here
+    }
 }
 
 } // namespace qf

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "Platform.h"
+#include "ShellRunner.h"
+
 #include <QCoro/QCoroTask>
 #include <QList>
 #include <QString>
@@ -9,10 +12,16 @@
 
 namespace qf {
 
+// Which supporting item a record describes.
+enum class SystemToolID { developerTools, developerFolder, homebrew, node };
+
 // One supporting item of the dashboard: the developer tools, the projects folder, Homebrew
 // or Node.js.
 struct SystemTool {
-    QString id;
+    SystemToolID id = SystemToolID::developerTools;
+    // The item's stable text key ("xcode", "developer", "homebrew", "node" on macOS), by which
+    // the dashboard tells its cards apart.
+    QString key;
     QString name;
     QString icon;
     QString description;
@@ -27,17 +36,17 @@ struct SystemTool {
 };
 
 // The four items in dashboard order, with the projects folder's presence already known.
-QList<SystemTool> systemToolCatalogue();
+QList<SystemTool> systemToolCatalogue(const Platform& platform);
 
 // Fills in presence and version of each item, one command at a time. A check that fails
-// leaves its item missing; nothing is reported.
-QCoro::Task<QList<SystemTool>> detectSystemTools(QList<SystemTool> tools);
+// leaves its item missing; nothing is reported. `developerTools` says how the developer-tools
+// item is detected on this system.
+QCoro::Task<QList<SystemTool>> detectSystemTools(QList<SystemTool> tools, ShellRunner& shell,
+                                                 DeveloperToolsItem developerTools);
 
 // The action of an item's button: the projects folder is created when missing and shown;
 // missing developer tools get their installer; everything else does nothing. `reload` runs
 // after the folder was created, so the dashboard can show it.
-void handleSystemToolAction(const SystemTool& tool, const std::function<void()>& reload);
-
-QString developerFolderPath();
+void handleSystemToolAction(const SystemTool& tool, Platform& platform, const std::function<void()>& reload);
 
 } // namespace qf

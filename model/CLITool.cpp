@@ -1,5 +1,7 @@
 #include "CLITool.h"
 
+#include <map>
+
 namespace qf {
 
 namespace {
@@ -117,34 +119,41 @@ const std::array<QStringList, 3>& featureTable()
     return table;
 }
 
-const std::array<QList<AccountSetupStep>, 3>& accountStepTable()
+using AccountStepTable = std::array<QList<AccountSetupStep>, 3>;
+
+AccountStepTable buildAccountStepTable(const QString& installStep)
 {
-    static const std::array<QList<AccountSetupStep>, 3> table = [] {
-        const QString installStep = trText("We'll install the CLI tool on your Mac.");
-        const QString firstLaunch = trText("On first launch, your browser will open to authenticate.");
-        return std::array<QList<AccountSetupStep>, 3>{{
-            {
-                {trText("Create an Anthropic account"),
-                 trText("Visit %1 and sign up with your email or Google account.").arg(QStringLiteral("claude.ai"))},
-                {trText("Choose a plan"), trText("Start with the free tier or upgrade to Pro for more usage.")},
-                {trText("Install Claude Code"), installStep},
-                {trText("Sign in from Terminal"), firstLaunch},
-            },
-            {
-                {trText("Use your Google account"), trText("If you have Gmail, you already have an account!")},
-                {trText("Install Gemini CLI"), installStep},
-                {trText("Sign in with Google"), firstLaunch},
-            },
-            {
-                {trText("Create an OpenAI account"),
-                 trText("Visit %1 and sign up.").arg(QStringLiteral("platform.openai.com"))},
-                {trText("Add payment method"), trText("OpenAI requires a payment method for API usage.")},
-                {trText("Install Codex"), installStep},
-                {trText("Sign in from Terminal"), firstLaunch},
-            },
-        }};
-    }();
-    return table;
+    const QString firstLaunch = trText("On first launch, your browser will open to authenticate.");
+    return {{
+        {
+            {trText("Create an Anthropic account"),
+             trText("Visit %1 and sign up with your email or Google account.").arg(QStringLiteral("claude.ai"))},
+            {trText("Choose a plan"), trText("Start with the free tier or upgrade to Pro for more usage.")},
+            {trText("Install Claude Code"), installStep},
+            {trText("Sign in from Terminal"), firstLaunch},
+        },
+        {
+            {trText("Use your Google account"), trText("If you have Gmail, you already have an account!")},
+            {trText("Install Gemini CLI"), installStep},
+            {trText("Sign in with Google"), firstLaunch},
+        },
+        {
+            {trText("Create an OpenAI account"), trText("Visit %1 and sign up.").arg(QStringLiteral("platform.openai.com"))},
+            {trText("Add payment method"), trText("OpenAI requires a payment method for API usage.")},
+            {trText("Install Codex"), installStep},
+            {trText("Sign in from Terminal"), firstLaunch},
+        },
+    }};
+}
+
+// One table for each wording of the install step (in practice one per run), built on first use.
+const AccountStepTable& accountStepTable(const QString& installStep)
+{
+    static std::map<QString, AccountStepTable> tables;
+    auto table = tables.find(installStep);
+    if (table == tables.end())
+        table = tables.emplace(installStep, buildAccountStepTable(installStep)).first;
+    return table->second;
 }
 
 const std::array<QList<ExampleCommand>, 3>& exampleCommandTable()
@@ -208,9 +217,9 @@ QString CLITool::tryCommand() const { return QString::fromLatin1(texts(*this).tr
 QString CLITool::uninstallDescription() const { return tr(texts(*this).uninstallDescription); }
 
 const QStringList& CLITool::features() const { return featureTable()[static_cast<size_t>(index())]; }
-const QList<AccountSetupStep>& CLITool::accountSetupSteps() const
+const QList<AccountSetupStep>& CLITool::accountSetupSteps(const SystemWording& wording) const
 {
-    return accountStepTable()[static_cast<size_t>(index())];
+    return accountStepTable(wording.toolInstallStep)[static_cast<size_t>(index())];
 }
 const QList<ExampleCommand>& CLITool::exampleCommands() const
 {
@@ -232,22 +241,22 @@ QString CLITool::installCommand() const
     Q_UNREACHABLE();
 }
 
-QString npmRemovalChain(const QString& package)
+QString npmRemovalChain(const QString& package, const QStringList& npmPrograms)
 {
-    return QStringLiteral("/opt/homebrew/bin/npm uninstall -g ") + package + QStringLiteral(" 2>/dev/null; ")
-         + QStringLiteral("/usr/local/bin/npm uninstall -g ") + package + QStringLiteral(" 2>/dev/null; ")
-         + QStringLiteral("for ver in ~/.nvm/versions/node/*; do [ -x \"$ver/bin/npm\" ] && "
-                          "\"$ver/bin/npm\" --prefix \"$ver\" uninstall -g ")
-         + package + QStringLiteral(" 2>/dev/null; done");
+    QString chain;
+    for (const QString& npm : npmPrograms)
+        chain += npm + QStringLiteral(" uninstall -g ") + package + QStringLiteral(" 2>/dev/null; ");
+    return chain +
+           QStringLiteral("for ver in ~/.nvm/versions/node/*; do [ -x \"$ver/bin/npm\" ] && "
+                          "\"$ver/bin/npm\" --prefix \"$ver\" uninstall -g ") +
+           package + QStringLiteral(" 2>/dev/null; done");
 }
 
-QString CLITool::uninstallCommand() const
+QString CLITool::uninstallCommand(const QStringList& npmPrograms) const
 {
-    const QString chain = npmRemovalChain(npmPackage());
-    if (m_case == claudeCode) {
-        return chain
-             + QStringLiteral("; rm -rf ~/.claude/local 2>/dev/null; rm -rf ~/.claude/downloads 2>/dev/null; exit 0");
-    }
+    const QString chain = npmRemovalChain(npmPackage(), npmPrograms);
+    if (m_case == claudeCode)
+        return chain + QStringLiteral("; rm -rf ~/.claude/local 2>/dev/null; rm -rf ~/.claude/downloads 2>/dev/null; exit 0");
     return chain + QStringLiteral("; exit 0");
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Platform.h"
+
 #include <QColor>
 #include <QCoreApplication>
 #include <QList>
@@ -63,13 +65,16 @@ public:
     QString uninstallDescription() const;
 
     const QStringList& features() const;
-    const QList<AccountSetupStep>& accountSetupSteps() const;
+    // The step that installs the tool names the system, so the steps come in its wording.
+    const QList<AccountSetupStep>& accountSetupSteps(const SystemWording& wording) const;
     const QList<ExampleCommand>& exampleCommands() const;
 
     QString npmPackage() const;
     QString apiKeyEnvVar() const;
     QString installCommand() const;
-    QString uninstallCommand() const;
+    // Removes the tool from every place npm may have put it: each of `npmPrograms` (the
+    // system's usual npm programs), then every Node.js version installed through nvm.
+    QString uninstallCommand(const QStringList& npmPrograms) const;
 
     QUrl apiKeyURL() const;
     QUrl signUpURL() const;
@@ -79,15 +84,13 @@ private:
     Case m_case;
 };
 
-// Composes the line that removes an npm package from every place npm may have put it:
-// Homebrew's npm, the npm under /usr/local and every Node.js version installed through nvm.
-QString npmRemovalChain(const QString& package);
+// The line that removes an npm package through each of `npmPrograms` and through the npm of
+// every Node.js version installed through nvm, ignoring errors and missing programs.
+QString npmRemovalChain(const QString& package, const QStringList& npmPrograms);
 
 // Addresses that more than one part of the app needs.
 namespace web {
 inline constexpr auto claudeInstallScript = "https://claude.ai/install.sh";
-inline constexpr auto nodeJSDomain = "nodejs.org";
-inline constexpr auto nodeJSDownloadServer = "https://nodejs.org";
 inline constexpr auto homebrewUninstallScript =
     "https://raw.githubusercontent.com/Homebrew/install/HEAD/uninstall.sh";
 } // namespace web

@@ -36,40 +36,34 @@ QString SystemRequirement::id() const
     Q_UNREACHABLE();
 }
 
-QString SystemRequirement::title() const
+QString SystemRequirement::title(const SystemWording& wording) const
 {
     switch (m_case) {
-    case macOSVersion: return tr("macOS 14 or later");
+    case macOSVersion: return wording.osRequirementTitle;
     case nodeJS: return tr("Node.js");
     case diskSpace: return tr("200MB disk space");
     }
     Q_UNREACHABLE();
 }
 
-QString SystemRequirement::helpText() const
+QString SystemRequirement::helpText(const SystemWording& wording) const
 {
     switch (m_case) {
-    case macOSVersion:
-        return tr("Your Mac needs to be running macOS 14 (Sonoma) or later. Works on both Intel and Apple Silicon.");
+    case macOSVersion: return wording.osRequirementHelp;
     case nodeJS:
         return tr("Node.js is a JavaScript runtime that some AI tools use to run. It's a standard development tool "
                   "used by millions of developers.");
-    case diskSpace:
-        return tr("The AI assistant and its dependencies need about 200MB of free space on your Mac. This is a "
-                  "one-time installation.");
+    case diskSpace: return wording.diskSpaceHelp;
     }
     Q_UNREACHABLE();
 }
 
-QString SystemRequirement::fixSuggestion() const
+QString SystemRequirement::fixSuggestion(const SystemWording& wording) const
 {
     switch (m_case) {
-    case macOSVersion:
-        return tr("Update your Mac: Apple Menu \u2192 System Settings \u2192 General \u2192 Software Update");
-    case nodeJS:
-        return tr("Install manually: brew install node (or download from %1)").arg(QStringLiteral("nodejs.org"));
-    case diskSpace:
-        return tr("Free up space by emptying Trash or removing unused apps");
+    case macOSVersion: return wording.osRequirementFix;
+    case nodeJS: return wording.nodeFixSuggestion;
+    case diskSpace: return tr("Free up space by emptying Trash or removing unused apps");
     }
     Q_UNREACHABLE();
 }

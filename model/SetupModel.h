@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Platform.h"
+
 #include <QCoreApplication>
 #include <QString>
 
@@ -49,9 +51,10 @@ public:
     static const std::array<SystemRequirement, 3>& allCases();
 
     QString id() const;  // the case name
-    QString title() const;
-    QString helpText() const;
-    QString fixSuggestion() const;
+    // The texts that name the system come from the system's own wording.
+    QString title(const SystemWording& wording) const;
+    QString helpText(const SystemWording& wording) const;
+    QString fixSuggestion(const SystemWording& wording) const;
 
 private:
     Case m_case;

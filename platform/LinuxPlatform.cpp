@@ -1,27 +1,21 @@
 #include "PlatformBackends.h"
+
+#include "Diagnostics.h"
 #include "ShellQuote.h"
 
-#include <QDesktopServices>
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QSysInfo>
-#include <QUrl>
-
-#include <cstdio>
 
 namespace qf {
 
 namespace {
 
-void printLine(const QString& text)
-{
-    const QByteArray line = (text + QLatin1Char('\n')).toUtf8();
-    std::fwrite(line.constData(), 1, static_cast<size_t>(line.size()), stdout);
-    std::fflush(stdout);
-}
+QString translated(const char* context, const char* text) { return QCoreApplication::translate(context, text); }
 
 QMap<QString, QString> readOsRelease()
 {
@@ -63,9 +57,9 @@ QString shellDirectory(const QString& directory)
         return directory;
     if (directory.startsWith(QLatin1String("~/"))) {
         const QString rest = directory.mid(2);
-        return rest.isEmpty() ? directory : QStringLiteral("~/") + LinuxPlatform::shellQuote(rest);
+        return rest.isEmpty() ? directory : QStringLiteral("~/") + shellQuote(rest);
     }
-    return LinuxPlatform::shellQuote(directory);
+    return shellQuote(directory);
 }
 
 QString packageLineFor(const QString& distribution)
@@ -84,7 +78,67 @@ QString packageLineFor(const QString& distribution)
 
 } // namespace
 
+LinuxPlatform::LinuxPlatform() : m_osRelease(readOsRelease()), m_wording(wordingFor(m_osRelease)) {}
+
 QString LinuxPlatform::name() const { return QStringLiteral("Linux"); }
+
+const SystemWording& LinuxPlatform::wording() const { return m_wording; }
+
+SystemWording LinuxPlatform::wordingFor(const QMap<QString, QString>& osRelease)
+{
+    return {
+        .osRequirementTitle = translated("SystemRequirement", "64-bit Linux"),
+        .osRequirementHelp = translated("SystemRequirement", "Your computer needs to be running a 64-bit Linux "
+                                                             "system. Works on both Intel/AMD and ARM processors."),
+        .osRequirementFix = translated("SystemRequirement", "Install the 64-bit edition of your Linux distribution"),
+        .diskSpaceHelp = translated("SystemRequirement", "The AI assistant and its dependencies need about 200MB of "
+                                                         "free space on your computer. This is a one-time "
+                                                         "installation."),
+        .nodeFixSuggestion = translated("SystemRequirement", "Install manually: download it from %1 (or use your "
+                                                             "system's package manager)")
+                                 .arg(QLatin1String(kNodeDomain)),
+        .toolInstallStep = translated("CLITool", "We'll install the CLI tool on your computer."),
+        .gitMissingLog = QStringLiteral("Git not found. Please install Git and the build tools.\n"),
+        .gitMissingError = translated("InstallationError", "Git is required but not found. Please install it by "
+                                                           "running: %1")
+                               .arg(packageInstallLine(osRelease)),
+        .developerFolderNote = translated("SystemTool", "Open your file manager to manage this folder"),
+    };
+}
+
+ApplicationLook LinuxPlatform::applicationLook() const
+{
+    // Inter reads much like the macOS system font; without it the desktop's font is used.
+    return {.nativeStyle = false,
+            .prefersDark = appearanceFrom(qgetenv("QUILLFORGE_APPEARANCE"), qgetenv("GTK_THEME")),
+            .fontFamilies = {QStringLiteral("Inter")}};
+}
+
+std::optional<bool> LinuxPlatform::appearanceFrom(const QByteArray& requested, const QByteArray& gtkTheme)
+{
+    const QByteArray choice = requested.toLower();
+    if (choice == "dark")
+        return true;
+    if (choice == "light")
+        return false;
+    if (gtkTheme.toLower().contains("dark"))
+        return true;
+    return std::nullopt;
+}
+
+QStringList LinuxPlatform::programDirectories() const
+{
+    // Homebrew on Linux lives in its own prefix.
+    return {QStringLiteral("/usr/local/bin"), QStringLiteral("/home/linuxbrew/.linuxbrew/bin"),
+            QStringLiteral("/usr/bin"), QStringLiteral("/bin")};
+}
+
+QStringList LinuxPlatform::globalNpmPrograms() const
+{
+    // Homebrew's npm, a Node.js under /usr/local, and the release Quillforge unpacks into ~/.local.
+    return {QStringLiteral("/home/linuxbrew/.linuxbrew/bin/npm"), QStringLiteral("/usr/local/bin/npm"),
+            QStringLiteral("~/.local/bin/npm")};
+}
 
 void LinuxPlatform::configureMainWindow(QWidget*)
 {
@@ -93,7 +147,7 @@ void LinuxPlatform::configureMainWindow(QWidget*)
 
 OperatingSystemCheck LinuxPlatform::checkOperatingSystem() const
 {
-    return operatingSystemCheck(readOsRelease(), QSysInfo::WordSize == 64);
+    return operatingSystemCheck(m_osRelease, QSysInfo::WordSize == 64);
 }
 
 OperatingSystemCheck LinuxPlatform::operatingSystemCheck(const QMap<QString, QString>& osRelease, bool is64Bit)
@@ -205,8 +259,6 @@ std::optional<QString> LinuxPlatform::findTerminalEmulator(const QString& search
     return std::nullopt;
 }
 
-QString LinuxPlatform::shellQuote(const QString& word) { return qf::shellQuote(word); }
-
 QString LinuxPlatform::terminalShellLine(const QString& command, const QString& directory, const QString& shell)
 {
     return QStringLiteral("cd ") + shellDirectory(directory) + QStringLiteral(" && ") + command +
@@ -241,7 +293,7 @@ void LinuxPlatform::openTerminal(const QString& command, const QString& director
 {
     const std::optional<QString> emulator = findTerminalEmulator(qEnvironmentVariable("PATH"));
     if (!emulator) {
-        printLine(QStringLiteral("Terminal error: no terminal emulator found (looked for ") +
+        printDiagnostic(QStringLiteral("Terminal error: no terminal emulator found (looked for ") +
                   terminalEmulators().join(QStringLiteral(", ")) + QLatin1Char(')'));
         return;
     }
@@ -257,7 +309,7 @@ void LinuxPlatform::openTerminal(const QString& command, const QString& director
         QString reason = process.errorString();
         if (reason.isEmpty() || process.error() == QProcess::UnknownError)
             reason = QStringLiteral("could not start ") + *emulator;
-        printLine(QStringLiteral("Terminal error: ") + reason);
+        printDiagnostic(QStringLiteral("Terminal error: ") + reason);
     }
 }
 
@@ -269,29 +321,26 @@ QString LinuxPlatform::terminalDescription() const
     return QFileInfo(*emulator).fileName() + QStringLiteral(" (") + *emulator + QLatin1Char(')');
 }
 
-void LinuxPlatform::revealFolder(const QString& path) { QDesktopServices::openUrl(QUrl::fromLocalFile(path)); }
-
 DeveloperToolsItem LinuxPlatform::developerToolsItem() const { return gitToolsItem(); }
 
 DeveloperToolsItem LinuxPlatform::gitToolsItem()
 {
-    DeveloperToolsItem item;
-    // The dashboard knows this item by the key of its macOS counterpart.
-    item.id = QStringLiteral("xcode");
-    item.name = QStringLiteral("Git & Build Tools");
-    item.icon = QStringLiteral("hammer");
-    item.description = QStringLiteral("Provides Git and build tools");
-    item.presenceCommand = QStringLiteral("git --version");
-    item.versionCommand = QString(); // the presence command's output carries the version
-    item.versionPrefix = QStringLiteral("git version ");
-    item.uninstallCommand = std::nullopt;
-    item.uninstallNote = QStringLiteral("Use your system's package manager to remove Git");
-    return item;
+    return {
+        .key = QStringLiteral("git"),
+        .name = translated("SystemTool", "Git & Build Tools"),
+        .icon = QStringLiteral("hammer"),
+        .description = translated("SystemTool", "Provides Git and build tools"),
+        .presenceCommand = QStringLiteral("git --version"),
+        .versionCommand = QString(),  // the presence command's output carries the version
+        .versionPrefix = QStringLiteral("git version "),
+        .uninstallCommand = std::nullopt,
+        .uninstallNote = translated("SystemTool", "Use your system's package manager to remove Git"),
+    };
 }
 
 void LinuxPlatform::startDeveloperToolsInstaller()
 {
-    openTerminal(packageInstallLine(readOsRelease()), QStringLiteral("~"));
+    openTerminal(packageInstallLine(m_osRelease), QStringLiteral("~"));
 }
 
 QString LinuxPlatform::officialNodeInstallCommand() const
@@ -308,7 +357,8 @@ QString LinuxPlatform::nodeTarballCommand(const QString& cpuArchitecture)
         arch = QStringLiteral("armv7l");
 
     const QString release = QStringLiteral("node-v") + QLatin1String(kNodeReleaseVersion) + QStringLiteral("-linux-") + arch;
-    return QStringLiteral("mkdir -p ~/.local && curl -fsSL https://nodejs.org/dist/v") +
+    return QStringLiteral("mkdir -p ~/.local && curl -fsSL ") + QLatin1String(kNodeDownloadServer) +
+           QStringLiteral("/dist/v") +
            QLatin1String(kNodeReleaseVersion) + QLatin1Char('/') + release +
            QStringLiteral(".tar.gz | tar -xz -C ~/.local --strip-components=1 --exclude=") + release +
            QStringLiteral("/CHANGELOG.md --exclude=") + release + QStringLiteral("/LICENSE --exclude=") + release +

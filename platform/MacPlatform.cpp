@@ -1,16 +1,14 @@
 #include "PlatformBackends.h"
 
+#include "Diagnostics.h"
 #include "MacWindowStyle.h"
 
 #include <QCoreApplication>
-#include <QDesktopServices>
 #include <QOperatingSystemVersion>
 #include <QProcess>
 #include <QTimer>
-#include <QUrl>
 
 #include <algorithm>
-#include <cstdio>
 
 namespace qf {
 
@@ -22,12 +20,9 @@ const QString kXcodeSelect = QStringLiteral("/usr/bin/xcode-select");
 // The installer dialog needs a moment to appear before System Events can bring it forward.
 constexpr int kInstallerFrontDelayMs = 500;
 
-void printAppleScriptError(const QString& text)
-{
-    const QByteArray line = (QStringLiteral("AppleScript error: ") + text + QLatin1Char('\n')).toUtf8();
-    std::fwrite(line.constData(), 1, static_cast<size_t>(line.size()), stdout);
-    std::fflush(stdout);
-}
+void printAppleScriptError(const QString& text) { printDiagnostic(QStringLiteral("AppleScript error: ") + text); }
+
+QString translated(const char* context, const char* text) { return QCoreApplication::translate(context, text); }
 
 // Runs `script` through osascript without waiting for it. The process owns itself: it is
 // deleted once it has finished or failed to start, never while it runs. With `reportErrors`
@@ -67,6 +62,31 @@ void runAppleScript(const QString& script, bool reportErrors)
 } // namespace
 
 QString MacPlatform::name() const { return QStringLiteral("macOS"); }
+
+const SystemWording& MacPlatform::wording() const { return standardWording(); }
+
+const SystemWording& MacPlatform::standardWording()
+{
+    static const SystemWording wording{
+        .osRequirementTitle = translated("SystemRequirement", "macOS 14 or later"),
+        .osRequirementHelp = translated("SystemRequirement", "Your Mac needs to be running macOS 14 (Sonoma) or "
+                                                             "later. Works on both Intel and Apple Silicon."),
+        .osRequirementFix = translated("SystemRequirement", "Update your Mac: Apple Menu \u2192 System Settings "
+                                                            "\u2192 General \u2192 Software Update"),
+        .diskSpaceHelp = translated("SystemRequirement", "The AI assistant and its dependencies need about 200MB of "
+                                                         "free space on your Mac. This is a one-time installation."),
+        .nodeFixSuggestion = translated("SystemRequirement", "Install manually: brew install node (or download from %1)")
+                                 .arg(QLatin1String(kNodeDomain)),
+        .toolInstallStep = translated("CLITool", "We'll install the CLI tool on your Mac."),
+        .gitMissingLog = QStringLiteral("Git not found. Please install Xcode Command Line Tools.\n"),
+        .gitMissingError = translated("InstallationError", "Git is required but not found. Please install Xcode "
+                                                           "Command Line Tools by running: xcode-select --install"),
+        .developerFolderNote = translated("SystemTool", "Open Finder to manage this folder"),
+    };
+    return wording;
+}
+
+ApplicationLook MacPlatform::applicationLook() const { return {.nativeStyle = true, .prefersDark = {}, .fontFamilies = {}}; }
 
 void MacPlatform::configureMainWindow(QWidget* window) { applyMacWindowStyle(window); }
 
@@ -114,23 +134,33 @@ void MacPlatform::openTerminal(const QString& command, const QString& directory)
 
 QString MacPlatform::terminalDescription() const { return QStringLiteral("Terminal.app (through AppleScript)"); }
 
-void MacPlatform::revealFolder(const QString& path) { QDesktopServices::openUrl(QUrl::fromLocalFile(path)); }
+QStringList MacPlatform::programDirectories() const
+{
+    // Homebrew's two homes (Intel, Apple Silicon), then the system's own folders.
+    return {QStringLiteral("/usr/local/bin"), QStringLiteral("/opt/homebrew/bin"), QStringLiteral("/usr/bin"),
+            QStringLiteral("/bin")};
+}
+
+QStringList MacPlatform::globalNpmPrograms() const
+{
+    return {QStringLiteral("/opt/homebrew/bin/npm"), QStringLiteral("/usr/local/bin/npm")};
+}
 
 DeveloperToolsItem MacPlatform::developerToolsItem() const { return commandLineToolsItem(); }
 
 DeveloperToolsItem MacPlatform::commandLineToolsItem()
 {
-    DeveloperToolsItem item;
-    item.id = QStringLiteral("xcode");
-    item.name = QStringLiteral("Xcode CLI Tools");
-    item.icon = QStringLiteral("hammer");
-    item.description = QStringLiteral("Provides Git and build tools");
-    item.presenceCommand = QStringLiteral("xcode-select -p");
-    item.versionCommand = QStringLiteral("xcodebuild -version 2>/dev/null | head -1");
-    item.versionPrefix = QStringLiteral("Xcode ");
-    item.uninstallCommand = QStringLiteral("sudo rm -rf /Library/Developer/CommandLineTools");
-    item.uninstallNote = std::nullopt;
-    return item;
+    return {
+        .key = QStringLiteral("xcode"),
+        .name = translated("SystemTool", "Xcode CLI Tools"),
+        .icon = QStringLiteral("hammer"),
+        .description = translated("SystemTool", "Provides Git and build tools"),
+        .presenceCommand = QStringLiteral("xcode-select -p"),
+        .versionCommand = QStringLiteral("xcodebuild -version 2>/dev/null | head -1"),
+        .versionPrefix = QStringLiteral("Xcode "),
+        .uninstallCommand = QStringLiteral("sudo rm -rf /Library/Developer/CommandLineTools"),
+        .uninstallNote = std::nullopt,
+    };
 }
 
 void MacPlatform::startDeveloperToolsInstaller()
@@ -146,7 +176,8 @@ QString MacPlatform::officialNodeInstallCommand() const { return nodePackageComm
 QString MacPlatform::nodePackageCommand()
 {
     const QString version = QLatin1String(kNodeReleaseVersion);
-    return QStringLiteral("curl -fsSL https://nodejs.org/dist/v") + version + QStringLiteral("/node-v") + version +
+    return QStringLiteral("curl -fsSL ") + QLatin1String(kNodeDownloadServer) + QStringLiteral("/dist/v") + version +
+           QStringLiteral("/node-v") + version +
            QStringLiteral(".pkg -o /tmp/node-installer.pkg && sudo installer -pkg /tmp/node-installer.pkg -target / "
                           "&& rm /tmp/node-installer.pkg");
 }

@@ -4,14 +4,13 @@
 
 namespace qf {
 
-Platform& nativePlatform()
+std::unique_ptr<Platform> createNativePlatform()
 {
 #if defined(Q_OS_MACOS)
-    static MacPlatform platform;
+    return std::make_unique<MacPlatform>();
 #else
-    static LinuxPlatform platform;
+    return std::make_unique<LinuxPlatform>();
 #endif
-    return platform;
 }
 
 } // namespace qf

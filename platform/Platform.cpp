@@ -1,20 +1,19 @@
 #include "Platform.h"
 
-#include "PlatformBackends.h"
+#include <QDesktopServices>
+#include <QStorageInfo>
+#include <QUrl>
 
 namespace qf {
 
-namespace {
-Platform* g_override = nullptr;
-}
-
-Platform& Platform::current()
+DiskSpace Platform::availableDiskSpace(const QString& path) const
 {
-    if (g_override)
-        return *g_override;
-    return nativePlatform();
+    const QStorageInfo volume(path);
+    if (!volume.isValid() || volume.bytesAvailable() < 0)
+        return {std::nullopt, QStringLiteral("no volume information for ") + path};
+    return {volume.bytesAvailable(), QString()};
 }
 
-void Platform::setCurrent(Platform* platform) { g_override = platform; }
+void Platform::revealFolder(const QString& path) { QDesktopServices::openUrl(QUrl::fromLocalFile(path)); }
 
 } // namespace qf

@@ -3,6 +3,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <memory>
 #include <optional>
 
 class QWidget;
@@ -16,12 +17,32 @@ struct OperatingSystemCheck {
     QString details;
 };
 
+// The texts that name the system, its tools or its file manager. Everything else the app says
+// is the same on every system; these are what a user of this system reads instead.
+struct SystemWording {
+    // The system check's operating-system requirement: its title, its help and how to fix it.
+    QString osRequirementTitle;
+    QString osRequirementHelp;
+    QString osRequirementFix;
+    // Help of the disk-space requirement.
+    QString diskSpaceHelp;
+    // How to fix a missing Node.js by hand.
+    QString nodeFixSuggestion;
+    // The account step that says where the tool will be installed.
+    QString toolInstallStep;
+    // git is missing: the installer's log line (with its line break) and the error shown.
+    QString gitMissingLog;
+    QString gitMissingError;
+    // Why the projects folder is not removed from the dashboard.
+    QString developerFolderNote;
+};
+
 // The dashboard's developer-tools item: on macOS the Xcode Command Line Tools, on Linux git
 // and the build tools. Presence is the success of `presenceCommand`; the version is the
 // output of `versionCommand` (or of the presence command when that is empty) with every
 // occurrence of `versionPrefix` removed.
 struct DeveloperToolsItem {
-    QString id = QStringLiteral("xcode");
+    QString key;  // the item's stable text key ("xcode" on macOS)
     QString name;
     QString icon;
     QString description;
@@ -32,23 +53,45 @@ struct DeveloperToolsItem {
     std::optional<QString> uninstallNote;
 };
 
-// The only place that knows which operating system Quillforge runs on. One backend is
-// chosen at start; tests put in a fake.
+// How the application looks on this system.
+struct ApplicationLook {
+    // The system draws controls, colours and fonts itself; otherwise the app brings its own.
+    bool nativeStyle = true;
+    // Light or dark when the user or the desktop says so; nothing: decide from the palette.
+    std::optional<bool> prefersDark;
+    // Families tried first for ordinary text, before the desktop's own font.
+    QStringList fontFamilies;
+};
+
+// Free space on a volume, or why it could not be read.
+struct DiskSpace {
+    std::optional<qint64> bytes;
+    QString error;
+};
+
+// The only place that knows which operating system Quillforge runs on: the application makes
+// one at start (`createNativePlatform()`) and hands it on; tests use a fake.
 class Platform {
 public:
     virtual ~Platform() = default;
 
-    static Platform& current();
-    // Replaces the backend (tests); nullptr returns to the one for this system.
-    static void setCurrent(Platform* platform);
-
     virtual QString name() const = 0;
+    virtual const SystemWording& wording() const = 0;
+    virtual ApplicationLook applicationLook() const = 0;
 
     // Shapes the main window once it is on screen: on macOS a hidden title bar with the
     // content reaching the top edge and rounded content; elsewhere an ordinary window.
     virtual void configureMainWindow(QWidget* window) = 0;
 
     virtual OperatingSystemCheck checkOperatingSystem() const = 0;
+    // Free space on the volume that holds `path`.
+    virtual DiskSpace availableDiskSpace(const QString& path) const;
+
+    // The fixed folders of a command's search path, after ~/.local/bin: where this system's
+    // package managers put programs, then the system's own folders.
+    virtual QStringList programDirectories() const = 0;
+    // Every npm whose global packages the removal of an AI tool tries, in order.
+    virtual QStringList globalNpmPrograms() const = 0;
 
     // Brings a terminal to the front with one new window that changes to `directory` (a
     // leading "~/" is expanded by the shell there) and runs `command`. Failures are reported
@@ -58,7 +101,7 @@ public:
     virtual QString terminalDescription() const = 0;
 
     // Shows a folder to the user in the file manager.
-    virtual void revealFolder(const QString& path) = 0;
+    virtual void revealFolder(const QString& path);
 
     virtual DeveloperToolsItem developerToolsItem() const = 0;
     // Starts the system's installer for the developer tools; errors are swallowed.
@@ -68,7 +111,12 @@ public:
     virtual QString officialNodeInstallCommand() const = 0;
 };
 
-// The Node.js release installed when Homebrew is not there.
+// The backend for the system this binary was built for.
+std::unique_ptr<Platform> createNativePlatform();
+
+// The Node.js release installed when Homebrew is not there, and where it comes from.
 inline constexpr auto kNodeReleaseVersion = "20.10.0";
+inline constexpr auto kNodeDownloadServer = "https://nodejs.org";
+inline constexpr auto kNodeDomain = "nodejs.org";
 
 } // namespace qf

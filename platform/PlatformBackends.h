@@ -6,24 +6,26 @@
 
 namespace qf {
 
-// The backend for the system this binary was built for.
-Platform& nativePlatform();
-
 // macOS: Terminal and System Events through AppleScript (run by /usr/bin/osascript), the
 // Command Line Tools installer, the official Node.js package. The script texts and command
 // lines are pure functions so that they are tested on every system.
 class MacPlatform : public Platform {
 public:
     QString name() const override;
+    const SystemWording& wording() const override;
+    ApplicationLook applicationLook() const override;
     void configureMainWindow(QWidget* window) override;
     OperatingSystemCheck checkOperatingSystem() const override;
+    QStringList programDirectories() const override;
+    QStringList globalNpmPrograms() const override;
     void openTerminal(const QString& command, const QString& directory) override;
     QString terminalDescription() const override;
-    void revealFolder(const QString& path) override;
     DeveloperToolsItem developerToolsItem() const override;
     void startDeveloperToolsInstaller() override;
     QString officialNodeInstallCommand() const override;
 
+    // The texts of a Mac: the ones the whole application was designed with.
+    static const SystemWording& standardWording();
     // "macOS 14.5.0"-style check for a version triple: met from major version 14 on.
     static OperatingSystemCheck operatingSystemCheck(int major, int minor, int patch);
     // The AppleScript that opens a Terminal window running "cd DIR && COMMAND".
@@ -40,15 +42,26 @@ public:
 // the build tools as the developer-tools item, the Node.js release tarball under ~/.local.
 class LinuxPlatform : public Platform {
 public:
+    LinuxPlatform();
+
     QString name() const override;
+    const SystemWording& wording() const override;
+    ApplicationLook applicationLook() const override;
     void configureMainWindow(QWidget* window) override;
     OperatingSystemCheck checkOperatingSystem() const override;
+    QStringList programDirectories() const override;
+    QStringList globalNpmPrograms() const override;
     void openTerminal(const QString& command, const QString& directory) override;
     QString terminalDescription() const override;
-    void revealFolder(const QString& path) override;
     DeveloperToolsItem developerToolsItem() const override;
     void startDeveloperToolsInstaller() override;
     QString officialNodeInstallCommand() const override;
+
+    // The texts of a Linux system whose os-release says `osRelease`.
+    static SystemWording wordingFor(const QMap<QString, QString>& osRelease);
+    // Light or dark as asked for by QUILLFORGE_APPEARANCE ("light", "dark") or by a GTK theme
+    // whose name says dark; nothing when neither says.
+    static std::optional<bool> appearanceFrom(const QByteArray& requested, const QByteArray& gtkTheme);
 
     // Terminal emulators in the order they are preferred.
     static const QStringList& terminalEmulators();
@@ -62,8 +75,6 @@ public:
     // The shell line run inside the terminal: cd to the directory (quoted, "~/" kept for the
     // shell to expand), run the command, then replace itself by an interactive login shell.
     static QString terminalShellLine(const QString& command, const QString& directory, const QString& shell);
-    // Single-quotes a word for sh, bash and zsh when it needs quoting.
-    static QString shellQuote(const QString& word);
 
     // KEY=value lines of /etc/os-release, unquoted.
     static QMap<QString, QString> parseOsRelease(const QString& text);
@@ -74,6 +85,10 @@ public:
     // Downloads and unpacks the fixed Node.js release for `cpuArchitecture` (as Qt names it:
     // x86_64, arm64, ...) into ~/.local, so node, npm and global packages land in ~/.local/bin.
     static QString nodeTarballCommand(const QString& cpuArchitecture);
+
+private:
+    QMap<QString, QString> m_osRelease;
+    SystemWording m_wording;
 };
 
 } // namespace qf

@@ -19,12 +19,12 @@ bool isPlainShellCharacter(QChar c)
 
 } // namespace
 
-QString shellQuote(const QString& word)
+QString shellQuote(const QString& word, Quoting quoting)
 {
     if (word.isEmpty())
         return QStringLiteral("''");
     // zsh replaces a word starting with "=" by the path of the command it names.
-    bool plain = !word.startsWith(QLatin1Char('='));
+    bool plain = quoting == Quoting::whenNeeded && !word.startsWith(QLatin1Char('='));
     for (qsizetype i = 0; plain && i < word.size(); ++i)
         plain = isPlainShellCharacter(word.at(i));
     if (plain)

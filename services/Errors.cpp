@@ -1,7 +1,5 @@
 #include "Errors.h"
 
-#include "CLITool.h"
-
 namespace qf {
 
 ShellError ShellError::failed(int exitCode, const QString& output)
@@ -43,7 +41,7 @@ QString ShellError::errorDescription() const
     return {};
 }
 
-QString errorDescription(InstallationError error)
+QString errorDescription(InstallationError error, const SystemWording& wording)
 {
     switch (error) {
     case InstallationError::verificationFailed:
@@ -52,11 +50,9 @@ QString errorDescription(InstallationError error)
     case InstallationError::nodeInstallFailed:
         return QCoreApplication::translate("InstallationError",
                                            "Failed to install Node.js. Please install it manually from %1")
-            .arg(QLatin1String(web::nodeJSDomain));
+            .arg(QLatin1String(kNodeDomain));
     case InstallationError::gitNotFound:
-        return QCoreApplication::translate("InstallationError",
-                                           "Git is required but not found. Please install Xcode Command Line Tools "
-                                           "by running: xcode-select --install");
+        return wording.gitMissingError;
     case InstallationError::uninstallFailed:
         return QCoreApplication::translate(
             "InstallationError", "Uninstall completed but the tool is still detected. Manual removal may be required.");
@@ -71,13 +67,18 @@ QString errorDescription(InstallationError error)
     return {};
 }
 
-QString ServiceError::errorDescription() const
+ServiceError::ServiceError(ShellError error) : m_cause(error), m_description(error.errorDescription()) {}
+
+ServiceError::ServiceError(InstallationError error, const SystemWording& wording)
+    : m_cause(error), m_description(qf::errorDescription(error, wording))
 {
-    if (auto* shell = std::get_if<ShellError>(&m_cause))
-        return shell->errorDescription();
-    if (auto* installation = std::get_if<InstallationError>(&m_cause))
-        return qf::errorDescription(*installation);
-    return std::get<QString>(m_cause);
+}
+
+ServiceError ServiceError::message(const QString& text)
+{
+    ServiceError error;
+    error.m_description = text;
+    return error;
 }
 
 } // namespace qf

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Platform.h"
+
 #include <QCoreApplication>
 #include <QString>
 
@@ -46,45 +48,44 @@ enum class InstallationError {
     manualUninstallRequired,
     folderNotEmpty,
 };
-QString errorDescription(InstallationError error);
+// The message of `error`; the ones that name the system's tools come in its wording.
+QString errorDescription(InstallationError error, const SystemWording& wording);
 
 // What a service operation reports when it fails: a shell error, an installation error, or
-// another problem described in words (a file that could not be written, input refused).
+// another problem described in words (a file that could not be written, input refused). The
+// message is settled when the error is made.
 class ServiceError {
 public:
-    ServiceError(ShellError error) : m_cause(std::move(error)) {}
-    ServiceError(InstallationError error) : m_cause(error) {}
-    static ServiceError message(const QString& text)
-    {
-        ServiceError error(InstallationError::verificationFailed);
-        error.m_cause = text;
-        return error;
-    }
+    ServiceError(ShellError error);
+    ServiceError(InstallationError error, const SystemWording& wording);
+    static ServiceError message(const QString& text);
 
-    QString errorDescription() const;
+    const QString& errorDescription() const { return m_description; }
     const ShellError* shellError() const { return std::get_if<ShellError>(&m_cause); }
     std::optional<InstallationError> installationError() const
     {
-        if (auto* e = std::get_if<InstallationError>(&m_cause))
-            return *e;
+        if (const auto* error = std::get_if<InstallationError>(&m_cause))
+            return *error;
         return std::nullopt;
     }
 
     friend bool operator==(const ServiceError&, const ServiceError&) = default;
 
 private:
-    std::variant<ShellError, InstallationError, QString> m_cause;
+    ServiceError() = default;
+
+    std::variant<std::monostate, ShellError, InstallationError> m_cause;
+    QString m_description;
 };
 
 // The outcome of an operation that may fail: a value, or the error that stopped it. Errors
 // travel as values so that nothing is thrown across a suspension point.
 template <typename T>
-class Result {
+class [[nodiscard]] Result {
 public:
     Result(T value) : m_state(std::move(value)) {}
     Result(ServiceError error) : m_state(std::move(error)) {}
     Result(ShellError error) : m_state(ServiceError(std::move(error))) {}
-    Result(InstallationError error) : m_state(ServiceError(error)) {}
 
     bool ok() const { return std::holds_alternative<T>(m_state); }
     explicit operator bool() const { return ok(); }
@@ -97,12 +98,11 @@ private:
 };
 
 template <>
-class Result<void> {
+class [[nodiscard]] Result<void> {
 public:
     Result() = default;
     Result(ServiceError error) : m_error(std::move(error)) {}
     Result(ShellError error) : m_error(ServiceError(std::move(error))) {}
-    Result(InstallationError error) : m_error(ServiceError(error)) {}
 
     bool ok() const { return !m_error.has_value(); }
     explicit operator bool() const { return ok(); }

@@ -35,11 +35,8 @@ QString ProfileWriter::exportLine(const QString& variable, const QString& key)
 {
     if (isPlainKey(key))
         return QStringLiteral("export ") + variable + QStringLiteral("=\"") + key + QLatin1Char('"');
-    // Inside single quotes bash and zsh expand nothing; a quote in the key closes the
-    // quotes, adds an escaped quote and opens them again.
-    QString quoted = key;
-    quoted.replace(QLatin1Char('\''), QLatin1String("'\\''"));
-    return QStringLiteral("export ") + variable + QStringLiteral("='") + quoted + QLatin1Char('\'');
+    // Inside single quotes bash and zsh expand nothing.
+    return QStringLiteral("export ") + variable + QLatin1Char('=') + shellQuote(key, Quoting::always);
 }
 
 QString ProfileWriter::rewrite(const QString& text, const QString& variable, const QString& line)

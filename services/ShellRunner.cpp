@@ -1,6 +1,5 @@
 #include "ShellRunner.h"
 
-#include "ProcessRun.h"
 #include "Utf8Stream.h"
 
 #include <QCoro/QCoroTimer>
@@ -21,27 +20,14 @@ constexpr auto kStreamCompletionDelay = 100ms;
 
 } // namespace
 
-ShellRunner& ShellRunner::shared()
+ShellRunner::Configuration ShellRunner::standardConfiguration(const Platform& platform)
 {
-    static ShellRunner runner;
-    return runner;
+    Configuration configuration;
+    configuration.fixedDirectories = platform.programDirectories();
+    return configuration;
 }
 
-ShellRunner::ShellRunner() { resetConfiguration(); }
-
-QStringList ShellRunner::standardFixedDirectories()
-{
-    return {QStringLiteral("/usr/local/bin"), QStringLiteral("/opt/homebrew/bin"), QStringLiteral("/usr/bin"),
-            QStringLiteral("/bin")};
-}
-
-void ShellRunner::resetConfiguration()
-{
-    m_shell = QStringLiteral("/bin/zsh");
-    m_fixedDirectories = standardFixedDirectories();
-    m_inheritedPath.reset();
-    m_terminationGraceMs = 3000;
-}
+ShellRunner::ShellRunner(Configuration configuration) : m_configuration(std::move(configuration)) {}
 
 QString ShellRunner::searchPath(const QString& home, QStringList nvmVersionNames, const QStringList& fixedDirectories,
                                 const std::optional<QString>& inheritedPath)
@@ -67,22 +53,28 @@ QProcessEnvironment ShellRunner::commandEnvironment() const
     const QStringList versions = QDir(home + QStringLiteral("/.nvm/versions/node"))
                                      .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
                                                 QDir::NoSort);
-    std::optional<QString> inherited = m_inheritedPath;
+    std::optional<QString> inherited = m_configuration.inheritedPath;
     if (!inherited && environment.contains(QStringLiteral("PATH")))
         inherited = environment.value(QStringLiteral("PATH"));
-    environment.insert(QStringLiteral("PATH"), searchPath(home, versions, m_fixedDirectories, inherited));
+    environment.insert(QStringLiteral("PATH"), searchPath(home, versions, m_configuration.fixedDirectories, inherited));
     return environment;
+}
+
+ProcessRun::Options ShellRunner::processOptions(const QString& command) const
+{
+    ProcessRun::Options options;
+    options.program = m_configuration.shell;
+    options.arguments = {QStringLiteral("-l"), QStringLiteral("-c"), command};
+    options.environment = commandEnvironment();
+    options.terminationGraceMs = m_configuration.terminationGraceMs;
+    return options;
 }
 
 QCoro::Task<Result<QString>> ShellRunner::run(QString command, double timeoutSeconds)
 {
-    ProcessRun::Options options;
-    options.program = m_shell;
-    options.arguments = {QStringLiteral("-l"), QStringLiteral("-c"), command};
-    options.environment = commandEnvironment();
+    ProcessRun::Options options = processOptions(command);
     options.channels = ProcessRun::Channels::separate;
     options.timeoutMs = timeoutSeconds > 0 ? static_cast<int>(std::min(timeoutSeconds * 1000.0, 2.0e9)) : 0;
-    options.terminationGraceMs = m_terminationGraceMs;
 
     auto* process = new ProcessRun(std::move(options));
     const ProcessOutcome outcome = co_await process->outcome();
@@ -107,10 +99,7 @@ QCoro::Task<Result<QString>> ShellRunner::run(QString command, double timeoutSec
 
 QCoro::Task<Result<void>> ShellRunner::runWithStreaming(QString command, OutputHandler onOutput, QObject* context)
 {
-    ProcessRun::Options options;
-    options.program = m_shell;
-    options.arguments = {QStringLiteral("-l"), QStringLiteral("-c"), command};
-    options.environment = commandEnvironment();
+    ProcessRun::Options options = processOptions(command);
     options.channels = ProcessRun::Channels::merged;
     options.onOutput = std::move(onOutput);
     options.context = context;

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "Errors.h"
+#include "ProcessRun.h"
 
 #include <QCoro/QCoroTask>
 #include <QObject>
-#include <QPointer>
 #include <QProcessEnvironment>
 #include <QStringList>
 
@@ -27,7 +27,24 @@ public:
     // A command that has not ended after this many seconds is stopped.
     static constexpr double defaultTimeoutSeconds = 600;
 
-    static ShellRunner& shared();
+    struct Configuration {
+        QString shell = QStringLiteral("/bin/zsh");
+        // The search path's fixed folders, after ~/.local/bin.
+        QStringList fixedDirectories;
+        // Replaces the application's PATH as the last element (nothing: the real one).
+        std::optional<QString> inheritedPath;
+        // How long a stopped command gets between TERM and KILL.
+        int terminationGraceMs = 3000;
+    };
+
+    // The shell and the search path of this system.
+    static Configuration standardConfiguration(const Platform& platform);
+
+    explicit ShellRunner(Configuration configuration);
+    ShellRunner(const ShellRunner&) = delete;
+    ShellRunner& operator=(const ShellRunner&) = delete;
+
+    const Configuration& configuration() const { return m_configuration; }
 
     // Runs `command` and returns its standard output, trimmed. A non-zero exit gives
     // `commandFailed` with standard output and standard error combined; a command still
@@ -47,24 +64,10 @@ public:
     static QString searchPath(const QString& home, QStringList nvmVersionNames, const QStringList& fixedDirectories,
                               const std::optional<QString>& inheritedPath);
 
-    // Configuration, for tests and the support probe.
-    static QStringList standardFixedDirectories();
-    void setShell(const QString& shell) { m_shell = shell; }
-    QString shell() const { return m_shell; }
-    void setFixedDirectories(const QStringList& directories) { m_fixedDirectories = directories; }
-    // Replaces the application's PATH as the last element (nullopt: use the real one).
-    void setInheritedPath(const std::optional<QString>& path) { m_inheritedPath = path; }
-    // How long a stopped command gets between TERM and KILL.
-    void setTerminationGraceMs(int ms) { m_terminationGraceMs = ms; }
-    void resetConfiguration();
-
 private:
-    ShellRunner();
+    ProcessRun::Options processOptions(const QString& command) const;
 
-    QString m_shell;
-    QStringList m_fixedDirectories;
-    std::optional<QString> m_inheritedPath;
-    int m_terminationGraceMs = 3000;
+    Configuration m_configuration;
 };
 
 } // namespace qf

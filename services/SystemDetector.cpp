@@ -1,21 +1,13 @@
 #include "SystemDetector.h"
 
-#include "Platform.h"
-#include "ShellRunner.h"
+#include "Diagnostics.h"
 
 #include <QDir>
 #include <QFileInfo>
-#include <QStorageInfo>
-
-#include <cstdio>
 
 namespace qf {
 
-SystemDetector& SystemDetector::shared()
-{
-    static SystemDetector detector;
-    return detector;
-}
+SystemDetector::SystemDetector(ShellRunner& shell, const Platform& platform) : m_shell(shell), m_platform(platform) {}
 
 NodeCheck SystemDetector::evaluateNodeVersion(const std::optional<QString>& version)
 {
@@ -38,7 +30,7 @@ RequirementStatus SystemDetector::diskSpaceStatus(std::optional<qint64> megabyte
 
 QCoro::Task<std::optional<QString>> SystemDetector::getNodeVersion()
 {
-    const Result<QString> result = co_await ShellRunner::shared().run(QStringLiteral("node --version"));
+    const Result<QString> result = co_await m_shell.run(QStringLiteral("node --version"));
     if (!result)
         co_return std::nullopt;
     co_return result.value().trimmed();
@@ -52,8 +44,7 @@ QCoro::Task<NodeCheck> SystemDetector::checkNodeJS()
 
 QCoro::Task<std::optional<QString>> SystemDetector::getToolVersion(CLITool tool)
 {
-    const Result<QString> result =
-        co_await ShellRunner::shared().run(tool.commandName() + QStringLiteral(" --version"));
+    const Result<QString> result = co_await m_shell.run(tool.commandName() + QStringLiteral(" --version"));
     if (!result)
         co_return std::nullopt;
     co_return result.value().trimmed();
@@ -61,27 +52,20 @@ QCoro::Task<std::optional<QString>> SystemDetector::getToolVersion(CLITool tool)
 
 RequirementStatus SystemDetector::checkOperatingSystem() const
 {
-    const OperatingSystemCheck check = Platform::current().checkOperatingSystem();
+    const OperatingSystemCheck check = m_platform.checkOperatingSystem();
     return {SystemRequirement::macOSVersion, check.met, check.details};
 }
 
 std::optional<qint64> SystemDetector::availableDiskSpaceMB() const
 {
-    std::optional<qint64> bytes;
-    if (m_availableBytes) {
-        bytes = m_availableBytes();
-    } else {
-        const QStorageInfo volume(QDir::homePath());
-        if (!volume.isValid() || volume.bytesAvailable() < 0) {
-            std::printf("Error getting disk space: no volume information for %s\n", qPrintable(QDir::homePath()));
-            std::fflush(stdout);
-            return std::nullopt;
-        }
-        bytes = volume.bytesAvailable();
-    }
-    if (!bytes)
+    const DiskSpace space = m_platform.availableDiskSpace(QDir::homePath());
+    if (!space.error.isEmpty()) {
+        printDiagnostic(QStringLiteral("Error getting disk space: ") + space.error);
         return std::nullopt;
-    return bytesToMegabytes(*bytes);
+    }
+    if (!space.bytes)
+        return std::nullopt;
+    return bytesToMegabytes(*space.bytes);
 }
 
 QString SystemDetector::shellProfilePath() const

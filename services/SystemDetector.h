@@ -2,11 +2,11 @@
 
 #include "CLITool.h"
 #include "SetupModel.h"
+#include "ShellRunner.h"
 
 #include <QCoro/QCoroTask>
 #include <QString>
 
-#include <functional>
 #include <optional>
 
 namespace qf {
@@ -28,7 +28,9 @@ public:
     static constexpr int minimumNodeMajorVersion = 18;
     static constexpr qint64 minimumDiskSpaceMB = 200;
 
-    static SystemDetector& shared();
+    SystemDetector(ShellRunner& shell, const Platform& platform);
+    SystemDetector(const SystemDetector&) = delete;
+    SystemDetector& operator=(const SystemDetector&) = delete;
 
     // The operating system, the free disk space and, for tools that need it, Node.js.
     QCoro::Task<QList<RequirementStatus>> checkAllRequirements(CLITool tool);
@@ -49,15 +51,9 @@ public:
     static RequirementStatus diskSpaceStatus(std::optional<qint64> megabytes);
     static qint64 bytesToMegabytes(qint64 bytes) { return bytes / (1024 * 1024); }
 
-    // Replaces the free-space reading (tests); an empty function returns to the real one.
-    void setAvailableBytesProvider(std::function<std::optional<qint64>()> provider)
-    {
-        m_availableBytes = std::move(provider);
-    }
-
 private:
-    SystemDetector() = default;
-    std::function<std::optional<qint64>()> m_availableBytes;
+    ShellRunner& m_shell;
+    const Platform& m_platform;
 };
 
 } // namespace qf

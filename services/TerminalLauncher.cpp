@@ -4,15 +4,9 @@
 
 namespace qf {
 
-TerminalLauncher& TerminalLauncher::shared()
-{
-    static TerminalLauncher launcher;
-    return launcher;
-}
-
 void TerminalLauncher::openInTerminal(const QString& command, const QString& directory)
 {
-    Platform::current().openTerminal(command, directory);
+    m_platform.openTerminal(command, directory);
 }
 
 } // namespace qf

@@ -4,16 +4,18 @@
 
 namespace qf {
 
+class Platform;
+
 // Opens a terminal window in the projects folder with a tool already running in it.
 class TerminalLauncher {
 public:
-    static TerminalLauncher& shared();
+    explicit TerminalLauncher(Platform& platform) : m_platform(platform) {}
 
     // Every call opens one more window. Failures are reported only on standard output.
     void openInTerminal(const QString& command, const QString& directory);
 
 private:
-    TerminalLauncher() = default;
+    Platform& m_platform;
 };
 
 } // namespace qf

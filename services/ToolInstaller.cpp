@@ -1,24 +1,15 @@
 #include "ToolInstaller.h"
 
-#include "Platform.h"
 #include "ProfileWriter.h"
-#include "ShellRunner.h"
-#include "SystemDetector.h"
 #include "Utf8Stream.h"
 
-#include <QDir>
 #include <QFile>
-#include <QFileInfo>
-
-#include <filesystem>
-#include <system_error>
 
 namespace qf {
 
-ToolInstaller& ToolInstaller::shared()
+ToolInstaller::ToolInstaller(ShellRunner& shell, SystemDetector& detector, const Platform& platform)
+    : m_shell(shell), m_detector(detector), m_platform(platform)
 {
-    static ToolInstaller installer;
-    return installer;
 }
 
 QCoro::Task<QList<SetupStep>> ToolInstaller::setupSteps(CLITool tool)
@@ -27,7 +18,7 @@ QCoro::Task<QList<SetupStep>> ToolInstaller::setupSteps(CLITool tool)
     steps << SetupStep{SetupStepType::createDeveloperFolder, SetupStepStatus::pending, std::nullopt};
     steps << SetupStep{SetupStepType::checkGit, SetupStepStatus::pending, std::nullopt};
     if (tool.requiresNodeJS()) {
-        const NodeCheck node = co_await SystemDetector::shared().checkNodeJS();
+        const NodeCheck node = co_await m_detector.checkNodeJS();
         if (node.isInstalled && node.meetsRequirement)
             steps << SetupStep{SetupStepType::installNode, SetupStepStatus::skipped, node.version};
         else
@@ -37,34 +28,33 @@ QCoro::Task<QList<SetupStep>> ToolInstaller::setupSteps(CLITool tool)
     co_return steps;
 }
 
-ToolInstaller::FolderOutcome ToolInstaller::makeDeveloperFolder(const Output& onOutput)
+FolderCreation::Outcome ToolInstaller::prepareDeveloperFolder(const Output& onOutput)
 {
-    const QString folder = QDir::homePath() + QStringLiteral("/Developer");
-    if (QFileInfo::exists(folder) || QFileInfo(folder).isSymLink()) {
+    const FolderCreation creation = makeDeveloperFolder();
+    switch (creation.outcome) {
+    case FolderCreation::alreadyThere:
         onOutput(QStringLiteral("~/Developer folder already exists\n"));
-        return FolderOutcome::existed;
+        break;
+    case FolderCreation::created:
+        onOutput(QStringLiteral("Created ~/Developer folder for your projects\n"));
+        break;
+    case FolderCreation::failed:
+        onOutput(QStringLiteral("Note: Could not create ~/Developer folder: ") + creation.error + QLatin1Char('\n'));
+        break;
     }
-    std::error_code error;
-    std::filesystem::create_directories(std::filesystem::path(folder.toStdString()), error);
-    if (error) {
-        onOutput(QStringLiteral("Note: Could not create ~/Developer folder: ") +
-                 QString::fromStdString(error.message()) + QLatin1Char('\n'));
-        return FolderOutcome::failed;
-    }
-    onOutput(QStringLiteral("Created ~/Developer folder for your projects\n"));
-    return FolderOutcome::created;
+    return creation.outcome;
 }
 
 QCoro::Task<bool> ToolInstaller::createDeveloperFolder(Output onOutput)
 {
-    co_return makeDeveloperFolder(onOutput) == FolderOutcome::created;
+    co_return prepareDeveloperFolder(onOutput) == FolderCreation::created;
 }
 
 QCoro::Task<ToolInstaller::GitCheck> ToolInstaller::checkGit(Output onOutput)
 {
-    const Result<QString> result = co_await ShellRunner::shared().run(QStringLiteral("git --version"));
+    const Result<QString> result = co_await m_shell.run(QStringLiteral("git --version"));
     if (!result) {
-        onOutput(QStringLiteral("Git not found. Please install Xcode Command Line Tools.\n"));
+        onOutput(m_platform.wording().gitMissingLog);
         co_return GitCheck{false, std::nullopt};
     }
     const QString version = result.value().trimmed();
@@ -74,22 +64,21 @@ QCoro::Task<ToolInstaller::GitCheck> ToolInstaller::checkGit(Output onOutput)
 
 QCoro::Task<Result<void>> ToolInstaller::installNodeJS(Output onOutput)
 {
-    ShellRunner& shell = ShellRunner::shared();
-    const Result<QString> brew = co_await shell.run(QStringLiteral("which brew"));
+    const Result<QString> brew = co_await m_shell.run(QStringLiteral("which brew"));
     Result<void> installed;
     if (brew) {
         onOutput(QStringLiteral("Installing Node.js via Homebrew...\n"));
-        installed = co_await shell.runWithStreaming(QStringLiteral("brew install node"), onOutput);
+        installed = co_await m_shell.runWithStreaming(QStringLiteral("brew install node"), onOutput);
     } else {
         onOutput(QStringLiteral("Installing Node.js via official installer...\n"));
-        installed = co_await shell.runWithStreaming(Platform::current().officialNodeInstallCommand(), onOutput);
+        installed = co_await m_shell.runWithStreaming(m_platform.officialNodeInstallCommand(), onOutput);
     }
     if (!installed)
         co_return installed;
 
-    const NodeCheck node = co_await SystemDetector::shared().checkNodeJS();
+    const NodeCheck node = co_await m_detector.checkNodeJS();
     if (!node.isInstalled)
-        co_return InstallationError::nodeInstallFailed;
+        co_return failure(InstallationError::nodeInstallFailed);
     onOutput(QStringLiteral("Node.js ") + node.version.value_or(QStringLiteral("installed")) +
              QStringLiteral(" successfully!\n"));
     co_return Result<void>();
@@ -99,14 +88,14 @@ QCoro::Task<Result<void>> ToolInstaller::runSetup(CLITool tool, StepUpdate repor
 {
     // 1. The projects folder. A folder that cannot be created is reported and setup goes on.
     report(SetupStepType::createDeveloperFolder, SetupStepStatus::inProgress, std::nullopt);
-    switch (makeDeveloperFolder(log)) {
-    case FolderOutcome::created:
+    switch (prepareDeveloperFolder(log)) {
+    case FolderCreation::created:
         report(SetupStepType::createDeveloperFolder, SetupStepStatus::completed, QStringLiteral("Created"));
         break;
-    case FolderOutcome::existed:
+    case FolderCreation::alreadyThere:
         report(SetupStepType::createDeveloperFolder, SetupStepStatus::skipped, QStringLiteral("Already exists"));
         break;
-    case FolderOutcome::failed:
+    case FolderCreation::failed:
         report(SetupStepType::createDeveloperFolder, SetupStepStatus::failure(QStringLiteral("Could not create")),
                std::nullopt);
         break;
@@ -117,13 +106,13 @@ QCoro::Task<Result<void>> ToolInstaller::runSetup(CLITool tool, StepUpdate repor
     const GitCheck git = co_await checkGit(log);
     if (!git.found) {
         report(SetupStepType::checkGit, SetupStepStatus::failure(QStringLiteral("Not found")), std::nullopt);
-        co_return InstallationError::gitNotFound;
+        co_return failure(InstallationError::gitNotFound);
     }
     report(SetupStepType::checkGit, SetupStepStatus::completed, git.version);
 
     // 3. Node.js, for the tools that run on it.
     if (tool.requiresNodeJS()) {
-        const NodeCheck before = co_await SystemDetector::shared().checkNodeJS();
+        const NodeCheck before = co_await m_detector.checkNodeJS();
         if (before.isInstalled && before.meetsRequirement) {
             report(SetupStepType::installNode, SetupStepStatus::skipped, before.version);
         } else {
@@ -131,7 +120,7 @@ QCoro::Task<Result<void>> ToolInstaller::runSetup(CLITool tool, StepUpdate repor
             const Result<void> node = co_await installNodeJS(log);
             if (!node)
                 co_return node;
-            const NodeCheck after = co_await SystemDetector::shared().checkNodeJS();
+            const NodeCheck after = co_await m_detector.checkNodeJS();
             report(SetupStepType::installNode, SetupStepStatus::completed, after.version);
         }
     }
@@ -139,19 +128,19 @@ QCoro::Task<Result<void>> ToolInstaller::runSetup(CLITool tool, StepUpdate repor
     // 4. The tool itself.
     report(SetupStepType::installTool, SetupStepStatus::inProgress, tool.displayName());
     log(QStringLiteral("\nInstalling ") + tool.displayName() + QStringLiteral("...\n"));
-    const Result<void> installed = co_await ShellRunner::shared().runWithStreaming(tool.installCommand(), log);
+    const Result<void> installed = co_await m_shell.runWithStreaming(tool.installCommand(), log);
     if (!installed)
         co_return installed;
 
     // 5. Verification.
     log(QStringLiteral("\nVerifying installation...\n"));
-    const Result<QString> found = co_await ShellRunner::shared().run(QStringLiteral("which ") + tool.commandName());
+    const Result<QString> found = co_await m_shell.run(QStringLiteral("which ") + tool.commandName());
     if (!found) {
         report(SetupStepType::installTool, SetupStepStatus::failure(QStringLiteral("Verification failed")),
                std::nullopt);
-        co_return InstallationError::verificationFailed;
+        co_return failure(InstallationError::verificationFailed);
     }
-    const std::optional<QString> version = co_await SystemDetector::shared().getToolVersion(tool);
+    const std::optional<QString> version = co_await m_detector.getToolVersion(tool);
     report(SetupStepType::installTool, SetupStepStatus::completed, version);
     if (version)
         log(QStringLiteral("\n") + tool.displayName() + QLatin1Char(' ') + *version +
@@ -163,13 +152,12 @@ QCoro::Task<Result<void>> ToolInstaller::runSetup(CLITool tool, StepUpdate repor
 
 QCoro::Task<void> ToolInstaller::uninstall(CLITool tool, Output log)
 {
-    ShellRunner& shell = ShellRunner::shared();
     log(QStringLiteral("Uninstalling ") + tool.displayName() + QStringLiteral("...\n"));
     // The removal line walks nvm's versions with a glob. In zsh a glob that matches nothing
     // aborts the whole line, so without nvm nothing after the loop would run (for Claude Code:
     // neither removal of its folders); with NOMATCH off the loop is simply skipped, as in sh.
-    const Result<QString> removal =
-        co_await shell.run(QStringLiteral("setopt nonomatch; ") + tool.uninstallCommand());
+    const Result<QString> removal = co_await m_shell.run(QStringLiteral("setopt nonomatch; ") +
+                                                         tool.uninstallCommand(m_platform.globalNpmPrograms()));
     if (removal) {
         if (!removal.value().isEmpty())
             log(removal.value() + QLatin1Char('\n'));
@@ -177,7 +165,7 @@ QCoro::Task<void> ToolInstaller::uninstall(CLITool tool, Output log)
         log(QStringLiteral("Note: ") + removal.error().errorDescription() + QLatin1Char('\n'));
     }
 
-    const Result<QString> stillThere = co_await shell.run(QStringLiteral("which ") + tool.commandName());
+    const Result<QString> stillThere = co_await m_shell.run(QStringLiteral("which ") + tool.commandName());
     if (!stillThere) {
         log(QStringLiteral("\n") + tool.displayName() + QStringLiteral(" has been uninstalled.\n"));
         co_return;
@@ -193,7 +181,7 @@ QCoro::Task<Result<void>> ToolInstaller::saveAPIKey(QString key, CLITool tool)
     if (const std::optional<QString> reason = ProfileWriter::rejectionReason(key))
         co_return ServiceError::message(*reason);
 
-    const QString profile = SystemDetector::shared().shellProfilePath();
+    const QString profile = m_detector.shellProfilePath();
     const QString variable = tool.apiKeyEnvVar();
     const QString line = ProfileWriter::exportLine(variable, key);
 
@@ -211,7 +199,7 @@ QCoro::Task<Result<void>> ToolInstaller::saveAPIKey(QString key, CLITool tool)
                 co_return written;
         }
     } else {
-        const Result<QString> appended = co_await ShellRunner::shared().run(
+        const Result<QString> appended = co_await m_shell.run(
             ProfileWriter::appendCommand(tool.displayName(), line, profile));
         if (!appended)
             co_return appended.error();

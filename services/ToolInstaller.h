@@ -1,8 +1,11 @@
 #pragma once
 
 #include "CLITool.h"
+#include "DeveloperFolder.h"
 #include "Errors.h"
 #include "SetupModel.h"
+#include "ShellRunner.h"
+#include "SystemDetector.h"
 
 #include <QCoro/QCoroTask>
 
@@ -26,7 +29,9 @@ public:
         std::optional<QString> version;
     };
 
-    static ToolInstaller& shared();
+    ToolInstaller(ShellRunner& shell, SystemDetector& detector, const Platform& platform);
+    ToolInstaller(const ToolInstaller&) = delete;
+    ToolInstaller& operator=(const ToolInstaller&) = delete;
 
     QCoro::Task<QList<SetupStep>> setupSteps(CLITool tool);
     QCoro::Task<Result<void>> runSetup(CLITool tool, StepUpdate onStepUpdate, Output onOutput);
@@ -45,10 +50,13 @@ public:
     QCoro::Task<Result<void>> saveAPIKey(QString key, CLITool tool);
 
 private:
-    enum class FolderOutcome { created, existed, failed };
-    FolderOutcome makeDeveloperFolder(const Output& onOutput);
+    // Makes ~/Developer unless something is there, and says which in the log.
+    FolderCreation::Outcome prepareDeveloperFolder(const Output& onOutput);
+    ServiceError failure(InstallationError error) const { return {error, m_platform.wording()}; }
 
-    ToolInstaller() = default;
+    ShellRunner& m_shell;
+    SystemDetector& m_detector;
+    const Platform& m_platform;
 };
 
 } // namespace qf

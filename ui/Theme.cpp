@@ -30,14 +30,11 @@ QColor withAlpha(QColor color, qreal alpha)
     return color;
 }
 
-QStringList standardFamilies()
+// The families tried first for ordinary text, as the platform asked for them.
+QStringList& standardFamilies()
 {
-#if defined(Q_OS_MACOS)
-    return {};
-#else
-    // Inter reads much like the macOS system font; without it the desktop's font is used.
-    return {QStringLiteral("Inter")};
-#endif
+    static QStringList families;
+    return families;
 }
 
 } // namespace
@@ -176,31 +173,23 @@ QPalette darkPalette()
     return p;
 }
 
-void applyApplicationLook(QApplication& app)
+void applyApplicationLook(QApplication& app, const ApplicationLook& look)
 {
-#if defined(Q_OS_MACOS)
-    Q_UNUSED(app);
-#else
-    const QByteArray requested = qgetenv("QUILLFORGE_APPEARANCE").toLower();
-    bool dark = false;
-    if (requested == "dark")
-        dark = true;
-    else if (requested == "light")
-        dark = false;
-    else
-        dark = isDark(app.palette()) || qgetenv("GTK_THEME").toLower().contains("dark");
+    standardFamilies() = look.fontFamilies;
+    if (look.nativeStyle)
+        return;
 
     if (QStyle* style = QStyleFactory::create(QStringLiteral("Fusion")))
         app.setStyle(style);
+    const bool dark = look.prefersDark.value_or(isDark(app.palette()));
     app.setPalette(dark ? darkPalette() : lightPalette());
 
     QFont base = app.font();
-    QStringList families = standardFamilies();
+    QStringList families = look.fontFamilies;
     families += base.families();
     base.setFamilies(families);
     base.setPixelSize(13);
     app.setFont(base);
-#endif
 }
 
 } // namespace Theme

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Platform.h"
+
 #include <QColor>
 #include <QFont>
 #include <QPalette>
@@ -77,10 +79,10 @@ QFont subheadline();  // 11
 QFont caption();      // 10
 QFont caption2();     // 10
 
-// Gives the application its look: on macOS the native one; elsewhere the same palette
-// roles as macOS (light or dark, following the desktop, or QUILLFORGE_APPEARANCE=light|dark)
-// with a calm sans-serif font when one is installed.
-void applyApplicationLook(QApplication& app);
+// Gives the application the look the platform asks for: the system's own, or the same palette
+// roles drawn by Qt's Fusion style (light or dark as the platform prefers, else as the
+// desktop's palette is) with the platform's preferred fonts first.
+void applyApplicationLook(QApplication& app, const ApplicationLook& look);
 
 // The palettes used where the platform has none of its own.
 QPalette lightPalette();

@@ -1,16 +1,16 @@
 // quillforge-probe: the support tool. Runs the real services against the current HOME and
 // prints, as plain text, what the dashboard and the system check would show on this machine:
 // the AI tools found and their versions, the supporting items, the requirement list of each
-// tool, the shell profile and the terminal Quillforge would open.
+// tool, the shell profile and the terminal Quillforge would open, and the texts on this system
+// that name the system or its tools.
 //
 // It only looks. Nothing is installed, removed, written or created; the commands it runs are
 // the detection commands of the services themselves (`which`, `--version`).
 #include "CLITool.h"
 #include "Errors.h"
 #include "Platform.h"
+#include "Services.h"
 #include "SetupModel.h"
-#include "ShellRunner.h"
-#include "SystemDetector.h"
 #include "SystemTool.h"
 
 #include <QCoreApplication>
@@ -121,19 +121,19 @@ QString describeFailure(const ServiceError& error)
     return text.isEmpty() ? QStringLiteral("failed") : text;
 }
 
-void printHeader()
+void printHeader(Services& services)
 {
     printLine(QStringLiteral("Quillforge support probe"));
     printLine(QStringLiteral("========================"));
 
-    const RequirementStatus os = SystemDetector::shared().checkOperatingSystem();
+    const RequirementStatus os = services.detector.checkOperatingSystem();
     printField(QStringLiteral("Operating system"),
-               Platform::current().name() + QStringLiteral(": ") + os.details +
+               services.platform.name() + QStringLiteral(": ") + os.details +
                    (os.isMet ? QStringLiteral(" (supported)") : QStringLiteral(" (not supported)")));
     printField(QStringLiteral("Home folder"), QDir::homePath());
 
-    ShellRunner& runner = ShellRunner::shared();
-    printField(QStringLiteral("Shell"), runner.shell() + QStringLiteral(" -l -c <command>"));
+    const ShellRunner& runner = services.runner;
+    printField(QStringLiteral("Shell"), runner.configuration().shell + QStringLiteral(" -l -c <command>"));
 
     // The search path every command gets, one directory a line; missing ones are marked.
     QStringList directories;
@@ -147,14 +147,14 @@ void printHeader()
     printField(QStringLiteral("Command PATH"), directories.join(QLatin1Char('\n')));
 }
 
-QCoro::Task<void> printAiTools()
+QCoro::Task<void> printAiTools(Services& services)
 {
     printHeading(QStringLiteral("AI tools"));
     Table table({QStringLiteral("Tool"), QStringLiteral("Command"), QStringLiteral("Status"),
                  QStringLiteral("which"), QStringLiteral("Version (--version)")});
     for (const CLITool& tool : CLITool::allCases()) {
         const QString command = tool.commandName();
-        const Result<QString> found = co_await ShellRunner::shared().run(QStringLiteral("which ") + command);
+        const Result<QString> found = co_await services.runner.run(QStringLiteral("which ") + command);
 
         QString status;
         QString location;
@@ -170,16 +170,17 @@ QCoro::Task<void> printAiTools()
             location = describeFailure(found.error());
         }
 
-        const std::optional<QString> version = co_await SystemDetector::shared().getToolVersion(tool);
+        const std::optional<QString> version = co_await services.detector.getToolVersion(tool);
         table.addRow({tool.displayName(), command, status, location, orDash(version)});
     }
     table.print();
 }
 
-QCoro::Task<void> printSupportingItems()
+QCoro::Task<void> printSupportingItems(Services& services)
 {
     printHeading(QStringLiteral("Supporting items"));
-    const QList<SystemTool> items = co_await detectSystemTools(systemToolCatalogue());
+    const QList<SystemTool> items = co_await detectSystemTools(
+        systemToolCatalogue(services.platform), services.runner, services.platform.developerToolsItem());
 
     Table table({QStringLiteral("#"), QStringLiteral("Item"), QStringLiteral("Status"), QStringLiteral("Version"),
                  QStringLiteral("Optional")});
@@ -204,11 +205,11 @@ QCoro::Task<void> printSupportingItems()
     }
 }
 
-QCoro::Task<void> printRequirements()
+QCoro::Task<void> printRequirements(Services& services)
 {
     printHeading(QStringLiteral("Requirements"));
 
-    const NodeCheck node = co_await SystemDetector::shared().checkNodeJS();
+    const NodeCheck node = co_await services.detector.checkNodeJS();
     QString nodeText = QStringLiteral("not installed");
     if (node.isInstalled) {
         const QString verdict = node.meetsRequirement ? QStringLiteral(" (new enough: %1 or later)")
@@ -216,7 +217,7 @@ QCoro::Task<void> printRequirements()
         nodeText = node.version.value_or(QString()) + verdict.arg(SystemDetector::minimumNodeMajorVersion);
     }
     printField(QStringLiteral("Node.js"), nodeText);
-    const std::optional<qint64> space = SystemDetector::shared().availableDiskSpaceMB();
+    const std::optional<qint64> space = services.detector.availableDiskSpaceMB();
     printField(QStringLiteral("Free disk space"),
                space ? QString::number(*space) + QStringLiteral(" MB on the volume of the home folder")
                      : QStringLiteral("could not be read"));
@@ -224,13 +225,13 @@ QCoro::Task<void> printRequirements()
     for (const CLITool& tool : CLITool::allCases()) {
         printLine();
         printLine(QLatin1String(kIndent) + tool.displayName());
-        const QList<RequirementStatus> requirements = co_await SystemDetector::shared().checkAllRequirements(tool);
+        const QList<RequirementStatus> requirements = co_await services.detector.checkAllRequirements(tool);
 
         Table table({QStringLiteral("Requirement"), QStringLiteral("Status"), QStringLiteral("Details")});
         bool canProceed = true;
         bool nodeWillBeInstalled = false;
         for (const RequirementStatus& status : requirements) {
-            table.addRow({status.requirement.title(), status.isMet ? QStringLiteral("met") : QStringLiteral("not met"),
+            table.addRow({status.requirement.title(services.platform.wording()), status.isMet ? QStringLiteral("met") : QStringLiteral("not met"),
                           status.details});
             if (status.isMet)
                 continue;
@@ -250,10 +251,10 @@ QCoro::Task<void> printRequirements()
     }
 }
 
-void printProfileAndTerminal()
+void printProfileAndTerminal(Services& services)
 {
     printHeading(QStringLiteral("Shell profile and terminal"));
-    const QString profile = SystemDetector::shared().shellProfilePath();
+    const QString profile = services.detector.shellProfilePath();
     const QFileInfo info(profile);
     QString state;
     if (info.isSymLink())
@@ -264,19 +265,39 @@ void printProfileAndTerminal()
     else
         state = QStringLiteral(" (does not exist)");
     printField(QStringLiteral("Shell profile"), profile + state);
-    printField(QStringLiteral("Terminal"), Platform::current().terminalDescription());
+    printField(QStringLiteral("Terminal"), services.platform.terminalDescription());
 }
 
-QCoro::Task<void> probe()
+// Every text of this system that names the system, its tools or its file manager, as the
+// screens, logs and errors would show it.
+void printSystemTexts(const Services& services)
 {
-    printHeader();
+    printHeading(QStringLiteral("Texts that name this system"));
+    const SystemWording& wording = services.platform.wording();
+    for (const SystemRequirement requirement : SystemRequirement::allCases()) {
+        printField(requirement.title(wording),
+                   requirement.helpText(wording) + QLatin1Char('\n') + requirement.fixSuggestion(wording));
+    }
+    printField(QStringLiteral("Account step"), wording.toolInstallStep);
+    printField(QStringLiteral("Git missing (log)"), wording.gitMissingLog.trimmed());
+    printField(QStringLiteral("Git missing"), errorDescription(InstallationError::gitNotFound, wording));
+    for (const SystemTool& item : systemToolCatalogue(services.platform)) {
+        printField(item.name, item.description + QLatin1Char('\n') +
+                                  item.uninstallNote.value_or(item.uninstallCommand.value_or(QString())));
+    }
+}
+
+QCoro::Task<void> probe(Services& services)
+{
+    printHeader(services);
     std::fflush(stdout);
-    co_await printAiTools();
+    co_await printAiTools(services);
     std::fflush(stdout);
-    co_await printSupportingItems();
+    co_await printSupportingItems(services);
     std::fflush(stdout);
-    co_await printRequirements();
-    printProfileAndTerminal();
+    co_await printRequirements(services);
+    printProfileAndTerminal(services);
+    printSystemTexts(services);
     std::fflush(stdout);
 }
 
@@ -287,7 +308,9 @@ int main(int argc, char* argv[])
     QCoreApplication app(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("quillforge-probe"));
 
+    const std::unique_ptr<Platform> platform = createNativePlatform();
+    Services services(*platform);
     // A command-line tool with nothing else to do meanwhile: waiting here is fine.
-    QCoro::waitFor(probe());
+    QCoro::waitFor(probe(services));
     return 0;
 }

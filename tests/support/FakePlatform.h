@@ -1,21 +1,29 @@
 #pragma once
 
-#include "Platform.h"
+#include "PlatformBackends.h"
 
 #include <QList>
 #include <QPair>
 
+#include <optional>
+
 namespace qf::test {
 
-// A platform that records what the app asked of it and changes nothing on the machine.
+// A platform that records what the app asked of it and changes nothing on the machine. It
+// speaks and looks like a Mac unless a test says otherwise.
 class FakePlatform : public Platform {
 public:
-    FakePlatform() { Platform::setCurrent(this); }
-    ~FakePlatform() override { Platform::setCurrent(nullptr); }
-
     QString name() const override { return QStringLiteral("Fake"); }
+    const SystemWording& wording() const override { return words; }
+    ApplicationLook applicationLook() const override { return look; }
     void configureMainWindow(QWidget*) override { ++windowsConfigured; }
     OperatingSystemCheck checkOperatingSystem() const override { return osCheck; }
+    DiskSpace availableDiskSpace(const QString& path) const override
+    {
+        return diskSpace ? *diskSpace : Platform::availableDiskSpace(path);
+    }
+    QStringList programDirectories() const override { return directories; }
+    QStringList globalNpmPrograms() const override { return npmPrograms; }
     void openTerminal(const QString& command, const QString& directory) override
     {
         terminals.append({command, directory});
@@ -26,16 +34,13 @@ public:
     void startDeveloperToolsInstaller() override { ++installersStarted; }
     QString officialNodeInstallCommand() const override { return nodeInstallCommand; }
 
+    SystemWording words = MacPlatform::standardWording();
+    ApplicationLook look;
     OperatingSystemCheck osCheck{true, QStringLiteral("macOS 14.5.0")};
-    DeveloperToolsItem developerTools{QStringLiteral("xcode"),
-                                      QStringLiteral("Xcode CLI Tools"),
-                                      QStringLiteral("hammer"),
-                                      QStringLiteral("Provides Git and build tools"),
-                                      QStringLiteral("xcode-select -p"),
-                                      QStringLiteral("xcodebuild -version 2>/dev/null | head -1"),
-                                      QStringLiteral("Xcode "),
-                                      QStringLiteral("sudo rm -rf /Library/Developer/CommandLineTools"),
-                                      std::nullopt};
+    std::optional<DiskSpace> diskSpace;  // nothing: the real free space
+    QStringList directories;
+    QStringList npmPrograms;
+    DeveloperToolsItem developerTools = MacPlatform::commandLineToolsItem();
     QString nodeInstallCommand = QStringLiteral("fake-node-installer");
 
     int windowsConfigured = 0;

@@ -1,7 +1,5 @@
 #include "ShellSandbox.h"
 
-#include "ShellRunner.h"
-
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -47,17 +45,10 @@ ShellSandbox::ShellSandbox()
     setEnv("FAKE_STATE", stateDirectory().toUtf8());
     setEnv("FAKE_FIXTURES", QByteArray(QF_FIXTURES_DIR "/bin"));
     setEnv("FAKE_ROOT", root.filePath(QStringLiteral("root")).toUtf8());
-
-    ShellRunner& runner = ShellRunner::shared();
-    runner.resetConfiguration();
-    runner.setShell(QStringLiteral(QF_FIXTURES_DIR "/sandbox-shell"));
-    runner.setFixedDirectories({binDirectory()});
-    runner.setInheritedPath(root.filePath(QStringLiteral("tools")));
 }
 
 ShellSandbox::~ShellSandbox()
 {
-    ShellRunner::shared().resetConfiguration();
     for (auto it = m_savedEnvironment.crbegin(); it != m_savedEnvironment.crend(); ++it) {
         if (it->second)
             qputenv(it->first.constData(), *it->second);
@@ -72,6 +63,15 @@ QString ShellSandbox::stateDirectory() const { return m_root.filePath(QStringLit
 QString ShellSandbox::systemPath(const QString& absolute) const
 {
     return m_root.filePath(QStringLiteral("root")) + absolute;
+}
+
+ShellRunner::Configuration ShellSandbox::shellConfiguration() const
+{
+    ShellRunner::Configuration configuration;
+    configuration.shell = QStringLiteral(QF_FIXTURES_DIR "/sandbox-shell");
+    configuration.fixedDirectories = {binDirectory()};
+    configuration.inheritedPath = m_root.filePath(QStringLiteral("tools"));
+    return configuration;
 }
 
 QString ShellSandbox::path(const QString& relative) const { return home() + QLatin1Char('/') + relative; }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ShellRunner.h"
+
 #include <QByteArray>
 #include <QList>
 #include <QPair>
@@ -11,10 +13,10 @@
 namespace qf::test {
 
 // A machine of its own for one test: a temporary HOME, a folder of fake programs (from
-// tests/fixtures/bin) that is the only fixed search directory of the shell runner, and a
-// folder of the few real utilities the fakes and commands need in place of the real PATH.
-// So "Node.js is missing" holds here whatever this machine has installed. Everything is
-// restored when the sandbox goes away.
+// tests/fixtures/bin) that is the only fixed search directory of a shell runner made with
+// `shellConfiguration()`, and a folder of the few real utilities the fakes and commands need
+// in place of the real PATH. So "Node.js is missing" holds here whatever this machine has
+// installed. The environment is restored when the sandbox goes away.
 class ShellSandbox {
 public:
     ShellSandbox();
@@ -24,8 +26,11 @@ public:
     QString binDirectory() const;   // fake programs live here
     QString stateDirectory() const; // fakes keep what they "installed" here
     QString path(const QString& relative) const;  // inside home
-    // Where the sandbox keeps what commands see at a fixed system path such as /usr/local/bin.
+    // Where the sandbox keeps what a real machine has at a system path such as /usr/local/bin.
     QString systemPath(const QString& absolute) const;
+
+    // A shell runner that works in this sandbox: the test shell, the fake programs, the tools.
+    ShellRunner::Configuration shellConfiguration() const;
 
     // Puts the fake `name` (or a copy of it under `as`) into the fake program folder.
     void installFake(const QString& name, const QString& as = QString());

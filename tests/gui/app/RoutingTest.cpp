@@ -1,8 +1,10 @@
 #include "ContentView.h"
+#include "FakePlatform.h"
 #include "InstallationState.h"
 #include "MainWindow.h"
 #include "OnboardingView.h"
 #include "Preferences.h"
+#include "Services.h"
 #include "TestSupport.h"
 
 #include <QGuiApplication>
@@ -16,6 +18,9 @@ namespace {
 class RoutingTest : public ::testing::Test {
 protected:
     void SetUp() override { test::clearPreferences(); }
+
+    test::FakePlatform platform;
+    Services services{platform};
 };
 
 // Screens named after their step, counting how many were built.
@@ -96,12 +101,12 @@ TEST_F(RoutingTest, FirstScreenFollowsThePreference)
 {
     {
         InstallationState state;
-        MainWindow window(state);
+        MainWindow window(state, services);
         EXPECT_NE(qobject_cast<OnboardingView*>(window.contentView()->currentScreen()), nullptr);
     }
     Preferences::setHasCompletedOnboarding(true);
     InstallationState state;
-    MainWindow window(state);
+    MainWindow window(state, services);
     EXPECT_EQ(window.contentView()->shownStep(), InstallationStep::home);
     EXPECT_EQ(window.contentView()->currentScreen()->objectName(), QStringLiteral("placeholder.home"));
 }
@@ -109,7 +114,7 @@ TEST_F(RoutingTest, FirstScreenFollowsThePreference)
 TEST_F(RoutingTest, WindowFillsTheUsableScreenAndKeepsItsMinimum)
 {
     InstallationState state;
-    MainWindow window(state);
+    MainWindow window(state, services);
     EXPECT_EQ(window.minimumSize(), QSize(550, 450));
     window.resize(300, 200);
     EXPECT_GE(window.width(), 550);
@@ -120,4 +125,5 @@ TEST_F(RoutingTest, WindowFillsTheUsableScreenAndKeepsItsMinimum)
     ASSERT_TRUE(window.isConfigured());
     const QRect available = QGuiApplication::primaryScreen()->availableGeometry();
     EXPECT_EQ(window.frameGeometry(), available);
+    EXPECT_EQ(platform.windowsConfigured, 1);  // the platform shapes it once
 }

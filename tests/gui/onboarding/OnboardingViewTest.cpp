@@ -1,8 +1,10 @@
+#include "FakePlatform.h"
 #include "FeatureItem.h"
 #include "InstallationState.h"
 #include "MainWindow.h"
 #include "OnboardingView.h"
 #include "Preferences.h"
+#include "Services.h"
 #include "TestSupport.h"
 
 #include "Button.h"
@@ -154,7 +156,9 @@ TEST_F(OnboardingTest, GetStartedMidAnimationStoresThePreferenceAndGoesHome)
     test::AnimationsOn animations;
     InstallationState state;
     ASSERT_EQ(state.currentStep(), InstallationStep::onboarding);
-    MainWindow window(state);
+    test::FakePlatform platform;
+    Services services(platform);
+    MainWindow window(state, services);
     window.resize(900, 700);
     window.show();
     auto* view = qobject_cast<OnboardingView*>(window.contentView()->currentScreen());

@@ -1,64 +1,77 @@
 #include "CoroTest.h"
-#include "FakePlatform.h"
-#include "ShellSandbox.h"
 #include "SystemTool.h"
-#include "TerminalLauncher.h"
+#include "TestMachine.h"
 
 #include <QDir>
 #include <QFileInfo>
+#include <QSet>
 
 using namespace qf;
 using qf::test::await;
 
 namespace {
 
-class SystemToolTest : public ::testing::Test {
+class SystemToolTest : public ::testing::Test, protected test::TestMachine {
 protected:
-    QList<SystemTool> detect() { return *await(detectSystemTools(systemToolCatalogue())); }
-    const SystemTool& item(const QList<SystemTool>& tools, const char* id)
+    QList<SystemTool> catalogue() const { return systemToolCatalogue(platform); }
+    QList<SystemTool> detect()
+    {
+        return *await(detectSystemTools(catalogue(), services.runner, platform.developerToolsItem()));
+    }
+    static const SystemTool& item(const QList<SystemTool>& tools, SystemToolID id)
     {
         for (const SystemTool& tool : tools)
-            if (tool.id == QLatin1String(id))
+            if (tool.id == id)
                 return tool;
-        ADD_FAILURE() << "no item " << id;
+        ADD_FAILURE() << "no item " << int(id);
         return tools.first();
     }
+    void act(const SystemTool& tool) { handleSystemToolAction(tool, platform, [this] { ++reloads; }); }
 
-    test::ShellSandbox sandbox;
-    test::FakePlatform platform;
+    int reloads = 0;
 };
 
 } // namespace
 
 TEST_F(SystemToolTest, TheCatalogue)
 {
-    const QList<SystemTool> tools = systemToolCatalogue();
+    const QList<SystemTool> tools = catalogue();
     ASSERT_EQ(tools.size(), 4);
-    EXPECT_EQ(tools[0], (SystemTool{"xcode", "Xcode CLI Tools", "hammer", "Provides Git and build tools", false,
-                                    std::nullopt, QStringLiteral("sudo rm -rf /Library/Developer/CommandLineTools"),
-                                    std::nullopt, 1, false}));
-    EXPECT_EQ(tools[1], (SystemTool{"developer", "Developer Folder", "folder.badge.plus", "Where your projects live",
-                                    false, std::nullopt, std::nullopt,
-                                    QStringLiteral("Open Finder to manage this folder"), 2, false}));
-    EXPECT_EQ(tools[2], (SystemTool{"homebrew", "Homebrew", "mug", "Only needed for Gemini or Codex", false,
-                                    std::nullopt,
-                                    QStringLiteral("/bin/bash -c \"$(curl -fsSL "
-                                                   "https://raw.githubusercontent.com/Homebrew/install/HEAD/"
-                                                   "uninstall.sh)\""),
-                                    std::nullopt, 3, true}));
-    EXPECT_EQ(tools[3], (SystemTool{"node", "Node.js", "server.rack", "Only needed for Gemini or Codex", false,
-                                    std::nullopt, QStringLiteral("brew uninstall node"), std::nullopt, 4, true}));
+    const QList<SystemToolID> order = {SystemToolID::developerTools, SystemToolID::developerFolder,
+                                       SystemToolID::homebrew, SystemToolID::node};
+    QSet<QString> keys;
+    for (int i = 0; i < tools.size(); ++i) {
+        const SystemTool& tool = tools[i];
+        EXPECT_EQ(tool.id, order[i]);
+        EXPECT_EQ(tool.stepNumber, i + 1);
+        // Only the two items the setup installs itself are optional.
+        EXPECT_EQ(tool.isOptional, tool.id == SystemToolID::homebrew || tool.id == SystemToolID::node);
+        // Every item says how it goes away: a command, or a note why it does not.
+        EXPECT_NE(tool.uninstallCommand.has_value(), tool.uninstallNote.has_value()) << tool.key.toStdString();
+        EXPECT_FALSE(tool.name.isEmpty());
+        EXPECT_FALSE(tool.version.has_value());
+        keys.insert(tool.key);
+    }
+    EXPECT_EQ(keys.size(), 4);
+
+    // The developer-tools item and the folder's note are the platform's.
+    const DeveloperToolsItem developerTools = platform.developerToolsItem();
+    EXPECT_EQ(tools[0].key, developerTools.key);
+    EXPECT_EQ(tools[0].name, developerTools.name);
+    EXPECT_EQ(tools[0].uninstallCommand, developerTools.uninstallCommand);
+    EXPECT_EQ(tools[1].uninstallNote, platform.wording().developerFolderNote);
 
     // The projects folder is known when the catalogue is built; any entry at the path counts.
+    EXPECT_FALSE(tools[1].isInstalled);
     sandbox.writeFile(QStringLiteral("Developer"), "a file");
-    EXPECT_TRUE(systemToolCatalogue()[1].isInstalled);
+    EXPECT_TRUE(catalogue()[1].isInstalled);
 }
 
 TEST_F(SystemToolTest, NothingInstalled)
 {
     for (const SystemTool& tool : detect()) {
-        EXPECT_FALSE(tool.isInstalled) << tool.id.toStdString();
-        EXPECT_FALSE(tool.version.has_value()) << tool.id.toStdString();
+        EXPECT_FALSE(tool.isInstalled) << tool.key.toStdString();
+        EXPECT_FALSE(tool.version.has_value()) << tool.key.toStdString();
     }
 }
 
@@ -72,67 +85,72 @@ TEST_F(SystemToolTest, VersionsAsTheyAreShown)
 
     // Only the Command Line Tools: the version pipeline prints nothing, an empty version.
     QList<SystemTool> tools = detect();
-    EXPECT_TRUE(item(tools, "xcode").isInstalled);
-    EXPECT_EQ(item(tools, "xcode").version, QString());
-    EXPECT_TRUE(item(tools, "developer").isInstalled);
-    EXPECT_FALSE(item(tools, "developer").version.has_value());
-    EXPECT_EQ(item(tools, "homebrew").version, QStringLiteral("4.2.0"));  // first line only
-    EXPECT_EQ(item(tools, "node").version, QStringLiteral("v20.10.0"));  // with its v
+    EXPECT_TRUE(item(tools, SystemToolID::developerTools).isInstalled);
+    EXPECT_EQ(item(tools, SystemToolID::developerTools).version, QString());
+    EXPECT_TRUE(item(tools, SystemToolID::developerFolder).isInstalled);
+    EXPECT_FALSE(item(tools, SystemToolID::developerFolder).version.has_value());
+    EXPECT_EQ(item(tools, SystemToolID::homebrew).version, QStringLiteral("4.2.0"));  // first line only
+    EXPECT_EQ(item(tools, SystemToolID::node).version, QStringLiteral("v20.10.0"));   // with its v
 
     sandbox.setEnv("FAKE_FULL_XCODE", "1");
-    EXPECT_EQ(item(detect(), "xcode").version, QStringLiteral("15.2"));
+    EXPECT_EQ(item(detect(), SystemToolID::developerTools).version, QStringLiteral("15.2"));
 
     // On Linux the item is git: its presence line gives the version too.
-    platform.developerTools = {QStringLiteral("xcode"), QStringLiteral("Git & Build Tools"), QStringLiteral("hammer"),
-                               QStringLiteral("Provides Git and build tools"), QStringLiteral("git --version"),
-                               QString(), QStringLiteral("git version "), std::nullopt,
-                               QStringLiteral("Use your system's package manager to remove Git")};
-    EXPECT_FALSE(item(detect(), "xcode").isInstalled);
+    platform.developerTools = LinuxPlatform::gitToolsItem();
+    EXPECT_FALSE(item(detect(), SystemToolID::developerTools).isInstalled);
     sandbox.installFake(QStringLiteral("git"));
-    EXPECT_EQ(item(detect(), "xcode").version, QStringLiteral("2.39.5"));
+    EXPECT_EQ(item(detect(), SystemToolID::developerTools).version, QStringLiteral("2.39.5"));
 }
 
 TEST_F(SystemToolTest, ButtonActions)
 {
-    int reloads = 0;
-    const auto reload = [&] { ++reloads; };
-    QList<SystemTool> tools = systemToolCatalogue();
+    const QList<SystemTool> tools = catalogue();
 
     // A missing projects folder is created, with any missing parents, shown, and reloaded.
     sandbox.setEnv("HOME", sandbox.path(QStringLiteral("not/yet/here")).toUtf8());
-    tools = systemToolCatalogue();
-    handleSystemToolAction(tools[1], reload);
+    act(catalogue()[1]);
     const QString folder = sandbox.path(QStringLiteral("not/yet/here/Developer"));
     EXPECT_TRUE(QFileInfo(folder).isDir());
     EXPECT_EQ(platform.revealed, QStringList{folder});
     EXPECT_EQ(reloads, 1);
-    EXPECT_TRUE(systemToolCatalogue()[1].isInstalled);
+    EXPECT_TRUE(catalogue()[1].isInstalled);
 
     // An existing one is only shown.
-    handleSystemToolAction(systemToolCatalogue()[1], reload);
+    act(catalogue()[1]);
     EXPECT_EQ(platform.revealed.size(), 2);
     EXPECT_EQ(reloads, 1);
 
     // Missing developer tools start their installer; installed ones do nothing.
-    handleSystemToolAction(tools[0], reload);
+    act(tools[0]);
     EXPECT_EQ(platform.installersStarted, 1);
     SystemTool installed = tools[0];
     installed.isInstalled = true;
-    handleSystemToolAction(installed, reload);
+    act(installed);
     EXPECT_EQ(platform.installersStarted, 1);
 
     // Homebrew and Node.js come with the setup, not from here.
-    handleSystemToolAction(tools[2], reload);
-    handleSystemToolAction(tools[3], reload);
+    act(tools[2]);
+    act(tools[3]);
     EXPECT_EQ(platform.installersStarted, 1);
     EXPECT_EQ(platform.revealed.size(), 2);
     EXPECT_EQ(reloads, 1);
 }
 
+TEST_F(SystemToolTest, AFolderThatCannotBeMadeIsStillShownAndReloaded)
+{
+    // HOME is an ordinary file: nothing can be created under it.
+    sandbox.writeFile(QStringLiteral("plain-file"), "");
+    sandbox.setEnv("HOME", sandbox.path(QStringLiteral("plain-file")).toUtf8());
+    act(catalogue()[1]);
+    EXPECT_EQ(platform.revealed, QStringList{sandbox.path(QStringLiteral("plain-file/Developer"))});
+    EXPECT_EQ(reloads, 1);
+    EXPECT_FALSE(catalogue()[1].isInstalled);
+}
+
 TEST_F(SystemToolTest, TerminalLaunchesGoToThePlatformEveryTime)
 {
-    TerminalLauncher::shared().openInTerminal(QStringLiteral("codex"), QStringLiteral("~/Developer"));
-    TerminalLauncher::shared().openInTerminal(QStringLiteral("codex"), QStringLiteral("~/Developer"));
+    services.terminal.openInTerminal(QStringLiteral("codex"), QStringLiteral("~/Developer"));
+    services.terminal.openInTerminal(QStringLiteral("codex"), QStringLiteral("~/Developer"));
     ASSERT_EQ(platform.terminals.size(), 2);
     EXPECT_EQ(platform.terminals[0], qMakePair(QStringLiteral("codex"), QStringLiteral("~/Developer")));
 }

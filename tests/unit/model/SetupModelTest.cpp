@@ -19,40 +19,29 @@ TEST(InstallationStep, RawValuesFollowFlowOrder)
     EXPECT_FALSE(installationStepFromRawValue(-1).has_value());
 }
 
-TEST(SystemRequirement, TextsAndIdentity)
+TEST(SystemRequirement, IdentityAndWording)
 {
     const auto& all = SystemRequirement::allCases();
     ASSERT_EQ(all.size(), 3u);
-    EXPECT_EQ(all[0], SystemRequirement::macOSVersion);
-    EXPECT_EQ(all[1], SystemRequirement::nodeJS);
-    EXPECT_EQ(all[2], SystemRequirement::diskSpace);
-
-    const SystemRequirement mac = SystemRequirement::macOSVersion;
-    EXPECT_EQ(mac.id(), QStringLiteral("macOSVersion"));
-    EXPECT_EQ(mac.title(), QStringLiteral("macOS 14 or later"));
-    EXPECT_EQ(mac.helpText(), QStringLiteral("Your Mac needs to be running macOS 14 (Sonoma) or later. Works on "
-                                             "both Intel and Apple Silicon."));
-    EXPECT_EQ(mac.fixSuggestion(),
-              QString::fromUtf8("Update your Mac: Apple Menu \xE2\x86\x92 System Settings \xE2\x86\x92 General "
-                                "\xE2\x86\x92 Software Update"));
-    EXPECT_EQ(mac.fixSuggestion().toUtf8().size(), 79);
-
-    const SystemRequirement node = SystemRequirement::nodeJS;
-    EXPECT_EQ(node.id(), QStringLiteral("nodeJS"));
-    EXPECT_EQ(node.title(), QStringLiteral("Node.js"));
-    EXPECT_EQ(node.helpText(), QStringLiteral("Node.js is a JavaScript runtime that some AI tools use to run. It's a "
-                                              "standard development tool used by millions of developers."));
-    EXPECT_EQ(node.fixSuggestion(), QStringLiteral("Install manually: brew install node (or download from nodejs.org)"));
-
-    const SystemRequirement disk = SystemRequirement::diskSpace;
-    EXPECT_EQ(disk.id(), QStringLiteral("diskSpace"));
-    EXPECT_EQ(disk.title(), QStringLiteral("200MB disk space"));
-    EXPECT_EQ(disk.helpText(), QStringLiteral("The AI assistant and its dependencies need about 200MB of free space "
-                                              "on your Mac. This is a one-time installation."));
-    EXPECT_EQ(disk.fixSuggestion(), QStringLiteral("Free up space by emptying Trash or removing unused apps"));
-
+    const QStringList ids = {QStringLiteral("macOSVersion"), QStringLiteral("nodeJS"), QStringLiteral("diskSpace")};
+    for (size_t i = 0; i < all.size(); ++i)
+        EXPECT_EQ(all[i].id(), ids[int(i)]);
     const RequirementStatus status{SystemRequirement::diskSpace, true, QStringLiteral("512 MB available")};
     EXPECT_EQ(status.id(), QStringLiteral("diskSpace"));
+
+    // The texts that name the system are the system's own; the others are the same everywhere.
+    const SystemWording wording{.osRequirementTitle = QStringLiteral("t"), .osRequirementHelp = QStringLiteral("h"),
+                                .osRequirementFix = QStringLiteral("f"), .diskSpaceHelp = QStringLiteral("d"),
+                                .nodeFixSuggestion = QStringLiteral("n")};
+    const SystemRequirement os = SystemRequirement::macOSVersion;
+    EXPECT_EQ(os.title(wording) + os.helpText(wording) + os.fixSuggestion(wording), QStringLiteral("thf"));
+    EXPECT_EQ(SystemRequirement(SystemRequirement::diskSpace).helpText(wording), QStringLiteral("d"));
+    EXPECT_EQ(SystemRequirement(SystemRequirement::nodeJS).fixSuggestion(wording), QStringLiteral("n"));
+    for (SystemRequirement requirement : all) {
+        EXPECT_FALSE(requirement.title(wording).isEmpty());
+        EXPECT_FALSE(requirement.helpText(wording).isEmpty());
+        EXPECT_FALSE(requirement.fixSuggestion(wording).isEmpty());
+    }
 }
 
 TEST(SetupStepType, RawValuesTitlesAndConstruction)

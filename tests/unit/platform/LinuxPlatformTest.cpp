@@ -1,5 +1,6 @@
 #include "PlatformBackends.h"
 #include "PlatformTestTools.h"
+#include "ShellQuote.h"
 
 #include <QDir>
 #include <QFile>
@@ -31,16 +32,16 @@ QStringList inner(const QString& shell, const QString& line)
 TEST(LinuxPlatformShellQuote, LeavesPlainWordsAlone)
 {
     for (const char* word : {"claude", "/usr/bin/zsh", "a-b_c.d+e=f:g,h@i%j", "Developer", "20.10.0"})
-        EXPECT_EQ(LinuxPlatform::shellQuote(q(word)), q(word));
+        EXPECT_EQ(qf::shellQuote(q(word)), q(word));
 }
 
 TEST(LinuxPlatformShellQuote, QuotesEverythingElse)
 {
-    EXPECT_EQ(LinuxPlatform::shellQuote(QString()), QStringLiteral("''"));
-    EXPECT_EQ(LinuxPlatform::shellQuote(QStringLiteral("My Projects")), QStringLiteral("'My Projects'"));
-    EXPECT_EQ(LinuxPlatform::shellQuote(QStringLiteral("it's")), QStringLiteral("'it'\\''s'"));
-    EXPECT_EQ(LinuxPlatform::shellQuote(QStringLiteral("~")), QStringLiteral("'~'"));
-    EXPECT_EQ(LinuxPlatform::shellQuote(QStringLiteral("=true")), QStringLiteral("'=true'"));
+    EXPECT_EQ(qf::shellQuote(QString()), QStringLiteral("''"));
+    EXPECT_EQ(qf::shellQuote(QStringLiteral("My Projects")), QStringLiteral("'My Projects'"));
+    EXPECT_EQ(qf::shellQuote(QStringLiteral("it's")), QStringLiteral("'it'\\''s'"));
+    EXPECT_EQ(qf::shellQuote(QStringLiteral("~")), QStringLiteral("'~'"));
+    EXPECT_EQ(qf::shellQuote(QStringLiteral("=true")), QStringLiteral("'=true'"));
 }
 
 // Every word, quoted, must reach a real shell's printf exactly as it was, and nothing in it
@@ -62,7 +63,7 @@ TEST(LinuxPlatformShellQuote, HostileWordsSurviveRealShells)
 
     for (const QString& shell : qf::test::availableShells()) {
         for (const QString& word : words) {
-            const QString script = QStringLiteral("printf %s ") + LinuxPlatform::shellQuote(word);
+            const QString script = QStringLiteral("printf %s ") + qf::shellQuote(word);
             const qf::test::ShellRun run = runShell(shell, script, sandbox.path(), sandbox.path());
             ASSERT_TRUE(run.finished) << shell.toStdString();
             EXPECT_EQ(run.exitCode, 0) << shell.toStdString() << ": " << script.toStdString() << "\n"
@@ -255,7 +256,7 @@ TEST_P(LinuxPlatformOpenTerminal, RunsTheLineInTheDirectoryAndEndsInTheShell)
     const QString relative = QStringLiteral("My Projects/it's \"here\"");
     ASSERT_TRUE(QDir().mkpath(home + QLatin1Char('/') + relative));
     ASSERT_TRUE(QDir().mkpath(bin));
-    const auto quoted = [](const QString& path) { return LinuxPlatform::shellQuote(path).toUtf8(); };
+    const auto quoted = [](const QString& path) { return qf::shellQuote(path).toUtf8(); };
     const QString argsFile = sandbox.filePath(QStringLiteral("emulator-args"));
     const QString cwdFile = sandbox.filePath(QStringLiteral("emulator-cwd"));
     const QString pwdFile = sandbox.filePath(QStringLiteral("command-pwd"));
@@ -283,7 +284,7 @@ TEST_P(LinuxPlatformOpenTerminal, RunsTheLineInTheDirectoryAndEndsInTheShell)
     EXPECT_EQ(platform.terminalDescription(), emulatorName + QStringLiteral(" (") + bin + QLatin1Char('/') +
                                                   emulatorName + QLatin1Char(')'));
     qf::test::StdoutCapture capture;
-    platform.openTerminal(QStringLiteral("pwd > ") + LinuxPlatform::shellQuote(pwdFile),
+    platform.openTerminal(QStringLiteral("pwd > ") + qf::shellQuote(pwdFile),
                           QStringLiteral("~/") + relative);
     const bool ended = QTest::qWaitFor([&] { return QFile::exists(shellMark); }, 20000);
     const QString printed = capture.text();
@@ -303,7 +304,7 @@ TEST_P(LinuxPlatformOpenTerminal, RunsTheLineInTheDirectoryAndEndsInTheShell)
     EXPECT_EQ(read(shellMark), QStringLiteral("-l\n"));
 
     const QStringList expected = LinuxPlatform::terminalCommandLine(
-        bin + QLatin1Char('/') + emulatorName, QStringLiteral("pwd > ") + LinuxPlatform::shellQuote(pwdFile),
+        bin + QLatin1Char('/') + emulatorName, QStringLiteral("pwd > ") + qf::shellQuote(pwdFile),
         QStringLiteral("~/") + relative, home, shell);
     EXPECT_EQ(read(argsFile), expected.mid(1).join(QLatin1Char('\n')) + QLatin1Char('\n'));
 }
@@ -510,7 +511,7 @@ TEST(LinuxPlatformNode, TarballUnpacksUnderLocal)
     const QString tarball = sandbox.filePath(QStringLiteral("node.tar.gz"));
     const qf::test::ShellRun pack = runShell(
         QStringLiteral("/bin/sh"),
-        QStringLiteral("tar -czf ") + LinuxPlatform::shellQuote(tarball) + QStringLiteral(" -C staging ") + release,
+        QStringLiteral("tar -czf ") + qf::shellQuote(tarball) + QStringLiteral(" -C staging ") + release,
         sandbox.path(), sandbox.path());
     ASSERT_TRUE(pack.finished);
     ASSERT_EQ(pack.exitCode, 0) << pack.err.toStdString();
@@ -520,7 +521,7 @@ TEST(LinuxPlatformNode, TarballUnpacksUnderLocal)
     const QString download = QStringLiteral("curl -fsSL https://nodejs.org/dist/v20.10.0/") + release +
                              QStringLiteral(".tar.gz");
     ASSERT_TRUE(line.contains(download));
-    line.replace(download, QStringLiteral("cat ") + LinuxPlatform::shellQuote(tarball));
+    line.replace(download, QStringLiteral("cat ") + qf::shellQuote(tarball));
 
     const QString home = sandbox.filePath(QStringLiteral("home"));
     ASSERT_TRUE(QDir().mkpath(home));

@@ -1,7 +1,6 @@
 #include "CoroTest.h"
-#include "FakePlatform.h"
 #include "ProfileWriter.h"
-#include "ShellSandbox.h"
+#include "TestMachine.h"
 #include "ToolInstaller.h"
 
 #include <QDir>
@@ -17,11 +16,11 @@ using qf::test::await;
 
 namespace {
 
-class ApiKeyTest : public ::testing::Test {
+class ApiKeyTest : public ::testing::Test, protected test::TestMachine {
 protected:
     Result<void> save(const QString& key, CLITool tool)
     {
-        auto result = await(ToolInstaller::shared().saveAPIKey(key, tool));
+        auto result = await(services.installer.saveAPIKey(key, tool));
         if (!result)
             return ServiceError::message(QStringLiteral("did not finish"));
         return *result;
@@ -42,8 +41,6 @@ protected:
         return process.readAllStandardOutput();
     }
 
-    test::ShellSandbox sandbox;
-    test::FakePlatform platform;
 };
 
 } // namespace

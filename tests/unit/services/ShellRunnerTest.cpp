@@ -1,6 +1,7 @@
 #include "CoroTest.h"
 #include "ShellRunner.h"
 #include "ShellSandbox.h"
+#include "TestMachine.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -16,14 +17,6 @@ using qf::test::await;
 
 namespace {
 
-Result<QString> run(const QString& command, double timeout = ShellRunner::defaultTimeoutSeconds)
-{
-    auto result = await(ShellRunner::shared().run(command, timeout));
-    if (!result)
-        return ServiceError::message(QStringLiteral("did not finish"));
-    return *result;
-}
-
 struct Streamed {
     QStringList chunks;
     bool allOnGuiThread = true;
@@ -31,18 +24,43 @@ struct Streamed {
     QString text() const { return chunks.join(QString()); }
 };
 
-Streamed stream(const QString& command)
-{
-    Streamed streamed;
-    auto result = await(ShellRunner::shared().runWithStreaming(command, [&](const QString& text) {
-        streamed.chunks << text;
-        streamed.allOnGuiThread = streamed.allOnGuiThread && QThread::currentThread() == qApp->thread();
-    }));
-    streamed.result = result;
-    return streamed;
-}
-
 QString message(const Result<QString>& result) { return result.ok() ? QString() : result.error().errorDescription(); }
+
+class ShellRunnerTest : public ::testing::Test, protected test::TestMachine {
+protected:
+    Result<QString> run(const QString& command, double timeout = ShellRunner::defaultTimeoutSeconds)
+    {
+        return run(services.runner, command, timeout);
+    }
+    static Result<QString> run(ShellRunner& runner, const QString& command,
+                               double timeout = ShellRunner::defaultTimeoutSeconds)
+    {
+        auto result = await(runner.run(command, timeout));
+        if (!result)
+            return ServiceError::message(QStringLiteral("did not finish"));
+        return *result;
+    }
+
+    Streamed stream(const QString& command)
+    {
+        Streamed streamed;
+        auto result = await(services.runner.runWithStreaming(command, [&](const QString& text) {
+            streamed.chunks << text;
+            streamed.allOnGuiThread = streamed.allOnGuiThread && QThread::currentThread() == qApp->thread();
+        }));
+        streamed.result = result;
+        return streamed;
+    }
+
+    // A runner like the test's own, changed as `change` says.
+    template <typename Change>
+    ShellRunner::Configuration configurationWith(Change change) const
+    {
+        ShellRunner::Configuration configuration = sandbox.shellConfiguration();
+        change(configuration);
+        return configuration;
+    }
+};
 
 } // namespace
 
@@ -50,7 +68,9 @@ TEST(ShellRunnerPath, OrderOfTheSearchPath)
 {
     const QString path = ShellRunner::searchPath(
         QStringLiteral("/Users/ada"), {QStringLiteral("v18.17.0"), QStringLiteral("v9.11.2"), QStringLiteral("v20.10.0")},
-        ShellRunner::standardFixedDirectories(), QStringLiteral("/usr/bin:/bin:/usr/sbin"));
+        {QStringLiteral("/usr/local/bin"), QStringLiteral("/opt/homebrew/bin"), QStringLiteral("/usr/bin"),
+         QStringLiteral("/bin")},
+        QStringLiteral("/usr/bin:/bin:/usr/sbin"));
     EXPECT_EQ(path, QStringLiteral("/Users/ada/.nvm/versions/node/v9.11.2/bin:"
                                    "/Users/ada/.nvm/versions/node/v20.10.0/bin:"
                                    "/Users/ada/.nvm/versions/node/v18.17.0/bin:"
@@ -61,9 +81,8 @@ TEST(ShellRunnerPath, OrderOfTheSearchPath)
               QStringLiteral("/home/b/.local/bin:/x"));
 }
 
-TEST(ShellRunnerPath, ChildSeesNvmVersionsFirstAndTheAppPathOnceAtTheEnd)
+TEST_F(ShellRunnerTest, ChildSeesNvmVersionsFirstAndTheAppPathOnceAtTheEnd)
 {
-    test::ShellSandbox sandbox;
     for (const char* version : {"v18.17.0", "v20.10.0", ".hidden"})
         QDir().mkpath(sandbox.path(QStringLiteral(".nvm/versions/node/") + QLatin1String(version)));
     const Result<QString> path = run(QStringLiteral("printf %s \"$PATH\""));
@@ -85,9 +104,8 @@ TEST(ShellRunnerPath, ChildSeesNvmVersionsFirstAndTheAppPathOnceAtTheEnd)
     EXPECT_TRUE(plain.value().startsWith(sandbox.home() + QStringLiteral("/.local/bin:")));
 }
 
-TEST(ShellRunnerRun, ResultTexts)
+TEST_F(ShellRunnerTest, ResultTexts)
 {
-    test::ShellSandbox sandbox;
     EXPECT_EQ(run(QStringLiteral("echo hello")).value(), QStringLiteral("hello"));
     EXPECT_EQ(run(QStringLiteral("printf '  spaced out \\n\\n'")).value(), QStringLiteral("spaced out"));
     EXPECT_EQ(run(QStringLiteral("echo only-errors >&2")).value(), QString());
@@ -110,11 +128,10 @@ TEST(ShellRunnerRun, ResultTexts)
     EXPECT_EQ(run(QStringLiteral("printf 'ab\\377'")).value(), QString());
 }
 
-TEST(ShellRunnerRun, ALaunchFailureIsAProcessError)
+TEST_F(ShellRunnerTest, ALaunchFailureIsAProcessError)
 {
-    test::ShellSandbox sandbox;
-    ShellRunner::shared().setShell(QStringLiteral("/nonexistent/zsh"));
-    const Result<QString> result = run(QStringLiteral("true"));
+    ShellRunner broken(configurationWith([](auto& c) { c.shell = QStringLiteral("/nonexistent/zsh"); }));
+    const Result<QString> result = run(broken, QStringLiteral("true"));
     ASSERT_FALSE(result.ok());
     ASSERT_NE(result.error().shellError(), nullptr);
     EXPECT_EQ(result.error().shellError()->kind(), ShellError::processError);
@@ -122,7 +139,7 @@ TEST(ShellRunnerRun, ALaunchFailureIsAProcessError)
     EXPECT_GT(result.error().errorDescription().size(), QStringLiteral("Process error: ").size());
 
     bool called = false;
-    auto streamed = await(ShellRunner::shared().runWithStreaming(QStringLiteral("echo x"), [&](const QString&) {
+    auto streamed = await(broken.runWithStreaming(QStringLiteral("echo x"), [&](const QString&) {
         called = true;
     }));
     ASSERT_TRUE(streamed.has_value());
@@ -130,9 +147,8 @@ TEST(ShellRunnerRun, ALaunchFailureIsAProcessError)
     EXPECT_FALSE(called);
 }
 
-TEST(ShellRunnerReliability, LargeOutputOnBothPipesDoesNotStall)
+TEST_F(ShellRunnerTest, LargeOutputOnBothPipesDoesNotStall)
 {
-    test::ShellSandbox sandbox;
     // 10 MB on standard error while 10 MB go to standard output.
     const Result<QString> result =
         run(QStringLiteral("(head -c 10485760 /dev/zero | tr '\\0' e >&2) & head -c 10485760 /dev/zero | tr '\\0' o; wait"));
@@ -148,9 +164,8 @@ TEST(ShellRunnerReliability, LargeOutputOnBothPipesDoesNotStall)
     EXPECT_TRUE(failing.error().shellError()->output().startsWith(QStringLiteral("done\n\neee")));
 }
 
-TEST(ShellRunnerReliability, CommandsCannotWaitForAnswers)
+TEST_F(ShellRunnerTest, CommandsCannotWaitForAnswers)
 {
-    test::ShellSandbox sandbox;
     // Standard input is the null device: a question gets no answer instead of waiting.
     EXPECT_EQ(run(QStringLiteral("cat")).value(), QString());
     EXPECT_FALSE(run(QStringLiteral("read answer")).ok());
@@ -170,9 +185,8 @@ TEST(ShellRunnerReliability, CommandsCannotWaitForAnswers)
     EXPECT_NE(fields[3].toLongLong(), static_cast<long long>(getsid(0)));
 }
 
-TEST(ShellRunnerReliability, BackgroundChildrenHoldingThePipeDoNotDelayTheResult)
+TEST_F(ShellRunnerTest, BackgroundChildrenHoldingThePipeDoNotDelayTheResult)
 {
-    test::ShellSandbox sandbox;
     QElapsedTimer clock;
     clock.start();
     const Result<QString> result = run(QStringLiteral("echo a; sleep 20 & echo b"));
@@ -181,13 +195,12 @@ TEST(ShellRunnerReliability, BackgroundChildrenHoldingThePipeDoNotDelayTheResult
     EXPECT_LT(clock.elapsed(), 15000) << "the result waited for the background child";
 }
 
-TEST(ShellRunnerReliability, OverlongCommandsAreStoppedWithTheirWholeGroup)
+TEST_F(ShellRunnerTest, OverlongCommandsAreStoppedWithTheirWholeGroup)
 {
-    test::ShellSandbox sandbox;
-    ShellRunner::shared().setTerminationGraceMs(200);
+    ShellRunner impatient(configurationWith([](auto& c) { c.terminationGraceMs = 200; }));
     const QString pidFile = sandbox.path(QStringLiteral("child.pid"));
     const Result<QString> result =
-        run(QStringLiteral("sleep 30 & echo $! > '%1'; trap '' TERM; wait; sleep 30").arg(pidFile), 0.5);
+        run(impatient, QStringLiteral("sleep 30 & echo $! > '%1'; trap '' TERM; wait; sleep 30").arg(pidFile), 0.5);
     ASSERT_FALSE(result.ok());
     ASSERT_NE(result.error().shellError(), nullptr);
     EXPECT_EQ(result.error().shellError()->kind(), ShellError::timedOut);
@@ -205,9 +218,8 @@ TEST(ShellRunnerReliability, OverlongCommandsAreStoppedWithTheirWholeGroup)
     EXPECT_TRUE(gone);
 }
 
-TEST(ShellRunnerStreaming, DeliversOutputWhileRunningOnTheGuiThread)
+TEST_F(ShellRunnerTest, DeliversOutputWhileRunningOnTheGuiThread)
 {
-    test::ShellSandbox sandbox;
     const Streamed streamed = stream(QStringLiteral("echo one; sleep 0.2; echo two >&2; sleep 0.2; echo three"));
     ASSERT_TRUE(streamed.result.has_value());
     EXPECT_TRUE(streamed.result->ok());
@@ -216,9 +228,8 @@ TEST(ShellRunnerStreaming, DeliversOutputWhileRunningOnTheGuiThread)
     EXPECT_TRUE(streamed.allOnGuiThread);
 }
 
-TEST(ShellRunnerStreaming, AFailureComesAfterAllOfItsOutput)
+TEST_F(ShellRunnerTest, AFailureComesAfterAllOfItsOutput)
 {
-    test::ShellSandbox sandbox;
     const Streamed streamed = stream(QStringLiteral("echo partial; exit 2"));
     ASSERT_TRUE(streamed.result.has_value());
     ASSERT_FALSE(streamed.result->ok());
@@ -227,9 +238,8 @@ TEST(ShellRunnerStreaming, AFailureComesAfterAllOfItsOutput)
     EXPECT_EQ(streamed.text(), QStringLiteral("partial\n"));
 }
 
-TEST(ShellRunnerStreaming, NeverLosesText)
+TEST_F(ShellRunnerTest, NeverLosesText)
 {
-    test::ShellSandbox sandbox;
     // A character split over two writes arrives whole; bytes that are not UTF-8 show as U+FFFD.
     const Streamed split = stream(QStringLiteral("printf 'caf\\303'; sleep 0.3; printf '\\251 \\342\\206'; sleep 0.3; "
                                                  "printf '\\222 ok\\n'; printf 'bad \\377 byte\\n'"));
@@ -238,15 +248,22 @@ TEST(ShellRunnerStreaming, NeverLosesText)
     EXPECT_GE(split.chunks.size(), 2);
 }
 
-TEST(ShellRunnerStreaming, StopsDeliveringWhenItsContextIsGone)
+TEST_F(ShellRunnerTest, StopsDeliveringWhenItsContextIsGone)
 {
-    test::ShellSandbox sandbox;
+    // The context goes away while the first chunk is handled; the command writes its second
+    // line only after that, runs to its end, and nothing more is delivered.
+    const QString go = sandbox.path(QStringLiteral("go"));
     auto* context = new QObject;
-    int calls = 0;
-    QTimer::singleShot(300, context, [context] { delete context; });
-    auto result = await(ShellRunner::shared().runWithStreaming(
-        QStringLiteral("echo early; sleep 0.8; echo late"), [&](const QString&) { ++calls; }, context));
+    QStringList received;
+    auto result = await(services.runner.runWithStreaming(
+        QStringLiteral("echo early; while [ ! -e '%1' ]; do sleep 0.02; done; echo late").arg(go),
+        [&](const QString& text) {
+            received << text;
+            delete context;
+            sandbox.writeFile(QStringLiteral("go"), "");
+        },
+        context));
     ASSERT_TRUE(result.has_value());
     EXPECT_TRUE(result->ok());
-    EXPECT_EQ(calls, 1);
+    EXPECT_EQ(received, QStringList{QStringLiteral("early\n")});
 }

@@ -1,7 +1,7 @@
 #include "CoroTest.h"
-#include "FakePlatform.h"
-#include "ShellSandbox.h"
+#include "StdoutCapture.h"
 #include "SystemDetector.h"
+#include "TestMachine.h"
 
 #include <QDir>
 
@@ -10,13 +10,9 @@ using qf::test::await;
 
 namespace {
 
-class SystemDetectorTest : public ::testing::Test {
+class SystemDetectorTest : public ::testing::Test, protected test::TestMachine {
 protected:
-    void TearDown() override { SystemDetector::shared().setAvailableBytesProvider({}); }
-
-    test::ShellSandbox sandbox;
-    test::FakePlatform platform;
-    SystemDetector& detector = SystemDetector::shared();
+    SystemDetector& detector = services.detector;
 };
 
 } // namespace
@@ -78,7 +74,7 @@ TEST_F(SystemDetectorTest, RequirementListsPerTool)
     sandbox.installFake(QStringLiteral("node"));
     sandbox.setEnv("FAKE_NODE_VERSION", "v17.9.1");
     platform.osCheck = {true, QStringLiteral("macOS 14.0.0")};
-    detector.setAvailableBytesProvider([] { return std::optional<qint64>(209715199); });
+    platform.diskSpace = DiskSpace{209715199, QString()};
 
     const QList<RequirementStatus> gemini = *await(detector.checkAllRequirements(CLITool::geminiCLI));
     ASSERT_EQ(gemini.size(), 3);
@@ -102,11 +98,17 @@ TEST_F(SystemDetectorTest, RequirementListsPerTool)
     EXPECT_EQ(codex[2], (RequirementStatus{SystemRequirement::nodeJS, false, QStringLiteral("Not installed")}));
 }
 
-TEST_F(SystemDetectorTest, RealDiskSpaceIsReadFromTheHomeVolume)
+TEST_F(SystemDetectorTest, DiskSpaceOfTheHomeVolume)
 {
     const std::optional<qint64> mb = detector.availableDiskSpaceMB();
     ASSERT_TRUE(mb.has_value());
     EXPECT_GE(*mb, 0);
+
+    // A volume that cannot be read: no value, and one diagnostic line that says why.
+    platform.diskSpace = DiskSpace{std::nullopt, QStringLiteral("the volume went away")};
+    test::StdoutCapture capture;
+    EXPECT_EQ(detector.availableDiskSpaceMB(), std::nullopt);
+    EXPECT_EQ(capture.text(), QStringLiteral("Error getting disk space: the volume went away\n"));
 }
 
 TEST_F(SystemDetectorTest, ToolVersionsAsPrinted)

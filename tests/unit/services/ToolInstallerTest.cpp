@@ -1,7 +1,5 @@
 #include "CoroTest.h"
-#include "FakePlatform.h"
-#include "ShellSandbox.h"
-#include "ShellRunner.h"
+#include "TestMachine.h"
 #include "ToolInstaller.h"
 
 #include <QDir>
@@ -42,12 +40,12 @@ struct SetupRun {
     bool mentions(SetupStepType type) const { return last(type).has_value(); }
 };
 
-class ToolInstallerTest : public ::testing::Test {
+class ToolInstallerTest : public ::testing::Test, protected test::TestMachine {
 protected:
     SetupRun runSetup(CLITool tool)
     {
         SetupRun run;
-        auto result = await(ToolInstaller::shared().runSetup(
+        auto result = await(installer.runSetup(
             tool,
             [&](SetupStepType type, SetupStepStatus status, std::optional<QString> details) {
                 run.reports.append({type, status, details});
@@ -58,10 +56,9 @@ protected:
         return run;
     }
 
-    QList<SetupStep> steps(CLITool tool) { return *await(ToolInstaller::shared().setupSteps(tool)); }
+    QList<SetupStep> steps(CLITool tool) { return *await(installer.setupSteps(tool)); }
 
-    test::ShellSandbox sandbox;
-    test::FakePlatform platform;
+    ToolInstaller& installer = services.installer;
 };
 
 const SetupStepStatus kPending = SetupStepStatus::pending;
@@ -238,7 +235,7 @@ TEST_F(ToolInstallerTest, TheProjectsFolder)
     // Anything already at the path counts, an ordinary file too.
     sandbox.writeFile(QStringLiteral("Developer"), "not a folder");
     QString log;
-    EXPECT_FALSE(*await(ToolInstaller::shared().createDeveloperFolder([&](const QString& t) { log += t; })));
+    EXPECT_FALSE(*await(installer.createDeveloperFolder([&](const QString& t) { log += t; })));
     EXPECT_EQ(log, QStringLiteral("~/Developer folder already exists\n"));
 
     // A folder that cannot be made is noted and the setup goes on.
@@ -262,7 +259,7 @@ TEST_F(ToolInstallerTest, UninstallRemovesEveryNpmCopy)
     sandbox.installFakeAt(QStringLiteral("gemini"), nvm + QStringLiteral("gemini"));
 
     QString log;
-    ASSERT_TRUE(await(ToolInstaller::shared().uninstall(CLITool::geminiCLI, [&](const QString& t) { log += t; })));
+    ASSERT_TRUE(await(installer.uninstall(CLITool::geminiCLI, [&](const QString& t) { log += t; })));
     EXPECT_FALSE(QFile::exists(nvm + QStringLiteral("gemini")));
     EXPECT_FALSE(QFile::exists(sandbox.systemPath(QStringLiteral("/opt/homebrew/bin/gemini"))));
     EXPECT_EQ(log, QStringLiteral("Uninstalling Gemini CLI...\nremoved 1 package\nremoved 1 package\n"
@@ -278,7 +275,7 @@ TEST_F(ToolInstallerTest, UninstallTellsAboutCopiesLeftOnThePath)
     sandbox.writeFile(QStringLiteral(".claude/settings.json"), "{}");
 
     QString log;
-    ASSERT_TRUE(await(ToolInstaller::shared().uninstall(CLITool::claudeCode, [&](const QString& t) { log += t; })));
+    ASSERT_TRUE(await(installer.uninstall(CLITool::claudeCode, [&](const QString& t) { log += t; })));
     EXPECT_EQ(log, QStringLiteral("Uninstalling Claude Code...\n"
                                   "\nNote: 'claude' is still found in PATH. You may have multiple installations.\n"
                                   "Run 'which claude' in Terminal to find other copies.\n"));
@@ -290,9 +287,11 @@ TEST_F(ToolInstallerTest, UninstallTellsAboutCopiesLeftOnThePath)
 TEST_F(ToolInstallerTest, UninstallNotesAFailingRemovalAndCarriesOn)
 {
     // A removal line that cannot even start still ends in a verdict.
-    ShellRunner::shared().setShell(QStringLiteral("/nonexistent/zsh"));
+    ShellRunner::Configuration brokenShell = sandbox.shellConfiguration();
+    brokenShell.shell = QStringLiteral("/nonexistent/zsh");
+    Services broken(platform, brokenShell);
     QString log;
-    ASSERT_TRUE(await(ToolInstaller::shared().uninstall(CLITool::codex, [&](const QString& t) { log += t; })));
+    ASSERT_TRUE(await(broken.installer.uninstall(CLITool::codex, [&](const QString& t) { log += t; })));
     EXPECT_TRUE(log.startsWith(QStringLiteral("Uninstalling Codex...\nNote: Process error: ")));
     EXPECT_TRUE(log.endsWith(QStringLiteral("\nCodex has been uninstalled.\n")));
 }

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "Platform.h"
+#include "ShellRunner.h"
+#include "SystemDetector.h"
+#include "TerminalLauncher.h"
+#include "ToolInstaller.h"
+
+namespace qf {
+
+// The one set of services of a run: the platform and everything that works through it. The
+// application builds it once at start (main.cpp) and hands references to the screens and
+// controllers that need them; tests build a set of their own around a fake platform.
+class Services {
+public:
+    explicit Services(Platform& platform) : Services(platform, ShellRunner::standardConfiguration(platform)) {}
+    Services(Platform& platform, ShellRunner::Configuration shell)
+        : platform(platform), runner(std::move(shell)), detector(runner, platform),
+          installer(runner, detector, platform), terminal(platform)
+    {
+    }
+    Services(const Services&) = delete;
+    Services& operator=(const Services&) = delete;
+
+    Platform& platform;
+    ShellRunner runner;
+    SystemDetector detector;
+    ToolInstaller installer;
+    TerminalLauncher terminal;
+};
+
+} // namespace qf
