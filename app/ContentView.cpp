@@ -54,7 +54,7 @@ void ContentView::showStep(InstallationStep step)
 {
     QPixmap previous;
     if (m_screen && isVisible() && ui::motion::enabled())
-        previous = grab();  // includes a transition still running, so quick changes blend smoothly
+        previous = grab(); // includes a transition still running, so quick changes blend smoothly
 
     if (m_overlay)
         delete m_overlay.data();

@@ -54,8 +54,7 @@ void MainWindow::configure()
     // window manager's frame, where there is one, stays inside that area too.
     const QRect available = screen->availableGeometry();
     const QMargins frame(geometry().left() - frameGeometry().left(), geometry().top() - frameGeometry().top(),
-                         frameGeometry().right() - geometry().right(),
-                         frameGeometry().bottom() - geometry().bottom());
+                         frameGeometry().right() - geometry().right(), frameGeometry().bottom() - geometry().bottom());
     setGeometry(available.marginsRemoved(frame));
     m_services.platform.configureMainWindow(this);
 }

@@ -44,10 +44,8 @@ protected:
 QWidget* makeScreen(InstallationStep step, InstallationState& state, Services&)
 {
     switch (step) {
-    case InstallationStep::onboarding:
-        return new OnboardingView(state);
-    default:
-        return new PlaceholderScreen(step);
+    case InstallationStep::onboarding: return new OnboardingView(state);
+    default: return new PlaceholderScreen(step);
     }
 }
 

@@ -40,7 +40,7 @@ using qf::Result;
 using qf::ShellRunner;
 
 constexpr qint64 kStreamBytes = 50LL * 1024 * 1024;
-constexpr int kLineLength = 100;  // including the line break
+constexpr int kLineLength = 100; // including the line break
 constexpr double kMiB = 1024.0 * 1024.0;
 
 double median(std::vector<double> values)
@@ -86,7 +86,7 @@ bool writeTextFile(const QString& path, qint64 bytes)
         for (int i = 0; i < linesPerBlock; ++i, ++lineNumber) {
             QByteArray line = QByteArray::number(lineNumber).rightJustified(8, '0') + ' ';
             for (int c = 0; line.size() < kLineLength - 1; ++c)
-                line += char(' ' + 1 + (lineNumber * 7 + c) % 94);  // '!' to '~'
+                line += char(' ' + 1 + (lineNumber * 7 + c) % 94); // '!' to '~'
             line += '\n';
             block += line;
         }
@@ -144,8 +144,8 @@ double runDirectlyIntoString(const QString& shell, const QString& line, const QP
 QCoro::Task<bool> benchmarkOverhead(ShellRunner& runner, int runs)
 {
     const QProcessEnvironment environment = runner.commandEnvironment();
-    std::printf("1. run() overhead: `%s -l -c true`, %d runs of each, interleaved\n", qPrintable(runner.configuration().shell),
-                runs);
+    std::printf("1. run() overhead: `%s -l -c true`, %d runs of each, interleaved\n",
+                qPrintable(runner.configuration().shell), runs);
 
     // Warm-up: the shell binary and its start files into the page cache.
     for (int i = 0; i < 3; ++i) {
@@ -173,7 +173,8 @@ QCoro::Task<bool> benchmarkOverhead(ShellRunner& runner, int runs)
                 }
                 viaRunner.push_back(elapsed);
             } else {
-                const double elapsed = runDirectly(runner.configuration().shell, QStringLiteral("true"), environment, false);
+                const double elapsed = runDirectly(runner.configuration().shell, QStringLiteral("true"), environment,
+                                                   false);
                 if (elapsed < 0) {
                     std::printf("   direct zsh -l -c true failed\n");
                     co_return false;
@@ -188,11 +189,9 @@ QCoro::Task<bool> benchmarkOverhead(ShellRunner& runner, int runs)
     const double ratio = directMedian > 0 ? runnerMedian / directMedian : 0;
     std::printf("   %-30s median %7.2f ms   min %7.2f ms\n", "ShellRunner::run(\"true\")", runnerMedian,
                 minimum(viaRunner));
-    std::printf("   %-30s median %7.2f ms   min %7.2f ms\n", "QProcess zsh -l -c true", directMedian,
-                minimum(direct));
+    std::printf("   %-30s median %7.2f ms   min %7.2f ms\n", "QProcess zsh -l -c true", directMedian, minimum(direct));
     std::printf("   ratio of medians %.3fx (min %.3fx)   aim: under 1.10x   %s\n", ratio,
-                minimum(direct) > 0 ? minimum(viaRunner) / minimum(direct) : 0.0,
-                ratio < 1.10 ? "MET" : "NOT MET");
+                minimum(direct) > 0 ? minimum(viaRunner) / minimum(direct) : 0.0, ratio < 1.10 ? "MET" : "NOT MET");
     co_return true;
 }
 
@@ -213,8 +212,8 @@ QCoro::Task<bool> benchmarkStreaming(ShellRunner& runner, int runs)
     const qint64 fileSize = QFileInfo(path).size();
     const double fileMiB = fileSize / kMiB;
     const QString command = QStringLiteral("cat ") + qf::shellQuote(path, qf::Quoting::always);
-    std::printf("\n2. Streaming: %s, %.1f MB of text (%lld bytes), %d runs of each, interleaved\n",
-                qPrintable(command), fileMiB, static_cast<long long>(fileSize), runs);
+    std::printf("\n2. Streaming: %s, %.1f MB of text (%lld bytes), %d runs of each, interleaved\n", qPrintable(command),
+                fileMiB, static_cast<long long>(fileSize), runs);
 
     std::vector<double> streamedMs;
     std::vector<double> lastChunkMs;
@@ -232,7 +231,8 @@ QCoro::Task<bool> benchmarkStreaming(ShellRunner& runner, int runs)
             const int which = (turn + i) % 3;
             if (which == 2) {
                 qint64 length = 0;
-                const double elapsed = runDirectlyIntoString(runner.configuration().shell, command, environment, length);
+                const double elapsed = runDirectlyIntoString(runner.configuration().shell, command, environment,
+                                                             length);
                 if (elapsed < 0 || length != fileSize) {
                     std::printf("   direct zsh -l -c 'cat FILE' read into a QString failed\n");
                     co_return false;
@@ -307,13 +307,13 @@ QCoro::Task<bool> benchmarkStreaming(ShellRunner& runner, int runs)
                 static_cast<long long>(receivedLength), static_cast<long long>(chunks),
                 static_cast<long long>(fileSize), lengthMatches ? "equal in every run" : "DIFFERENT");
 
-    const double textMiB = receivedLength * 2 / kMiB;  // UTF-16
+    const double textMiB = receivedLength * 2 / kMiB; // UTF-16
     std::printf("   peak resident memory before %s, after %s", qPrintable(formatMiB(peakBefore)),
                 qPrintable(formatMiB(peakAfter)));
     if (peakBefore && peakAfter) {
         const double growthMiB = (*peakAfter - *peakBefore) / 1024.0;
-        std::printf(": growth %.1f MB = %.2fx the %.1f MB the received QString holds\n", growthMiB,
-                    growthMiB / textMiB, textMiB);
+        std::printf(": growth %.1f MB = %.2fx the %.1f MB the received QString holds\n", growthMiB, growthMiB / textMiB,
+                    textMiB);
     } else {
         std::printf("\n");
     }
@@ -326,7 +326,7 @@ QCoro::Task<int> benchmark(ShellRunner& runner, int runs, int streamRuns)
     std::fflush(stdout);
     const bool streaming = co_await benchmarkStreaming(runner, streamRuns);
     std::fflush(stdout);
-    co_return overhead && streaming ? 0 : 1;
+    co_return (overhead && streaming) ? 0 : 1;
 }
 
 int positiveArgument(int argc, char* argv[], int index, int fallback)

@@ -98,7 +98,7 @@ int main(int argc, char** argv)
 
     std::vector<Sample> app, bare;
     Sample warm;
-    runOnce(QUILLFORGE_APP_PATH, warm);  // fill the file cache before measuring
+    runOnce(QUILLFORGE_APP_PATH, warm); // fill the file cache before measuring
     runOnce(QUILLFORGE_BARE_PATH, warm);
     for (int i = 0; i < runs; ++i) {
         Sample sample;

@@ -67,8 +67,7 @@ QCoro::Task<QList<SystemTool>> detectSystemTools(QList<SystemTool> tools, ShellR
 {
     for (SystemTool& tool : tools) {
         switch (tool.id) {
-        case SystemToolID::developerFolder:
-            break;  // known when the catalogue was built
+        case SystemToolID::developerFolder: break; // known when the catalogue was built
         case SystemToolID::developerTools: {
             const Result<QString> present = co_await shell.run(developerTools.presenceCommand);
             if (!present)
@@ -128,8 +127,7 @@ void handleSystemToolAction(const SystemTool& tool, Platform& platform, const st
             platform.startDeveloperToolsInstaller();
         return;
     case SystemToolID::homebrew:
-    case SystemToolID::node:
-        return;  // they come with the setup, not from here
+    case SystemToolID::node: return; // they come with the setup, not from here
     }
 }
 

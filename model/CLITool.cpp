@@ -31,7 +31,7 @@ struct ToolTexts {
 
 constexpr QRgb rgb(double r, double g, double b)
 {
-    auto channel = [](double v) { return static_cast<int>(v * 255.0 + 0.5); };
+    auto channel = [](double v) { return qRound(v * 255.0); };
     return qRgb(channel(r), channel(g), channel(b));
 }
 
@@ -45,7 +45,9 @@ const std::array<ToolTexts, 3> kTools = {{
         "ClaudeLogo",
         rgb(0.85, 0.55, 0.35),
         false,
-        QT_TRANSLATE_NOOP("CLITool", "AI coding assistant from Anthropic. Works in your terminal to help write, debug, and understand code."),
+        QT_TRANSLATE_NOOP(
+            "CLITool",
+            "AI coding assistant from Anthropic. Works in your terminal to help write, debug, and understand code."),
         QT_TRANSLATE_NOOP("CLITool", "Requires an Anthropic account (free tier available)"),
         QT_TRANSLATE_NOOP("CLITool", "Free tier available, Pro plan for more usage"),
         QT_TRANSLATE_NOOP("CLITool", "Sign in with your Anthropic account on first run."),
@@ -66,7 +68,8 @@ const std::array<ToolTexts, 3> kTools = {{
         "GeminiLogo",
         rgb(0.25, 0.52, 0.96),
         true,
-        QT_TRANSLATE_NOOP("CLITool", "Google's Gemini AI in your terminal. Great for code generation and technical questions."),
+        QT_TRANSLATE_NOOP("CLITool",
+                          "Google's Gemini AI in your terminal. Great for code generation and technical questions."),
         QT_TRANSLATE_NOOP("CLITool", "Requires a Google account (you probably have one!)"),
         QT_TRANSLATE_NOOP("CLITool", "Free tier with generous limits"),
         QT_TRANSLATE_NOOP("CLITool", "Sign in with your Google account on first run."),
@@ -113,8 +116,8 @@ const std::array<QStringList, 3>& featureTable()
          trText("Runs commands and tests for you"), trText("Understands your entire codebase")},
         {trText("Powered by Google's Gemini models"), trText("Great for code generation"),
          trText("Helpful for technical explanations"), trText("Integrates with Google services")},
-        {trText("Built on OpenAI's GPT models"), trText("Strong at code completion"),
-         trText("Wide language support"), trText("Great for quick code generation")},
+        {trText("Built on OpenAI's GPT models"), trText("Strong at code completion"), trText("Wide language support"),
+         trText("Great for quick code generation")},
     }};
     return table;
 }
@@ -138,7 +141,8 @@ AccountStepTable buildAccountStepTable(const QString& installStep)
             {trText("Sign in with Google"), firstLaunch},
         },
         {
-            {trText("Create an OpenAI account"), trText("Visit %1 and sign up.").arg(QStringLiteral("platform.openai.com"))},
+            {trText("Create an OpenAI account"),
+             trText("Visit %1 and sign up.").arg(QStringLiteral("platform.openai.com"))},
             {trText("Add payment method"), trText("OpenAI requires a payment method for API usage.")},
             {trText("Install Codex"), installStep},
             {trText("Sign in from Terminal"), firstLaunch},
@@ -235,8 +239,7 @@ QString CLITool::installCommand() const
     case claudeCode:
         return QStringLiteral("curl -fsSL ") + QLatin1String(web::claudeInstallScript) + QStringLiteral(" | bash");
     case geminiCLI:
-    case codex:
-        return QStringLiteral("npm install -g ") + npmPackage();
+    case codex: return QStringLiteral("npm install -g ") + npmPackage();
     }
     Q_UNREACHABLE();
 }
@@ -256,7 +259,8 @@ QString CLITool::uninstallCommand(const QStringList& npmPrograms) const
 {
     const QString chain = npmRemovalChain(npmPackage(), npmPrograms);
     if (m_case == claudeCode)
-        return chain + QStringLiteral("; rm -rf ~/.claude/local 2>/dev/null; rm -rf ~/.claude/downloads 2>/dev/null; exit 0");
+        return chain +
+               QStringLiteral("; rm -rf ~/.claude/local 2>/dev/null; rm -rf ~/.claude/downloads 2>/dev/null; exit 0");
     return chain + QStringLiteral("; exit 0");
 }
 

@@ -52,8 +52,8 @@ public:
     QString displayName() const;
     QString provider() const;
     QString commandName() const;
-    QString iconName() const;       // symbol name
-    QString logoImageName() const;  // image asset name
+    QString iconName() const;      // symbol name
+    QString logoImageName() const; // image asset name
     QColor brandColor() const;
     bool requiresNodeJS() const;
 
@@ -91,8 +91,7 @@ QString npmRemovalChain(const QString& package, const QStringList& npmPrograms);
 // Addresses that more than one part of the app needs.
 namespace web {
 inline constexpr auto claudeInstallScript = "https://claude.ai/install.sh";
-inline constexpr auto homebrewUninstallScript =
-    "https://raw.githubusercontent.com/Homebrew/install/HEAD/uninstall.sh";
+inline constexpr auto homebrewUninstallScript = "https://raw.githubusercontent.com/Homebrew/install/HEAD/uninstall.sh";
 } // namespace web
 
 } // namespace qf

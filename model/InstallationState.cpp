@@ -56,10 +56,7 @@ void InstallationState::appendInstallationOutput(const QString& text)
     Q_EMIT changed();
 }
 
-void InstallationState::setApiKey(const QString& key)
-{
-    assign(m_apiKey, key, &InstallationState::apiKeyChanged);
-}
+void InstallationState::setApiKey(const QString& key) { assign(m_apiKey, key, &InstallationState::apiKeyChanged); }
 
 void InstallationState::setErrorMessage(const std::optional<QString>& message)
 {

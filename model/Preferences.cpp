@@ -23,10 +23,7 @@ std::unique_ptr<QSettings> openSettings()
 
 } // namespace
 
-bool Preferences::hasCompletedOnboarding()
-{
-    return openSettings()->value(hasCompletedOnboardingKey, false).toBool();
-}
+bool Preferences::hasCompletedOnboarding() { return openSettings()->value(hasCompletedOnboardingKey, false).toBool(); }
 
 void Preferences::setHasCompletedOnboarding(bool value)
 {

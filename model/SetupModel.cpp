@@ -12,7 +12,7 @@ std::optional<InstallationStep> installationStepFromRawValue(int rawValue)
 QString caseName(InstallationStep step)
 {
     static const std::array<const char*, 9> names = {
-        "onboarding", "home", "welcome", "accountSetup", "systemCheck",
+        "onboarding",   "home",   "welcome",    "accountSetup", "systemCheck",
         "installation", "apiKey", "completion", "terminal",
     };
     return QString::fromLatin1(names[static_cast<size_t>(rawValue(step))]);

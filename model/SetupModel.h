@@ -24,9 +24,9 @@ enum class InstallationStep {
 };
 
 inline constexpr std::array<InstallationStep, 9> allInstallationSteps = {
-    InstallationStep::onboarding,   InstallationStep::home,         InstallationStep::welcome,
-    InstallationStep::accountSetup, InstallationStep::systemCheck,  InstallationStep::installation,
-    InstallationStep::apiKey,       InstallationStep::completion,   InstallationStep::terminal,
+    InstallationStep::onboarding,   InstallationStep::home,        InstallationStep::welcome,
+    InstallationStep::accountSetup, InstallationStep::systemCheck, InstallationStep::installation,
+    InstallationStep::apiKey,       InstallationStep::completion,  InstallationStep::terminal,
 };
 
 constexpr int rawValue(InstallationStep step) { return static_cast<int>(step); }
@@ -50,7 +50,7 @@ public:
 
     static const std::array<SystemRequirement, 3>& allCases();
 
-    QString id() const;  // the case name
+    QString id() const; // the case name
     // The texts that name the system come from the system's own wording.
     QString title(const SystemWording& wording) const;
     QString helpText(const SystemWording& wording) const;

@@ -121,8 +121,8 @@ void OnboardingView::showEvent(QShowEvent* event)
     if (m_animateIn)
         return;
     m_animateIn = true;
-    m_entrance = ui::motion::animate(this, entranceDurationMs, ui::motion::easeOut(),
-                                     [this](qreal progress) { render(progress); }, entranceDelayMs);
+    m_entrance = ui::motion::animate(
+        this, entranceDurationMs, ui::motion::easeOut(), [this](qreal progress) { render(progress); }, entranceDelayMs);
 }
 
 void OnboardingView::paintEvent(QPaintEvent*)

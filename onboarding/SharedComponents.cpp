@@ -13,8 +13,7 @@ namespace {
 
 ui::Button::Style buttonStyle(CopyButton::CopyButtonStyle style)
 {
-    return style == CopyButton::CopyButtonStyle::bordered ? ui::Button::Style::bordered
-                                                          : ui::Button::Style::borderless;
+    return style == CopyButton::CopyButtonStyle::bordered ? ui::Button::Style::bordered : ui::Button::Style::borderless;
 }
 
 } // namespace

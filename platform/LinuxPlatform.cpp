@@ -30,10 +30,9 @@ QMap<QString, QString> readOsRelease()
 // The login shell the terminal ends in: the user's own when it can be run.
 QString userShell()
 {
-    const QString shell = qEnvironmentVariable("SHELL");
+    QString shell = qEnvironmentVariable("SHELL");
     if (!shell.isEmpty()) {
-        const QFileInfo info(shell);
-        if (info.isFile() && info.isExecutable())
+        if (const QFileInfo info(shell); info.isFile() && info.isExecutable())
             return shell;
     }
     return QStringLiteral("/bin/bash");
@@ -229,7 +228,7 @@ QString LinuxPlatform::packageInstallLine(const QMap<QString, QString>& osReleas
     QStringList distributions{osRelease.value(QStringLiteral("ID")).toLower()};
     distributions += osRelease.value(QStringLiteral("ID_LIKE")).toLower().split(QLatin1Char(' '), Qt::SkipEmptyParts);
     for (const QString& distribution : distributions) {
-        const QString line = packageLineFor(distribution);
+        QString line = packageLineFor(distribution);
         if (!line.isEmpty())
             return line;
     }
@@ -294,7 +293,7 @@ void LinuxPlatform::openTerminal(const QString& command, const QString& director
     const std::optional<QString> emulator = findTerminalEmulator(qEnvironmentVariable("PATH"));
     if (!emulator) {
         printDiagnostic(QStringLiteral("Terminal error: no terminal emulator found (looked for ") +
-                  terminalEmulators().join(QStringLiteral(", ")) + QLatin1Char(')'));
+                        terminalEmulators().join(QStringLiteral(", ")) + QLatin1Char(')'));
         return;
     }
     const QString home = QDir::homePath();
@@ -331,7 +330,7 @@ DeveloperToolsItem LinuxPlatform::gitToolsItem()
         .icon = QStringLiteral("hammer"),
         .description = translated("SystemTool", "Provides Git and build tools"),
         .presenceCommand = QStringLiteral("git --version"),
-        .versionCommand = QString(),  // the presence command's output carries the version
+        .versionCommand = QString(), // the presence command's output carries the version
         .versionPrefix = QStringLiteral("git version "),
         .uninstallCommand = std::nullopt,
         .uninstallNote = translated("SystemTool", "Use your system's package manager to remove Git"),
@@ -356,10 +355,10 @@ QString LinuxPlatform::nodeTarballCommand(const QString& cpuArchitecture)
     else if (cpuArchitecture == QLatin1String("armv7") || cpuArchitecture == QLatin1String("arm"))
         arch = QStringLiteral("armv7l");
 
-    const QString release = QStringLiteral("node-v") + QLatin1String(kNodeReleaseVersion) + QStringLiteral("-linux-") + arch;
+    const QString release = QStringLiteral("node-v") + QLatin1String(kNodeReleaseVersion) + QStringLiteral("-linux-") +
+                            arch;
     return QStringLiteral("mkdir -p ~/.local && curl -fsSL ") + QLatin1String(kNodeDownloadServer) +
-           QStringLiteral("/dist/v") +
-           QLatin1String(kNodeReleaseVersion) + QLatin1Char('/') + release +
+           QStringLiteral("/dist/v") + QLatin1String(kNodeReleaseVersion) + QLatin1Char('/') + release +
            QStringLiteral(".tar.gz | tar -xz -C ~/.local --strip-components=1 --exclude=") + release +
            QStringLiteral("/CHANGELOG.md --exclude=") + release + QStringLiteral("/LICENSE --exclude=") + release +
            QStringLiteral("/README.md");

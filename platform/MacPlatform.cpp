@@ -75,7 +75,8 @@ const SystemWording& MacPlatform::standardWording()
                                                             "\u2192 General \u2192 Software Update"),
         .diskSpaceHelp = translated("SystemRequirement", "The AI assistant and its dependencies need about 200MB of "
                                                          "free space on your Mac. This is a one-time installation."),
-        .nodeFixSuggestion = translated("SystemRequirement", "Install manually: brew install node (or download from %1)")
+        .nodeFixSuggestion = translated("SystemRequirement",
+                                        "Install manually: brew install node (or download from %1)")
                                  .arg(QLatin1String(kNodeDomain)),
         .toolInstallStep = translated("CLITool", "We'll install the CLI tool on your Mac."),
         .gitMissingLog = QStringLiteral("Git not found. Please install Xcode Command Line Tools.\n"),
@@ -86,7 +87,10 @@ const SystemWording& MacPlatform::standardWording()
     return wording;
 }
 
-ApplicationLook MacPlatform::applicationLook() const { return {.nativeStyle = true, .prefersDark = {}, .fontFamilies = {}}; }
+ApplicationLook MacPlatform::applicationLook() const
+{
+    return {.nativeStyle = true, .prefersDark = {}, .fontFamilies = {}};
+}
 
 void MacPlatform::configureMainWindow(QWidget* window) { applyMacWindowStyle(window); }
 
@@ -106,9 +110,8 @@ OperatingSystemCheck MacPlatform::operatingSystemCheck(int major, int minor, int
 QString MacPlatform::terminalScript(const QString& command, const QString& directory)
 {
     // The directory and the command go in as they are: the shell in Terminal expands "~/".
-    return QStringLiteral("tell application \"Terminal\"\n    activate\n") +
-           QStringLiteral("    do script \"cd ") + directory + QStringLiteral(" && ") + command +
-           QStringLiteral("\"\n") + QStringLiteral("end tell");
+    return QStringLiteral("tell application \"Terminal\"\n    activate\n") + QStringLiteral("    do script \"cd ") +
+           directory + QStringLiteral(" && ") + command + QStringLiteral("\"\n") + QStringLiteral("end tell");
 }
 
 QString MacPlatform::systemEventsScript()

@@ -42,7 +42,7 @@ struct SystemWording {
 // output of `versionCommand` (or of the presence command when that is empty) with every
 // occurrence of `versionPrefix` removed.
 struct DeveloperToolsItem {
-    QString key;  // the item's stable text key ("xcode" on macOS)
+    QString key; // the item's stable text key ("xcode" on macOS)
     QString name;
     QString icon;
     QString description;

@@ -39,9 +39,9 @@ long peakResidentMemoryKB()
     if (::getrusage(RUSAGE_SELF, &usage) != 0)
         return 0;
 #if defined(Q_OS_MACOS)
-    return long(usage.ru_maxrss / 1024);  // bytes there
+    return long(usage.ru_maxrss / 1024); // bytes there
 #else
-    return long(usage.ru_maxrss);  // kilobytes
+    return long(usage.ru_maxrss); // kilobytes
 #endif
 }
 

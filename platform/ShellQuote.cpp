@@ -10,10 +10,17 @@ bool isPlainShellCharacter(QChar c)
     if ((u >= 'a' && u <= 'z') || (u >= 'A' && u <= 'Z') || (u >= '0' && u <= '9'))
         return true;
     switch (u) {
-    case '_': case '.': case '/': case '-': case '+': case '=': case ':': case ',': case '@': case '%':
-        return true;
-    default:
-        return false;
+    case '_':
+    case '.':
+    case '/':
+    case '-':
+    case '+':
+    case '=':
+    case ':':
+    case ',':
+    case '@':
+    case '%': return true;
+    default: return false;
     }
 }
 

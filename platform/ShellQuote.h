@@ -5,8 +5,8 @@
 namespace qf {
 
 enum class Quoting {
-    whenNeeded,  // plain words stay as they are
-    always,      // every word goes between single quotes
+    whenNeeded, // plain words stay as they are
+    always,     // every word goes between single quotes
 };
 
 // Quotes a word for sh, bash and zsh so that the shell reads it back exactly as it is and

@@ -13,7 +13,7 @@ bool developerFolderExists();
 struct FolderCreation {
     enum Outcome { created, alreadyThere, failed };
     Outcome outcome = failed;
-    QString error;  // why it could not be created
+    QString error; // why it could not be created
 };
 
 // Creates the folder, with any missing parents, unless something is already there.

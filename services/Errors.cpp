@@ -31,10 +31,9 @@ QString ShellError::errorDescription() const
 {
     switch (m_kind) {
     case commandFailed:
-        return QStringLiteral("Command failed with exit code ") + QString::number(m_exitCode) + QStringLiteral(": ")
-             + m_text;
-    case processError:
-        return QStringLiteral("Process error: ") + m_text;
+        return QStringLiteral("Command failed with exit code ") + QString::number(m_exitCode) + QStringLiteral(": ") +
+               m_text;
+    case processError: return QStringLiteral("Process error: ") + m_text;
     case timedOut:
         return tr("The command did not finish within %n second(s) and was stopped.", nullptr, int(m_seconds));
     }
@@ -51,8 +50,7 @@ QString errorDescription(InstallationError error, const SystemWording& wording)
         return QCoreApplication::translate("InstallationError",
                                            "Failed to install Node.js. Please install it manually from %1")
             .arg(QLatin1String(kNodeDomain));
-    case InstallationError::gitNotFound:
-        return wording.gitMissingError;
+    case InstallationError::gitNotFound: return wording.gitMissingError;
     case InstallationError::uninstallFailed:
         return QCoreApplication::translate(
             "InstallationError", "Uninstall completed but the tool is still detected. Manual removal may be required.");

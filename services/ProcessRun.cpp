@@ -60,10 +60,7 @@ void ProcessRun::readOutput()
         m_outcome.standardOutput += bytes;
 }
 
-void ProcessRun::readError()
-{
-    m_outcome.standardError += m_process->readAllStandardError();
-}
+void ProcessRun::readError() { m_outcome.standardError += m_process->readAllStandardError(); }
 
 void ProcessRun::deliver(const QString& text)
 {

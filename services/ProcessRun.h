@@ -38,7 +38,7 @@ public:
         QStringList arguments;
         QProcessEnvironment environment;
         Channels channels = Channels::separate;
-        int timeoutMs = 0;  // 0: no limit
+        int timeoutMs = 0; // 0: no limit
         int terminationGraceMs = 3000;
         // Merged output as text, chunk by chunk, while `context` (when set) is alive.
         std::function<void(const QString&)> onOutput;

@@ -51,7 +51,7 @@ QString ProfileWriter::rewrite(const QString& text, const QString& variable, con
     for (auto it = pattern.globalMatch(text); it.hasNext();) {
         const QRegularExpressionMatch match = it.next();
         result += QStringView(text).sliced(copied, match.capturedStart() - copied);
-        result += line;  // as it is: no "$1" or backslash is interpreted
+        result += line; // as it is: no "$1" or backslash is interpreted
         copied = match.capturedEnd();
     }
     result += QStringView(text).sliced(copied);
@@ -79,8 +79,7 @@ Result<void> ProfileWriter::replaceFileContents(const QString& path, const QStri
 
     QSaveFile file(target);
     if (!file.open(QIODevice::WriteOnly)) {
-        return ServiceError::message(
-            tr("Could not save the API key to %1: %2").arg(path, file.errorString()));
+        return ServiceError::message(tr("Could not save the API key to %1: %2").arg(path, file.errorString()));
     }
     file.setPermissions(permissions);
     const QByteArray bytes = text.toUtf8();

@@ -15,8 +15,11 @@ class Services {
 public:
     explicit Services(Platform& platform) : Services(platform, ShellRunner::standardConfiguration(platform)) {}
     Services(Platform& platform, ShellRunner::Configuration shell)
-        : platform(platform), runner(std::move(shell)), detector(runner, platform),
-          installer(runner, detector, platform), terminal(platform)
+        : platform(platform),
+          runner(std::move(shell)),
+          detector(runner, platform),
+          installer(runner, detector, platform),
+          terminal(platform)
     {
     }
     Services(const Services&) = delete;

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <functional>
 
 namespace qf {
 
@@ -33,11 +34,11 @@ QString ShellRunner::searchPath(const QString& home, QStringList nvmVersionNames
                                 const std::optional<QString>& inheritedPath)
 {
     QStringList directories;
-    // Plain text order, not version order: v9.11.2 sorts after v20.10.0.
-    std::sort(nvmVersionNames.begin(), nvmVersionNames.end());
+    // Descending plain text order, not version order: v9.11.2 comes before v20.10.0.
+    std::sort(nvmVersionNames.begin(), nvmVersionNames.end(), std::greater<>());
     const QString versions = home + QStringLiteral("/.nvm/versions/node");
-    for (auto name = nvmVersionNames.crbegin(); name != nvmVersionNames.crend(); ++name)
-        directories << versions + QLatin1Char('/') + *name + QStringLiteral("/bin");
+    for (const QString& name : std::as_const(nvmVersionNames))
+        directories << versions + QLatin1Char('/') + name + QStringLiteral("/bin");
     directories << home + QStringLiteral("/.local/bin");
     directories << fixedDirectories;
     if (inheritedPath)
@@ -80,12 +81,9 @@ QCoro::Task<Result<QString>> ShellRunner::run(QString command, double timeoutSec
     const ProcessOutcome outcome = co_await process->outcome();
 
     switch (outcome.kind) {
-    case ProcessOutcome::failedToStart:
-        co_return ShellError::launchFailed(outcome.launchError);
-    case ProcessOutcome::timedOut:
-        co_return ShellError::timeout(timeoutSeconds);
-    case ProcessOutcome::exited:
-        break;
+    case ProcessOutcome::failedToStart: co_return ShellError::launchFailed(outcome.launchError);
+    case ProcessOutcome::timedOut: co_return ShellError::timeout(timeoutSeconds);
+    case ProcessOutcome::exited: break;
     }
 
     // A stream that is not valid UTF-8 counts as empty.

@@ -25,7 +25,8 @@ NodeCheck SystemDetector::evaluateNodeVersion(const std::optional<QString>& vers
 RequirementStatus SystemDetector::diskSpaceStatus(std::optional<qint64> megabytes)
 {
     const qint64 mb = megabytes.value_or(0);
-    return {SystemRequirement::diskSpace, mb >= minimumDiskSpaceMB, QString::number(mb) + QStringLiteral(" MB available")};
+    return {SystemRequirement::diskSpace, mb >= minimumDiskSpaceMB,
+            QString::number(mb) + QStringLiteral(" MB available")};
 }
 
 QCoro::Task<std::optional<QString>> SystemDetector::getNodeVersion()
@@ -72,7 +73,7 @@ QString SystemDetector::shellProfilePath() const
 {
     const QString home = QDir::homePath();
     for (const char* name : {"/.zshrc", "/.bash_profile", "/.bashrc"}) {
-        const QString candidate = home + QLatin1String(name);
+        QString candidate = home + QLatin1String(name);
         if (QFileInfo(candidate).isFile())
             return candidate;
     }

@@ -49,7 +49,7 @@ public:
     // The rules, on their own.
     static NodeCheck evaluateNodeVersion(const std::optional<QString>& version);
     static RequirementStatus diskSpaceStatus(std::optional<qint64> megabytes);
-    static qint64 bytesToMegabytes(qint64 bytes) { return bytes / (1024 * 1024); }
+    static qint64 bytesToMegabytes(qint64 bytes) { return bytes / (qint64(1024) * 1024); }
 
 private:
     ShellRunner& m_shell;

@@ -32,12 +32,8 @@ FolderCreation::Outcome ToolInstaller::prepareDeveloperFolder(const Output& onOu
 {
     const FolderCreation creation = makeDeveloperFolder();
     switch (creation.outcome) {
-    case FolderCreation::alreadyThere:
-        onOutput(QStringLiteral("~/Developer folder already exists\n"));
-        break;
-    case FolderCreation::created:
-        onOutput(QStringLiteral("Created ~/Developer folder for your projects\n"));
-        break;
+    case FolderCreation::alreadyThere: onOutput(QStringLiteral("~/Developer folder already exists\n")); break;
+    case FolderCreation::created: onOutput(QStringLiteral("Created ~/Developer folder for your projects\n")); break;
     case FolderCreation::failed:
         onOutput(QStringLiteral("Note: Could not create ~/Developer folder: ") + creation.error + QLatin1Char('\n'));
         break;
@@ -199,8 +195,8 @@ QCoro::Task<Result<void>> ToolInstaller::saveAPIKey(QString key, CLITool tool)
                 co_return written;
         }
     } else {
-        const Result<QString> appended = co_await m_shell.run(
-            ProfileWriter::appendCommand(tool.displayName(), line, profile));
+        const Result<QString> appended =
+            co_await m_shell.run(ProfileWriter::appendCommand(tool.displayName(), line, profile));
         if (!appended)
             co_return appended.error();
     }

@@ -28,7 +28,7 @@ qsizetype incompleteTail(QByteArrayView bytes)
     for (qsizetype back = 1; back <= 3 && back <= size; ++back) {
         const auto byte = static_cast<unsigned char>(bytes[size - back]);
         if ((byte & 0xC0) == 0x80)
-            continue;  // a continuation byte: keep looking for its lead
+            continue; // a continuation byte: keep looking for its lead
         const int length = sequenceLength(byte);
         return length > back ? back : 0;
     }
@@ -66,7 +66,8 @@ QString Utf8StreamDecoder::finish()
 std::optional<QString> decodeUtf8Strictly(const QByteArray& bytes)
 {
     // A byte-order mark is kept as text, so that writing the text back gives the same bytes.
-    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom);
+    QStringDecoder decoder(QStringDecoder::Utf8,
+                           QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom);
     QString text = decoder(bytes);
     if (decoder.hasError())
         return std::nullopt;

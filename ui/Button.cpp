@@ -275,11 +275,8 @@ bool Button::event(QEvent* event)
     case QEvent::HoverEnter:
     case QEvent::HoverLeave:
     case QEvent::EnabledChange:
-    case QEvent::PaletteChange:
-        update();
-        break;
-    default:
-        break;
+    case QEvent::PaletteChange: update(); break;
+    default: break;
     }
     return QAbstractButton::event(event);
 }

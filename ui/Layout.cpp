@@ -34,13 +34,13 @@ ScrollView::ScrollView(QWidget* parent) : QScrollArea(parent), m_content(new QWi
     m_content->setAutoFillBackground(false);
     setWidget(m_content);
     // A slim bar in the spirit of macOS's scroll indicators instead of a bar with arrows.
-    verticalScrollBar()->setStyleSheet(QStringLiteral(
-        "QScrollBar:vertical { background: transparent; width: 11px; margin: 2px 2px 2px 0; }"
-        "QScrollBar::handle:vertical { background: rgba(128, 128, 128, 0.55); border-radius: 3px;"
-        "  min-height: 32px; margin: 0 1px 0 2px; }"
-        "QScrollBar::handle:vertical:hover { background: rgba(128, 128, 128, 0.8); }"
-        "QScrollBar::add-line:vertical, QScrollBar::sub-line:vertical { height: 0; }"
-        "QScrollBar::add-page:vertical, QScrollBar::sub-page:vertical { background: transparent; }"));
+    verticalScrollBar()->setStyleSheet(
+        QStringLiteral("QScrollBar:vertical { background: transparent; width: 11px; margin: 2px 2px 2px 0; }"
+                       "QScrollBar::handle:vertical { background: rgba(128, 128, 128, 0.55); border-radius: 3px;"
+                       "  min-height: 32px; margin: 0 1px 0 2px; }"
+                       "QScrollBar::handle:vertical:hover { background: rgba(128, 128, 128, 0.8); }"
+                       "QScrollBar::add-line:vertical, QScrollBar::sub-line:vertical { height: 0; }"
+                       "QScrollBar::add-page:vertical, QScrollBar::sub-page:vertical { background: transparent; }"));
 }
 
 } // namespace qf::ui

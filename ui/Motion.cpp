@@ -35,7 +35,8 @@ qreal springProgress(qreal t)
     const qreal decay = damping * omega;
     const qreal omegaD = omega * std::sqrt(1.0 - damping * damping);
     const qreal seconds = t * duration;
-    return 1.0 - std::exp(-decay * seconds) * (std::cos(omegaD * seconds) + decay / omegaD * std::sin(omegaD * seconds));
+    return 1.0 -
+           std::exp(-decay * seconds) * (std::cos(omegaD * seconds) + decay / omegaD * std::sin(omegaD * seconds));
 }
 
 } // namespace
@@ -67,7 +68,7 @@ QAbstractAnimation* animate(QObject* context, int durationMs, const QEasingCurve
     tween->setDuration(durationMs);
     tween->setEasingCurve(curve);
     QObject::connect(tween, &QVariantAnimation::valueChanged, context,
-                     [apply](const QVariant& value) { apply(value.toReal()); });
+                     [apply = std::move(apply)](const QVariant& value) { apply(value.toReal()); });
 
     QAbstractAnimation* animation = tween;
     if (delayMs > 0) {

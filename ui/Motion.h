@@ -17,14 +17,14 @@ bool enabled();
 void setEnabled(bool on);
 
 // The curves of the design, as cubic Béziers where the design names one.
-QEasingCurve easeOut();    // (0, 0, 0.58, 1)
-QEasingCurve easeIn();     // (0.42, 0, 1, 1)
-QEasingCurve easeInOut();  // (0.42, 0, 0.58, 1)
+QEasingCurve easeOut();   // (0, 0, 0.58, 1)
+QEasingCurve easeIn();    // (0.42, 0, 1, 1)
+QEasingCurve easeInOut(); // (0.42, 0, 0.58, 1)
 // A critically damped-looking spring: response 0.3 s, damping fraction 0.825.
 QEasingCurve spring();
 
-inline constexpr int defaultDurationMs = 350;  // the platform's default animation
-inline constexpr int springDurationMs = 450;   // until the spring has settled
+inline constexpr int defaultDurationMs = 350; // the platform's default animation
+inline constexpr int springDurationMs = 450;  // until the spring has settled
 
 // Runs `apply(progress)` with progress rising from 0 to 1 along `curve` over `durationMs`,
 // after `delayMs`. The animation belongs to `context` and stops with it. With animations off,

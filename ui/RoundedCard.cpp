@@ -7,9 +7,7 @@
 
 namespace qf::ui {
 
-RoundedCard::RoundedCard(QWidget* parent) : QWidget(parent)
-{
-}
+RoundedCard::RoundedCard(QWidget* parent) : QWidget(parent) {}
 
 void RoundedCard::setShape(const Shape& shape)
 {
@@ -57,10 +55,9 @@ void RoundedCard::paintEvent(QPaintEvent*)
     const QRectF bounds = QRectF(rect());
     const QPainterPath path = m_shape.path(bounds);
     if (m_gradient) {
-        QLinearGradient gradient(bounds.left() + bounds.width() * m_gradientFrom.x(),
-                                 bounds.top() + bounds.height() * m_gradientFrom.y(),
-                                 bounds.left() + bounds.width() * m_gradientTo.x(),
-                                 bounds.top() + bounds.height() * m_gradientTo.y());
+        QLinearGradient gradient(
+            bounds.left() + bounds.width() * m_gradientFrom.x(), bounds.top() + bounds.height() * m_gradientFrom.y(),
+            bounds.left() + bounds.width() * m_gradientTo.x(), bounds.top() + bounds.height() * m_gradientTo.y());
         gradient.setColorAt(0, m_gradient->first.resolve());
         gradient.setColorAt(1, m_gradient->second.resolve());
         painter.fillPath(path, gradient);

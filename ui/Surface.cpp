@@ -35,26 +35,26 @@ QPainterPath continuousRoundedRect(const QRectF& rect, qreal radius)
     // top edge and top-right corner
     path.lineTo(ri - reach * r, t);
     path.cubicTo(ri - 1.08849323 * r, t, ri - 0.86840689 * r, t, ri - 0.63149399 * r, t + 0.07491100 * r);
-    path.cubicTo(ri - 0.37282392 * r, t + 0.16905899 * r, ri - 0.16905899 * r, t + 0.37282392 * r,
-                 ri - 0.07491100 * r, t + 0.63149399 * r);
+    path.cubicTo(ri - 0.37282392 * r, t + 0.16905899 * r, ri - 0.16905899 * r, t + 0.37282392 * r, ri - 0.07491100 * r,
+                 t + 0.63149399 * r);
     path.cubicTo(ri, t + 0.86840689 * r, ri, t + 1.08849323 * r, ri, t + reach * r);
     // right edge and bottom-right corner
     path.lineTo(ri, b - reach * r);
     path.cubicTo(ri, b - 1.08849323 * r, ri, b - 0.86840689 * r, ri - 0.07491100 * r, b - 0.63149399 * r);
-    path.cubicTo(ri - 0.16905899 * r, b - 0.37282392 * r, ri - 0.37282392 * r, b - 0.16905899 * r,
-                 ri - 0.63149399 * r, b - 0.07491100 * r);
+    path.cubicTo(ri - 0.16905899 * r, b - 0.37282392 * r, ri - 0.37282392 * r, b - 0.16905899 * r, ri - 0.63149399 * r,
+                 b - 0.07491100 * r);
     path.cubicTo(ri - 0.86840689 * r, b, ri - 1.08849323 * r, b, ri - reach * r, b);
     // bottom edge and bottom-left corner
     path.lineTo(l + reach * r, b);
     path.cubicTo(l + 1.08849323 * r, b, l + 0.86840689 * r, b, l + 0.63149399 * r, b - 0.07491100 * r);
-    path.cubicTo(l + 0.37282392 * r, b - 0.16905899 * r, l + 0.16905899 * r, b - 0.37282392 * r,
-                 l + 0.07491100 * r, b - 0.63149399 * r);
+    path.cubicTo(l + 0.37282392 * r, b - 0.16905899 * r, l + 0.16905899 * r, b - 0.37282392 * r, l + 0.07491100 * r,
+                 b - 0.63149399 * r);
     path.cubicTo(l, b - 0.86840689 * r, l, b - 1.08849323 * r, l, b - reach * r);
     // left edge and top-left corner
     path.lineTo(l, t + reach * r);
     path.cubicTo(l, t + 1.08849323 * r, l, t + 0.86840689 * r, l + 0.07491100 * r, t + 0.63149399 * r);
-    path.cubicTo(l + 0.16905899 * r, t + 0.37282392 * r, l + 0.37282392 * r, t + 0.16905899 * r,
-                 l + 0.63149399 * r, t + 0.07491100 * r);
+    path.cubicTo(l + 0.16905899 * r, t + 0.37282392 * r, l + 0.37282392 * r, t + 0.16905899 * r, l + 0.63149399 * r,
+                 t + 0.07491100 * r);
     path.cubicTo(l + 0.86840689 * r, t, l + 1.08849323 * r, t, l + reach * r, t);
     path.closeSubpath();
     return path;
@@ -64,19 +64,14 @@ QPainterPath Shape::path(const QRectF& rect) const
 {
     QPainterPath p;
     switch (kind) {
-    case roundedRect:
-        return continuousRoundedRect(rect, cornerRadius);
+    case roundedRect: return continuousRoundedRect(rect, cornerRadius);
     case capsule: {
         const qreal r = std::min(rect.width(), rect.height()) / 2.0;
         p.addRoundedRect(rect, r, r);
         return p;
     }
-    case ellipse:
-        p.addEllipse(rect);
-        return p;
-    case alpha:
-        p.addRect(rect);
-        return p;
+    case ellipse: p.addEllipse(rect); return p;
+    case alpha: p.addRect(rect); return p;
     }
     return p;
 }
@@ -144,8 +139,27 @@ int shadowMargin(qreal blurRadius) { return static_cast<int>(std::ceil(std::max<
 
 namespace {
 
-QImage colorize(const QImage& mask, const QColor& color, qreal dpr)
+// The one way a shadow is made: `paintSilhouette` draws the casting shape (in logical pixels,
+// its top left at the origin) into an alpha mask with room for the blur around it; the mask
+// is blurred and filled with `color`.
+template <typename PaintSilhouette>
+QImage renderShadow(const QSizeF& size, qreal blurRadius, const QColor& color, qreal dpr,
+                    PaintSilhouette&& paintSilhouette)
 {
+    const int margin = shadowMargin(blurRadius);
+    const QSize pixels(qCeil((size.width() + 2 * margin) * dpr), qCeil((size.height() + 2 * margin) * dpr));
+    QImage mask(pixels, QImage::Format_Alpha8);
+    mask.fill(0);
+    {
+        QPainter painter(&mask);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.scale(dpr, dpr);
+        painter.translate(margin, margin);
+        paintSilhouette(painter);
+    }
+    // The design's shadow radius is a blur radius of about two standard deviations.
+    blurAlpha(mask, blurRadius / 2.0 * dpr);
+
     QImage image(mask.size(), QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     QPainter painter(&image);
@@ -161,7 +175,7 @@ QImage colorize(const QImage& mask, const QColor& color, qreal dpr)
 
 QImage shadowImage(const QSizeF& size, const Shape& shape, qreal blurRadius, const QColor& color, qreal dpr)
 {
-    static QCache<QString, QImage> cache(64 * 1024 * 1024 / 1024);  // cost in kilobytes
+    static QCache<QString, QImage> cache(64 * 1024 * 1024 / 1024); // cost in kilobytes
     const QString key = QStringLiteral("%1x%2:%3:%4:%5:%6:%7")
                             .arg(size.width())
                             .arg(size.height())
@@ -173,19 +187,9 @@ QImage shadowImage(const QSizeF& size, const Shape& shape, qreal blurRadius, con
     if (const QImage* hit = cache.object(key))
         return *hit;
 
-    const int margin = shadowMargin(blurRadius);
-    const QSize pixels(qCeil((size.width() + 2 * margin) * dpr), qCeil((size.height() + 2 * margin) * dpr));
-    QImage mask(pixels, QImage::Format_Alpha8);
-    mask.fill(0);
-    {
-        QPainter painter(&mask);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.scale(dpr, dpr);
-        painter.fillPath(shape.path(QRectF(QPointF(margin, margin), size)), Qt::black);
-    }
-    // The design's shadow radius is a blur radius of about two standard deviations.
-    blurAlpha(mask, blurRadius / 2.0 * dpr);
-    QImage result = colorize(mask, color, dpr);
+    QImage result = renderShadow(size, blurRadius, color, dpr, [&](QPainter& painter) {
+        painter.fillPath(shape.path(QRectF(QPointF(0, 0), size)), Qt::black);
+    });
     const int cost = std::max<qsizetype>(1, result.sizeInBytes() / 1024);
     cache.insert(key, new QImage(result), cost);
     return result;
@@ -208,7 +212,7 @@ void SurfaceEffect::setShadow(std::optional<ShadowStyle> shadow, Shape shape)
 {
     if (shadow == m_shadow && shape == m_shape)
         return;
-    m_shadow = std::move(shadow);
+    m_shadow = shadow;
     m_shape = shape;
     m_alphaShadowKey.clear();
     updateBoundingRect();
@@ -282,19 +286,8 @@ QImage SurfaceEffect::alphaShadow(const QRectF& sourceRect, qreal dpr)
 
     QPoint offset;
     const QPixmap source = sourcePixmap(Qt::LogicalCoordinates, &offset, QGraphicsEffect::NoPad);
-    const int margin = shadowMargin(m_shadow->radius);
-    const QSize pixels(qCeil((sourceRect.width() + 2 * margin) * dpr), qCeil((sourceRect.height() + 2 * margin) * dpr));
-    QImage mask(pixels, QImage::Format_Alpha8);
-    mask.fill(0);
-    {
-        QPainter painter(&mask);
-        painter.scale(dpr, dpr);
-        QPixmap copy = source;
-        copy.setDevicePixelRatio(source.devicePixelRatio());
-        painter.drawPixmap(QPointF(margin, margin), copy);
-    }
-    blurAlpha(mask, m_shadow->radius / 2.0 * dpr);
-    m_alphaShadowCache = colorize(mask, color, dpr);
+    m_alphaShadowCache = renderShadow(sourceRect.size(), m_shadow->radius, color, dpr,
+                                      [&](QPainter& painter) { painter.drawPixmap(QPointF(0, 0), source); });
     m_alphaShadowKey = key;
     return m_alphaShadowCache;
 }
@@ -307,8 +300,9 @@ void SurfaceEffect::drawShadow(QPainter* painter, const QRectF& sourceRect)
     if (color.alpha() == 0)
         return;
     const qreal dpr = painter->device() ? painter->device()->devicePixelRatioF() : 1.0;
-    const QImage image = m_shape.kind == Shape::alpha ? alphaShadow(sourceRect, dpr)
-                                                      : shadowImage(sourceRect.size(), m_shape, m_shadow->radius, color, dpr);
+    const QImage image = m_shape.kind == Shape::alpha
+                             ? alphaShadow(sourceRect, dpr)
+                             : shadowImage(sourceRect.size(), m_shape, m_shadow->radius, color, dpr);
     const int margin = shadowMargin(m_shadow->radius);
     painter->drawImage(sourceRect.topLeft() + m_shadow->offset - QPointF(margin, margin), image);
 }

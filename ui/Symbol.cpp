@@ -97,8 +97,7 @@ QStringList names()
 
 int boxSize(qreal pointSize) { return qMax(1, qRound(pointSize * 1.2)); }
 
-QPixmap pixmap(const QString& name, qreal pointSize, const QColor& color, qreal devicePixelRatio,
-               SymbolWeight weight)
+QPixmap pixmap(const QString& name, qreal pointSize, const QColor& color, qreal devicePixelRatio, SymbolWeight weight)
 {
     const auto entry = catalogue().constFind(name);
     if (entry == catalogue().constEnd())
@@ -150,7 +149,7 @@ QPixmap pixmap(const QString& name, qreal pointSize, const QColor& color, qreal 
 } // namespace Symbol
 
 SymbolView::SymbolView(const QString& name, qreal pointSize, Tint tint, SymbolWeight weight, QWidget* parent)
-    : QWidget(parent), m_name(name), m_pointSize(pointSize), m_tint(std::move(tint)), m_weight(weight)
+    : QWidget(parent), m_name(name), m_pointSize(pointSize), m_tint(tint), m_weight(weight)
 {
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }

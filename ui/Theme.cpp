@@ -85,9 +85,7 @@ QFont font(qreal pointSize, QFont::Weight weight, FontDesign design)
     QFont f = QGuiApplication::font();
     QStringList families;
     switch (design) {
-    case FontDesign::standard:
-        families = standardFamilies();
-        break;
+    case FontDesign::standard: families = standardFamilies(); break;
     case FontDesign::rounded:
         families = {QStringLiteral("SF Pro Rounded"), QStringLiteral("Nunito"), QStringLiteral("Varela Round")};
         families += standardFamilies();

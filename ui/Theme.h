@@ -15,12 +15,12 @@ namespace qf::ui {
 // Colour roles of the system look. Every colour on screen is one of these, at some opacity,
 // resolved at paint time so that a change to dark mode re-colours everything.
 enum class Role {
-    windowBackground,   // the window and screen backgrounds
-    controlBackground,  // cards, bars, toasts
-    textBackground,     // code and command boxes
-    primary,            // primary text
-    secondary,          // secondary text
-    tertiary,           // tertiary text
+    windowBackground,  // the window and screen backgrounds
+    controlBackground, // cards, bars, toasts
+    textBackground,    // code and command boxes
+    primary,           // primary text
+    secondary,         // secondary text
+    tertiary,          // tertiary text
     separator,
     accent,
     blue,
@@ -70,14 +70,14 @@ QColor color(Role role);
 QFont font(qreal pointSize, QFont::Weight weight = QFont::Normal, FontDesign design = FontDesign::standard);
 
 // The system text styles.
-QFont title();        // 22
-QFont title2();       // 17
-QFont headline();     // 13 semibold
-QFont body();         // 13
-QFont callout();      // 12
-QFont subheadline();  // 11
-QFont caption();      // 10
-QFont caption2();     // 10
+QFont title();       // 22
+QFont title2();      // 17
+QFont headline();    // 13 semibold
+QFont body();        // 13
+QFont callout();     // 12
+QFont subheadline(); // 11
+QFont caption();     // 10
+QFont caption2();    // 10
 
 // Gives the application the look the platform asks for: the system's own, or the same palette
 // roles drawn by Qt's Fusion style (light or dark as the platform prefers, else as the

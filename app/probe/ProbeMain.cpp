@@ -110,10 +110,7 @@ private:
     QList<QStringList> m_rows;
 };
 
-QString orDash(const std::optional<QString>& text)
-{
-    return text && !text->isEmpty() ? *text : QStringLiteral("-");
-}
+QString orDash(const std::optional<QString>& text) { return text && !text->isEmpty() ? *text : QStringLiteral("-"); }
 
 QString describeFailure(const ServiceError& error)
 {
@@ -150,8 +147,8 @@ void printHeader(Services& services)
 QCoro::Task<void> printAiTools(Services& services)
 {
     printHeading(QStringLiteral("AI tools"));
-    Table table({QStringLiteral("Tool"), QStringLiteral("Command"), QStringLiteral("Status"),
-                 QStringLiteral("which"), QStringLiteral("Version (--version)")});
+    Table table({QStringLiteral("Tool"), QStringLiteral("Command"), QStringLiteral("Status"), QStringLiteral("which"),
+                 QStringLiteral("Version (--version)")});
     for (const CLITool& tool : CLITool::allCases()) {
         const QString command = tool.commandName();
         const Result<QString> found = co_await services.runner.run(QStringLiteral("which ") + command);
@@ -179,15 +176,15 @@ QCoro::Task<void> printAiTools(Services& services)
 QCoro::Task<void> printSupportingItems(Services& services)
 {
     printHeading(QStringLiteral("Supporting items"));
-    const QList<SystemTool> items = co_await detectSystemTools(
-        systemToolCatalogue(services.platform), services.runner, services.platform.developerToolsItem());
+    const QList<SystemTool> items = co_await detectSystemTools(systemToolCatalogue(services.platform), services.runner,
+                                                               services.platform.developerToolsItem());
 
     Table table({QStringLiteral("#"), QStringLiteral("Item"), QStringLiteral("Status"), QStringLiteral("Version"),
                  QStringLiteral("Optional")});
     for (const SystemTool& item : items) {
         table.addRow({item.stepNumber ? QString::number(*item.stepNumber) : QStringLiteral("-"), item.name,
-                      item.isInstalled ? QStringLiteral("installed") : QStringLiteral("missing"),
-                      orDash(item.version), item.isOptional ? QStringLiteral("yes") : QStringLiteral("no")});
+                      item.isInstalled ? QStringLiteral("installed") : QStringLiteral("missing"), orDash(item.version),
+                      item.isOptional ? QStringLiteral("yes") : QStringLiteral("no")});
     }
     table.print();
 
@@ -231,8 +228,8 @@ QCoro::Task<void> printRequirements(Services& services)
         bool canProceed = true;
         bool nodeWillBeInstalled = false;
         for (const RequirementStatus& status : requirements) {
-            table.addRow({status.requirement.title(services.platform.wording()), status.isMet ? QStringLiteral("met") : QStringLiteral("not met"),
-                          status.details});
+            table.addRow({status.requirement.title(services.platform.wording()),
+                          status.isMet ? QStringLiteral("met") : QStringLiteral("not met"), status.details});
             if (status.isMet)
                 continue;
             // A missing or old Node.js never blocks: the installation installs it.

@@ -37,7 +37,7 @@ public:
     SystemWording words = MacPlatform::standardWording();
     ApplicationLook look;
     OperatingSystemCheck osCheck{true, QStringLiteral("macOS 14.5.0")};
-    std::optional<DiskSpace> diskSpace;  // nothing: the real free space
+    std::optional<DiskSpace> diskSpace; // nothing: the real free space
     QStringList directories;
     QStringList npmPrograms;
     DeveloperToolsItem developerTools = MacPlatform::commandLineToolsItem();

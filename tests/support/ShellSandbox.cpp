@@ -6,6 +6,7 @@
 #include <QStandardPaths>
 
 #include <algorithm>
+#include <ranges>
 
 #include <gtest/gtest.h>
 
@@ -15,9 +16,10 @@ namespace {
 
 // Real utilities that commands and fakes may use; nothing that the app looks for.
 const char* const kUtilities[] = {
-    "sh", "bash", "cat", "sleep", "head", "tail", "printf", "mkdir", "rm", "rmdir", "dd", "tr", "ls", "env",
-    "true", "false", "echo", "wc", "sed", "grep", "seq", "touch", "chmod", "ln", "cp", "mv", "dirname",
-    "basename", "uname", "id", "tee", "yes", "mktemp", "sort", "cut", "stat", "readlink", "kill", "ps",
+    "sh",  "bash",  "cat",    "sleep", "head", "tail",  "printf",   "mkdir",    "rm",    "rmdir",
+    "dd",  "tr",    "ls",     "env",   "true", "false", "echo",     "wc",       "sed",   "grep",
+    "seq", "touch", "chmod",  "ln",    "cp",   "mv",    "dirname",  "basename", "uname", "id",
+    "tee", "yes",   "mktemp", "sort",  "cut",  "stat",  "readlink", "kill",     "ps",
 };
 
 } // namespace
@@ -49,11 +51,11 @@ ShellSandbox::ShellSandbox()
 
 ShellSandbox::~ShellSandbox()
 {
-    for (auto it = m_savedEnvironment.crbegin(); it != m_savedEnvironment.crend(); ++it) {
-        if (it->second)
-            qputenv(it->first.constData(), *it->second);
+    for (const auto& [name, value] : std::views::reverse(m_savedEnvironment)) {
+        if (value)
+            qputenv(name.constData(), *value);
         else
-            qunsetenv(it->first.constData());
+            qunsetenv(name.constData());
     }
 }
 

@@ -23,9 +23,9 @@ public:
     ~ShellSandbox();
 
     QString home() const;
-    QString binDirectory() const;   // fake programs live here
-    QString stateDirectory() const; // fakes keep what they "installed" here
-    QString path(const QString& relative) const;  // inside home
+    QString binDirectory() const;                // fake programs live here
+    QString stateDirectory() const;              // fakes keep what they "installed" here
+    QString path(const QString& relative) const; // inside home
     // Where the sandbox keeps what a real machine has at a system path such as /usr/local/bin.
     QString systemPath(const QString& absolute) const;
 

@@ -23,7 +23,7 @@ AnimationsOn::~AnimationsOn() { ui::motion::setEnabled(false); }
 QString clearPreferences()
 {
     static int counter = 0;
-    const QString path = QStringLiteral("%1/preferences-%2.ini").arg(qEnvironmentVariable("HOME")).arg(++counter);
+    QString path = QStringLiteral("%1/preferences-%2.ini").arg(qEnvironmentVariable("HOME")).arg(++counter);
     QFile::remove(path);
     Preferences::useFile(path);
     return path;

@@ -39,10 +39,9 @@ QStringList readableTexts(const Platform& platform)
         for (const ExampleCommand& example : tool.exampleCommands())
             texts << example.description;
     }
-    for (InstallationError error :
-         {InstallationError::verificationFailed, InstallationError::nodeInstallFailed, InstallationError::gitNotFound,
-          InstallationError::uninstallFailed, InstallationError::manualUninstallRequired,
-          InstallationError::folderNotEmpty}) {
+    for (InstallationError error : {InstallationError::verificationFailed, InstallationError::nodeInstallFailed,
+                                    InstallationError::gitNotFound, InstallationError::uninstallFailed,
+                                    InstallationError::manualUninstallRequired, InstallationError::folderNotEmpty}) {
         texts << errorDescription(error, wording);
     }
     for (const SystemTool& item : systemToolCatalogue(platform))
@@ -89,7 +88,7 @@ TEST(Wording, ASetupWithoutGitOnLinuxSaysWhatToInstall)
     machine.sandbox.installFake(QStringLiteral("curl"));
     QString log;
     const auto result = test::await(machine.services.installer.runSetup(
-        CLITool::claudeCode, [](SetupStepType, SetupStepStatus, std::optional<QString>) {},
+        CLITool::claudeCode, [](SetupStepType, const SetupStepStatus&, const std::optional<QString>&) {},
         [&](const QString& text) { log += text; }));
     ASSERT_TRUE(result.has_value());
     ASSERT_FALSE(result->ok());

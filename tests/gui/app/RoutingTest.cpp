@@ -51,7 +51,7 @@ TEST_F(RoutingTest, EveryStepGetsAFreshScreen)
     state.setCurrentStep(InstallationStep::home);
     state.setCurrentStep(InstallationStep::onboarding);
     test::settle();
-    EXPECT_TRUE(first.isNull());  // the old screen is gone, not reused
+    EXPECT_TRUE(first.isNull()); // the old screen is gone, not reused
     EXPECT_EQ(view.currentScreen()->objectName(), QStringLiteral("onboarding"));
     EXPECT_EQ(*counting.built, 3);
 }
@@ -125,5 +125,5 @@ TEST_F(RoutingTest, WindowFillsTheUsableScreenAndKeepsItsMinimum)
     ASSERT_TRUE(window.isConfigured());
     const QRect available = QGuiApplication::primaryScreen()->availableGeometry();
     EXPECT_EQ(window.frameGeometry(), available);
-    EXPECT_EQ(platform.windowsConfigured, 1);  // the platform shapes it once
+    EXPECT_EQ(platform.windowsConfigured, 1); // the platform shapes it once
 }

@@ -127,7 +127,7 @@ TEST_F(OnboardingTest, EntranceAnimationMovesEveryElementFromOutToIn)
         EXPECT_EQ(lookOf(e.buttonRow).offset, QPointF(0, 20));
     };
     expectOut();
-    entrance->setCurrentTime(OnboardingView::entranceDelayMs - 10);  // still waiting
+    entrance->setCurrentTime(OnboardingView::entranceDelayMs - 10); // still waiting
     expectOut();
 
     // Half way every element is on its way, all together.
@@ -164,7 +164,7 @@ TEST_F(OnboardingTest, GetStartedMidAnimationStoresThePreferenceAndGoesHome)
     auto* view = qobject_cast<OnboardingView*>(window.contentView()->currentScreen());
     ASSERT_NE(view, nullptr);
     ASSERT_NE(view->entranceAnimation(), nullptr);
-    view->entranceAnimation()->setCurrentTime(300);  // the button is still fading in
+    view->entranceAnimation()->setCurrentTime(300); // the button is still fading in
 
     auto* button = test::child<ui::Button>(view, QStringLiteral("getStartedButton"));
     QTest::mouseClick(button, Qt::LeftButton);

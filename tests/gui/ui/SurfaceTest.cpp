@@ -11,7 +11,7 @@ TEST(Surface, ContinuousCornersStayInsideTheirRectangle)
     const QPainterPath path = continuousRoundedRect(rect, 14);
     EXPECT_TRUE(path.contains(rect.center()));
     EXPECT_FALSE(path.contains(QPointF(1, 1)));  // the corner is cut
-    EXPECT_TRUE(path.contains(QPointF(100, 1)));  // the straight edge is not
+    EXPECT_TRUE(path.contains(QPointF(100, 1))); // the straight edge is not
     EXPECT_LE(path.boundingRect().width(), rect.width() + 0.01);
 
     // A radius larger than the rectangle allows becomes the largest rounding that fits.
@@ -39,9 +39,9 @@ TEST(Surface, BlurSpreadsButKeepsTheMask)
     ASSERT_EQ(before, 11 * 11 * 255);
     blurAlpha(mask, 3.0);
     EXPECT_NEAR(double(total(mask)), double(before), before * 0.03);
-    EXPECT_GT(mask.constScanLine(20)[11], 0);     // spread beyond the square
-    EXPECT_LT(mask.constScanLine(20)[20], 255);   // and softened inside
-    EXPECT_EQ(mask.constScanLine(0)[0], 0);       // far corners untouched
+    EXPECT_GT(mask.constScanLine(20)[11], 0);   // spread beyond the square
+    EXPECT_LT(mask.constScanLine(20)[20], 255); // and softened inside
+    EXPECT_EQ(mask.constScanLine(0)[0], 0);     // far corners untouched
 }
 
 TEST(Surface, ShadowImagesCoverTheShapeAndTheirMargin)
@@ -61,7 +61,7 @@ TEST(Surface, EffectReachesBeyondTheWidgetOnlyForShadowAndMotion)
     QWidget widget;
     widget.resize(100, 40);
     SurfaceEffect* effect = SurfaceEffect::of(&widget);
-    EXPECT_EQ(SurfaceEffect::of(&widget), effect);  // one effect per widget
+    EXPECT_EQ(SurfaceEffect::of(&widget), effect); // one effect per widget
     const QRectF source(0, 0, 100, 40);
     EXPECT_TRUE(effect->isAtRest());
     EXPECT_TRUE(effect->boundingRectFor(source).contains(source));

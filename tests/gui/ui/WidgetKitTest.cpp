@@ -68,7 +68,7 @@ TEST(Button, ReportsClicksAndNamesItself)
     QTest::mouseClick(&button, Qt::LeftButton);
     EXPECT_EQ(clicks.count(), 1);
     QTest::keyClick(&button, Qt::Key_Return);
-    (void)QTest::qWaitFor([&] { return clicks.count() == 2; }, 2000);  // animateClick releases after a moment
+    (void)QTest::qWaitFor([&] { return clicks.count() == 2; }, 2000); // animateClick releases after a moment
     EXPECT_EQ(clicks.count(), 2);
     button.setEnabled(false);
     QTest::mouseClick(&button, Qt::LeftButton);
@@ -100,7 +100,8 @@ TEST(Motion, WithAnimationsOffChangesLandAtOnce)
 
     test::AnimationsOn on;
     last = -1;
-    QAbstractAnimation* running = motion::animate(&context, 300, motion::easeOut(), [&](qreal p) { last = p; }, 100);
+    QAbstractAnimation* running = motion::animate(
+        &context, 300, motion::easeOut(), [&](qreal p) { last = p; }, 100);
     ASSERT_NE(running, nullptr);
     EXPECT_EQ(running->totalDuration(), 400);
     running->setCurrentTime(400);

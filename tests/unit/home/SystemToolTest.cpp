@@ -26,7 +26,10 @@ protected:
         ADD_FAILURE() << "no item " << int(id);
         return tools.first();
     }
-    void act(const SystemTool& tool) { handleSystemToolAction(tool, platform, [this] { ++reloads; }); }
+    void act(const SystemTool& tool)
+    {
+        handleSystemToolAction(tool, platform, [this] { ++reloads; });
+    }
 
     int reloads = 0;
 };
@@ -89,8 +92,8 @@ TEST_F(SystemToolTest, VersionsAsTheyAreShown)
     EXPECT_EQ(item(tools, SystemToolID::developerTools).version, QString());
     EXPECT_TRUE(item(tools, SystemToolID::developerFolder).isInstalled);
     EXPECT_FALSE(item(tools, SystemToolID::developerFolder).version.has_value());
-    EXPECT_EQ(item(tools, SystemToolID::homebrew).version, QStringLiteral("4.2.0"));  // first line only
-    EXPECT_EQ(item(tools, SystemToolID::node).version, QStringLiteral("v20.10.0"));   // with its v
+    EXPECT_EQ(item(tools, SystemToolID::homebrew).version, QStringLiteral("4.2.0")); // first line only
+    EXPECT_EQ(item(tools, SystemToolID::node).version, QStringLiteral("v20.10.0"));  // with its v
 
     sandbox.setEnv("FAKE_FULL_XCODE", "1");
     EXPECT_EQ(item(detect(), SystemToolID::developerTools).version, QStringLiteral("15.2"));

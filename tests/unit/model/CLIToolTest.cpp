@@ -37,9 +37,9 @@ TEST(CLITool, EveryToolIsCompleteAndDistinct)
     QSet<QString> names, commands, packages, variables, colours, urls;
     const QRegularExpression variableName(QStringLiteral("^[A-Z][A-Z0-9_]*$"));
     for (CLITool tool : CLITool::allCases()) {
-        for (const QString& text : {tool.displayName(), tool.provider(), tool.iconName(), tool.logoImageName(),
-                                    tool.toolDescription(), tool.accountRequirement(), tool.pricingInfo(),
-                                    tool.signInNote(), tool.uninstallDescription()}) {
+        for (const QString& text :
+             {tool.displayName(), tool.provider(), tool.iconName(), tool.logoImageName(), tool.toolDescription(),
+              tool.accountRequirement(), tool.pricingInfo(), tool.signInNote(), tool.uninstallDescription()}) {
             EXPECT_FALSE(text.trimmed().isEmpty()) << name(tool);
         }
         EXPECT_EQ(tool.features().size(), 4) << name(tool);
@@ -64,7 +64,7 @@ TEST(CLITool, EveryToolIsCompleteAndDistinct)
     }
     for (const QSet<QString>* distinct : {&names, &commands, &packages, &variables, &colours})
         EXPECT_EQ(distinct->size(), 3);
-    EXPECT_EQ(urls.size(), 9);  // no page stands in for another
+    EXPECT_EQ(urls.size(), 9); // no page stands in for another
 }
 
 TEST(CLITool, ListsKeepTheirLengthsAndAreShared)
@@ -102,7 +102,7 @@ TEST(CLITool, AccountStepsFollowTheSystemsWording)
     ASSERT_EQ(onMac.size(), onLinux.size());
     EXPECT_EQ(onLinux[1].description, linux.toolInstallStep);
     EXPECT_EQ(onMac[1].description, macWording().toolInstallStep);
-    EXPECT_EQ(onLinux[0], onMac[0]);  // every other step is the same
+    EXPECT_EQ(onLinux[0], onMac[0]); // every other step is the same
 }
 
 TEST(CLITool, InstallCommands)
@@ -128,8 +128,10 @@ TEST(CLITool, UninstallLinesTryEveryNpmAndAlwaysSucceed)
     for (CLITool tool : CLITool::allCases()) {
         const QString line = tool.uninstallCommand(npms);
         // Each npm in the order given, then every nvm version with its own prefix.
-        const QString first = npms[0] + QStringLiteral(" uninstall -g ") + tool.npmPackage() + QStringLiteral(" 2>/dev/null; ");
-        const QString second = npms[1] + QStringLiteral(" uninstall -g ") + tool.npmPackage() + QStringLiteral(" 2>/dev/null; ");
+        const QString first = npms[0] + QStringLiteral(" uninstall -g ") + tool.npmPackage() +
+                              QStringLiteral(" 2>/dev/null; ");
+        const QString second = npms[1] + QStringLiteral(" uninstall -g ") + tool.npmPackage() +
+                               QStringLiteral(" 2>/dev/null; ");
         EXPECT_TRUE(line.startsWith(first + second)) << line.toStdString();
         EXPECT_TRUE(line.contains(QStringLiteral("for ver in ~/.nvm/versions/node/*; do [ -x \"$ver/bin/npm\" ] && "
                                                  "\"$ver/bin/npm\" --prefix \"$ver\" uninstall -g ") +
@@ -142,8 +144,8 @@ TEST(CLITool, UninstallLinesTryEveryNpmAndAlwaysSucceed)
     }
     // Claude Code also loses its local copy and downloads, before the end, and nothing else.
     const QString claude = CLITool(CLITool::claudeCode).uninstallCommand(npms);
-    EXPECT_TRUE(claude.endsWith(QStringLiteral(
-        "; rm -rf ~/.claude/local 2>/dev/null; rm -rf ~/.claude/downloads 2>/dev/null; exit 0")));
+    EXPECT_TRUE(claude.endsWith(
+        QStringLiteral("; rm -rf ~/.claude/local 2>/dev/null; rm -rf ~/.claude/downloads 2>/dev/null; exit 0")));
     EXPECT_FALSE(CLITool(CLITool::codex).uninstallCommand(npms).contains(QStringLiteral("rm -rf")));
 }
 

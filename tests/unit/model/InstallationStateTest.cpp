@@ -116,7 +116,7 @@ TEST_F(InstallationStateTest, ResetClearsTheAttemptButNotTheStep)
 TEST_F(InstallationStateTest, CanProceedIgnoresOnlyNodeJS)
 {
     InstallationState state;
-    EXPECT_TRUE(state.canProceed());  // nothing checked yet
+    EXPECT_TRUE(state.canProceed()); // nothing checked yet
 
     const RequirementStatus macOK{SystemRequirement::macOSVersion, true, QStringLiteral("macOS 14.5.0")};
     const RequirementStatus diskOK{SystemRequirement::diskSpace, true, QStringLiteral("512 MB available")};
@@ -125,8 +125,8 @@ TEST_F(InstallationStateTest, CanProceedIgnoresOnlyNodeJS)
     state.setRequirements({macOK, diskOK, nodeMissing});
     EXPECT_TRUE(state.canProceed());
 
-    state.setRequirements({{SystemRequirement::macOSVersion, false, QStringLiteral("macOS 13.6.1")}, diskOK,
-                           nodeMissing});
+    state.setRequirements(
+        {{SystemRequirement::macOSVersion, false, QStringLiteral("macOS 13.6.1")}, diskOK, nodeMissing});
     EXPECT_FALSE(state.canProceed());
 
     state.setRequirements({macOK, {SystemRequirement::diskSpace, false, QStringLiteral("199 MB available")}});

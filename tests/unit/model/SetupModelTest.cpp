@@ -6,7 +6,7 @@ using namespace qf;
 
 TEST(InstallationStep, RawValuesFollowFlowOrder)
 {
-    const char* names[] = {"onboarding", "home",       "welcome",    "accountSetup", "systemCheck",
+    const char* names[] = {"onboarding",   "home",   "welcome",    "accountSetup", "systemCheck",
                            "installation", "apiKey", "completion", "terminal"};
     for (int raw = 0; raw <= 8; ++raw) {
         const auto step = installationStepFromRawValue(raw);
@@ -30,8 +30,10 @@ TEST(SystemRequirement, IdentityAndWording)
     EXPECT_EQ(status.id(), QStringLiteral("diskSpace"));
 
     // The texts that name the system are the system's own; the others are the same everywhere.
-    const SystemWording wording{.osRequirementTitle = QStringLiteral("t"), .osRequirementHelp = QStringLiteral("h"),
-                                .osRequirementFix = QStringLiteral("f"), .diskSpaceHelp = QStringLiteral("d"),
+    const SystemWording wording{.osRequirementTitle = QStringLiteral("t"),
+                                .osRequirementHelp = QStringLiteral("h"),
+                                .osRequirementFix = QStringLiteral("f"),
+                                .diskSpaceHelp = QStringLiteral("d"),
                                 .nodeFixSuggestion = QStringLiteral("n")};
     const SystemRequirement os = SystemRequirement::macOSVersion;
     EXPECT_EQ(os.title(wording) + os.helpText(wording) + os.fixSuggestion(wording), QStringLiteral("thf"));
@@ -92,6 +94,6 @@ TEST(SetupStep, IdentityIsTheTypeAndDetailsStartAbsent)
 
     SetupStep copy = step;
     copy.details = QStringLiteral("Gemini CLI");
-    EXPECT_NE(copy, step);  // a plain value: changing the copy leaves the original alone
+    EXPECT_NE(copy, step); // a plain value: changing the copy leaves the original alone
     EXPECT_FALSE(step.details.has_value());
 }

@@ -49,14 +49,30 @@ TEST(LinuxPlatformShellQuote, QuotesEverythingElse)
 TEST(LinuxPlatformShellQuote, HostileWordsSurviveRealShells)
 {
     const QStringList words{
-        QStringLiteral("two words"),        QStringLiteral("it's"),           QStringLiteral("\"double\""),
-        QStringLiteral("$(touch pwned)"),   QStringLiteral("`touch pwned`"),  QStringLiteral("back\\slash\\"),
-        QStringLiteral("bang! !! !$"),      QStringLiteral("line\nbreak\n"),  QStringLiteral("$HOME ${HOME}"),
-        QStringLiteral("*"),                QStringLiteral("~"),              QStringLiteral("~/x"),
-        QStringLiteral("=true"),            QString(),                        QStringLiteral("'"),
-        QStringLiteral("''\\'"),            QStringLiteral("tab\there"),      QStringLiteral("a;b|c&d>e<f"),
-        QStringLiteral("{a,b}"),            QStringLiteral("-n"),             QStringLiteral("%1 %s"),
-        QStringLiteral("\u00fcml\u00e4ut"), QStringLiteral("#not a comment"), QStringLiteral("a=$(touch pwned)"),
+        QStringLiteral("two words"),
+        QStringLiteral("it's"),
+        QStringLiteral("\"double\""),
+        QStringLiteral("$(touch pwned)"),
+        QStringLiteral("`touch pwned`"),
+        QStringLiteral("back\\slash\\"),
+        QStringLiteral("bang! !! !$"),
+        QStringLiteral("line\nbreak\n"),
+        QStringLiteral("$HOME ${HOME}"),
+        QStringLiteral("*"),
+        QStringLiteral("~"),
+        QStringLiteral("~/x"),
+        QStringLiteral("=true"),
+        QString(),
+        QStringLiteral("'"),
+        QStringLiteral("''\\'"),
+        QStringLiteral("tab\there"),
+        QStringLiteral("a;b|c&d>e<f"),
+        QStringLiteral("{a,b}"),
+        QStringLiteral("-n"),
+        QStringLiteral("%1 %s"),
+        QStringLiteral("\u00fcml\u00e4ut"),
+        QStringLiteral("#not a comment"),
+        QStringLiteral("a=$(touch pwned)"),
     };
     QTemporaryDir sandbox;
     ASSERT_TRUE(sandbox.isValid());
@@ -111,7 +127,8 @@ TEST(LinuxPlatformShellLine, DirectoriesWithBlanksAndQuotesArriveIntact)
     };
     for (const QString& shell : qf::test::availableShells()) {
         for (const auto& [directory, expected] : cases) {
-            const QString line = LinuxPlatform::terminalShellLine(QStringLiteral("pwd"), directory, QStringLiteral("/bin/true"));
+            const QString line = LinuxPlatform::terminalShellLine(QStringLiteral("pwd"), directory,
+                                                                  QStringLiteral("/bin/true"));
             const qf::test::ShellRun run = runShell(shell, line, home, sandbox.path());
             ASSERT_TRUE(run.finished);
             EXPECT_EQ(run.exitCode, 0) << shell.toStdString() << ": " << line.toStdString() << "\n"
@@ -156,26 +173,31 @@ TEST_P(LinuxPlatformCommandLine, StartsALoginShellInTheDirectory)
     const QStringList commandLine = LinuxPlatform::terminalCommandLine(
         q(c.emulator), QStringLiteral("claude"), q(c.directory), QStringLiteral("/home/ada"), shell);
 
-    const QStringList expected = QStringList{q(c.emulator)} + c.expectedOptions +
-                                 inner(shell, LinuxPlatform::terminalShellLine(QStringLiteral("claude"), q(c.directory), shell));
+    const QStringList expected =
+        QStringList{q(c.emulator)} + c.expectedOptions +
+        inner(shell, LinuxPlatform::terminalShellLine(QStringLiteral("claude"), q(c.directory), shell));
     EXPECT_EQ(commandLine, expected);
 }
 
 INSTANTIATE_TEST_SUITE_P(
     LinuxPlatform, LinuxPlatformCommandLine,
     ::testing::Values(
-        EmulatorCase{"/usr/bin/gnome-terminal", "~/Developer",
+        EmulatorCase{"/usr/bin/gnome-terminal",
+                     "~/Developer",
                      {QStringLiteral("--working-directory=/home/ada/Developer"), QStringLiteral("--")}},
-        EmulatorCase{"/usr/bin/konsole", "~/Developer",
+        EmulatorCase{"/usr/bin/konsole",
+                     "~/Developer",
                      {QStringLiteral("--workdir"), QStringLiteral("/home/ada/Developer"), QStringLiteral("-e")}},
-        EmulatorCase{"/usr/bin/xfce4-terminal", "~/Developer",
+        EmulatorCase{"/usr/bin/xfce4-terminal",
+                     "~/Developer",
                      {QStringLiteral("--working-directory=/home/ada/Developer"), QStringLiteral("-x")}},
         EmulatorCase{"/usr/bin/xterm", "~/Developer", {QStringLiteral("-hold"), QStringLiteral("-e")}},
         EmulatorCase{"/usr/bin/x-terminal-emulator", "~/Developer", {QStringLiteral("-e")}},
         EmulatorCase{"/usr/local/bin/xdg-terminal-exec", "~/Developer", {}},
         EmulatorCase{"/opt/kitty/bin/kitty", "~/Developer", {QStringLiteral("-e")}},
         EmulatorCase{"gnome-terminal", "~", {QStringLiteral("--working-directory=/home/ada"), QStringLiteral("--")}},
-        EmulatorCase{"konsole", "/srv/My Projects",
+        EmulatorCase{"konsole",
+                     "/srv/My Projects",
                      {QStringLiteral("--workdir"), QStringLiteral("/srv/My Projects"), QStringLiteral("-e")}}),
     [](const ::testing::TestParamInfo<EmulatorCase>& info) {
         std::string name = QFileInfo(q(info.param.emulator)).fileName().toStdString() + "_" +
@@ -263,8 +285,11 @@ TEST_P(LinuxPlatformOpenTerminal, RunsTheLineInTheDirectoryAndEndsInTheShell)
     const QString shellMark = sandbox.filePath(QStringLiteral("login-shell"));
 
     QByteArray emulator = "#!/bin/sh\n"
-                          "for a in \"$@\"; do printf '%s\\n' \"$a\"; done > " + quoted(argsFile) + "\n"
-                          "pwd > " + quoted(cwdFile) + "\n";
+                          "for a in \"$@\"; do printf '%s\\n' \"$a\"; done > " +
+                          quoted(argsFile) +
+                          "\n"
+                          "pwd > " +
+                          quoted(cwdFile) + "\n";
     if (emulatorName != QLatin1String("xdg-terminal-exec"))
         emulator += "while [ $# -gt 0 ]; do a=$1; shift; case $a in --|-e|-x) break;; esac; done\n";
     emulator += "exec \"$@\"\n";
@@ -272,40 +297,42 @@ TEST_P(LinuxPlatformOpenTerminal, RunsTheLineInTheDirectoryAndEndsInTheShell)
 
     const QString shell = sandbox.filePath(QStringLiteral("shells/fake sh"));
     ASSERT_TRUE(QDir().mkpath(QFileInfo(shell).path()));
-    ASSERT_TRUE(qf::test::writeExecutable(shell, "#!/bin/sh\n"
-                                                 "if [ \"$1\" = -l ] && [ \"$2\" = -c ]; then exec /bin/sh -c \"$3\"; fi\n"
-                                                 "printf '%s\\n' \"$*\" > " + quoted(shellMark) + "\n"));
+    ASSERT_TRUE(
+        qf::test::writeExecutable(shell, "#!/bin/sh\n"
+                                         "if [ \"$1\" = -l ] && [ \"$2\" = -c ]; then exec /bin/sh -c \"$3\"; fi\n"
+                                         "printf '%s\\n' \"$*\" > " +
+                                             quoted(shellMark) + "\n"));
 
     qf::test::ScopedEnv pathEnv("PATH", bin.toUtf8());
     qf::test::ScopedEnv homeEnv("HOME", home.toUtf8());
     qf::test::ScopedEnv shellEnv("SHELL", shell.toUtf8());
 
     LinuxPlatform platform;
-    EXPECT_EQ(platform.terminalDescription(), emulatorName + QStringLiteral(" (") + bin + QLatin1Char('/') +
-                                                  emulatorName + QLatin1Char(')'));
+    EXPECT_EQ(platform.terminalDescription(),
+              emulatorName + QStringLiteral(" (") + bin + QLatin1Char('/') + emulatorName + QLatin1Char(')'));
     qf::test::StdoutCapture capture;
-    platform.openTerminal(QStringLiteral("pwd > ") + qf::shellQuote(pwdFile),
-                          QStringLiteral("~/") + relative);
-    const bool ended = QTest::qWaitFor([&] { return QFile::exists(shellMark); }, 20000);
+    platform.openTerminal(QStringLiteral("pwd > ") + qf::shellQuote(pwdFile), QStringLiteral("~/") + relative);
+    const auto read = [](const QString& path) {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QStringLiteral("<missing>");
+    };
+    // The mark exists as soon as the shell opens it; it is complete with its line break.
+    const bool ended = QTest::qWaitFor([&] { return read(shellMark).endsWith(QLatin1Char('\n')); }, 20000);
     const QString printed = capture.text();
     capture.restore();
 
     EXPECT_EQ(printed, QString());
     ASSERT_TRUE(ended) << "the login shell never started";
 
-    const auto read = [](const QString& path) {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QStringLiteral("<missing>");
-    };
     EXPECT_EQ(read(pwdFile), home + QLatin1Char('/') + relative + QLatin1Char('\n'));
     // The emulator starts in the home folder (compared as real paths: the temporary folder
     // may lie behind a symbolic link).
     EXPECT_EQ(QFileInfo(read(cwdFile).trimmed()).canonicalFilePath(), QFileInfo(home).canonicalFilePath());
     EXPECT_EQ(read(shellMark), QStringLiteral("-l\n"));
 
-    const QStringList expected = LinuxPlatform::terminalCommandLine(
-        bin + QLatin1Char('/') + emulatorName, QStringLiteral("pwd > ") + qf::shellQuote(pwdFile),
-        QStringLiteral("~/") + relative, home, shell);
+    const QStringList expected = LinuxPlatform::terminalCommandLine(bin + QLatin1Char('/') + emulatorName,
+                                                                    QStringLiteral("pwd > ") + qf::shellQuote(pwdFile),
+                                                                    QStringLiteral("~/") + relative, home, shell);
     EXPECT_EQ(read(argsFile), expected.mid(1).join(QLatin1Char('\n')) + QLatin1Char('\n'));
 }
 
@@ -399,9 +426,9 @@ TEST(LinuxPlatformOsRelease, OperatingSystemCheck)
     EXPECT_FALSE(check.met);
     EXPECT_EQ(check.details, QStringLiteral("Debian GNU/Linux 12 (bookworm)"));
 
-    check = LinuxPlatform::operatingSystemCheck(
-        Map{{QStringLiteral("NAME"), QStringLiteral("Fedora Linux")}, {QStringLiteral("VERSION_ID"), QStringLiteral("39")}},
-        true);
+    check = LinuxPlatform::operatingSystemCheck(Map{{QStringLiteral("NAME"), QStringLiteral("Fedora Linux")},
+                                                    {QStringLiteral("VERSION_ID"), QStringLiteral("39")}},
+                                                true);
     EXPECT_EQ(check.details, QStringLiteral("Fedora Linux 39"));
 
     check = LinuxPlatform::operatingSystemCheck(Map{{QStringLiteral("NAME"), QStringLiteral("Arch Linux")}}, true);
@@ -445,29 +472,24 @@ constexpr const char* kDnf = "sudo dnf install -y git gcc gcc-c++ make";
 constexpr const char* kPacman = "sudo pacman -S --needed git base-devel";
 constexpr const char* kZypper = "sudo zypper install -y git gcc gcc-c++ make";
 
-INSTANTIATE_TEST_SUITE_P(LinuxPlatform, LinuxPlatformPackageLine,
-                         ::testing::Values(DistributionCase{"debian", "", kApt},
-                                           DistributionCase{"ubuntu", "debian", kApt},
-                                           DistributionCase{"linuxmint", "ubuntu debian", kApt},
-                                           DistributionCase{"fedora", "", kDnf},
-                                           DistributionCase{"centos", "rhel fedora", kDnf},
-                                           DistributionCase{"rocky", "rhel centos fedora", kDnf},
-                                           DistributionCase{"almalinux", "  rhel  centos ", kDnf},
-                                           DistributionCase{"rhel", "fedora", kDnf},
-                                           DistributionCase{"arch", "", kPacman},
-                                           DistributionCase{"manjaro", "arch", kPacman},
-                                           DistributionCase{"opensuse-tumbleweed", "opensuse suse", kZypper},
-                                           DistributionCase{"opensuse-leap", "", kZypper},
-                                           DistributionCase{"sles", "suse", kZypper},
-                                           DistributionCase{"gentoo", "", kApt},
-                                           DistributionCase{"", "", kApt}),
-                         [](const ::testing::TestParamInfo<DistributionCase>& info) {
-                             std::string name = *info.param.id ? info.param.id : "unknown";
-                             for (char& ch : name)
-                                 if (!std::isalnum(static_cast<unsigned char>(ch)))
-                                     ch = '_';
-                             return name;
-                         });
+INSTANTIATE_TEST_SUITE_P(
+    LinuxPlatform, LinuxPlatformPackageLine,
+    ::testing::Values(DistributionCase{"debian", "", kApt}, DistributionCase{"ubuntu", "debian", kApt},
+                      DistributionCase{"linuxmint", "ubuntu debian", kApt}, DistributionCase{"fedora", "", kDnf},
+                      DistributionCase{"centos", "rhel fedora", kDnf},
+                      DistributionCase{"rocky", "rhel centos fedora", kDnf},
+                      DistributionCase{"almalinux", "  rhel  centos ", kDnf}, DistributionCase{"rhel", "fedora", kDnf},
+                      DistributionCase{"arch", "", kPacman}, DistributionCase{"manjaro", "arch", kPacman},
+                      DistributionCase{"opensuse-tumbleweed", "opensuse suse", kZypper},
+                      DistributionCase{"opensuse-leap", "", kZypper}, DistributionCase{"sles", "suse", kZypper},
+                      DistributionCase{"gentoo", "", kApt}, DistributionCase{"", "", kApt}),
+    [](const ::testing::TestParamInfo<DistributionCase>& info) {
+        std::string name = *info.param.id ? info.param.id : "unknown";
+        for (char& ch : name)
+            if (!std::isalnum(static_cast<unsigned char>(ch)))
+                ch = '_';
+        return name;
+    });
 
 // --- Node.js without Homebrew --------------------------------------------------------------
 

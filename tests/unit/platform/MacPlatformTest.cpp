@@ -32,12 +32,15 @@ TEST_P(MacPlatformTerminalScript, TypesTheToolCommandInTheProjectsFolder)
 INSTANTIATE_TEST_SUITE_P(
     MacPlatform, MacPlatformTerminalScript,
     ::testing::Values(
-        TerminalScriptCase{"claude",
-                           "tell application \"Terminal\"\n    activate\n    do script \"cd ~/Developer && claude\"\nend tell"},
-        TerminalScriptCase{"gemini",
-                           "tell application \"Terminal\"\n    activate\n    do script \"cd ~/Developer && gemini\"\nend tell"},
-        TerminalScriptCase{"codex",
-                           "tell application \"Terminal\"\n    activate\n    do script \"cd ~/Developer && codex\"\nend tell"}),
+        TerminalScriptCase{
+            "claude",
+            "tell application \"Terminal\"\n    activate\n    do script \"cd ~/Developer && claude\"\nend tell"},
+        TerminalScriptCase{
+            "gemini",
+            "tell application \"Terminal\"\n    activate\n    do script \"cd ~/Developer && gemini\"\nend tell"},
+        TerminalScriptCase{
+            "codex",
+            "tell application \"Terminal\"\n    activate\n    do script \"cd ~/Developer && codex\"\nend tell"}),
     [](const ::testing::TestParamInfo<TerminalScriptCase>& info) { return std::string(info.param.command); });
 
 TEST(MacPlatformScripts, GeminiScriptIsExactlyFourLines)
@@ -74,11 +77,11 @@ TEST(MacPlatformScripts, OsascriptGetsOneDashEPerLine)
                            QStringLiteral("    activate"), QStringLiteral("-e"),
                            QStringLiteral("    do script \"cd ~/Developer && gemini\""), QStringLiteral("-e"),
                            QStringLiteral("end tell")}));
-    EXPECT_EQ(MacPlatform::osascriptArguments(MacPlatform::systemEventsScript()),
-              (QStringList{QStringLiteral("-e"), QStringLiteral("tell application \"System Events\""),
-                           QStringLiteral("-e"),
-                           QStringLiteral("    set frontmost of process \"Install Command Line Developer Tools\" to true"),
-                           QStringLiteral("-e"), QStringLiteral("end tell")}));
+    EXPECT_EQ(
+        MacPlatform::osascriptArguments(MacPlatform::systemEventsScript()),
+        (QStringList{QStringLiteral("-e"), QStringLiteral("tell application \"System Events\""), QStringLiteral("-e"),
+                     QStringLiteral("    set frontmost of process \"Install Command Line Developer Tools\" to true"),
+                     QStringLiteral("-e"), QStringLiteral("end tell")}));
 }
 
 struct VersionCase {

@@ -36,11 +36,11 @@ protected:
         environment.remove(variable);
         process.setProcessEnvironment(environment);
         process.setWorkingDirectory(sandbox.home());
-        process.start(shell, {QStringLiteral("-c"), QStringLiteral(". \"$HOME/%1\"; printf %s \"$%2\"").arg(profileName, variable)});
+        process.start(shell, {QStringLiteral("-c"),
+                              QStringLiteral(". \"$HOME/%1\"; printf %s \"$%2\"").arg(profileName, variable)});
         EXPECT_TRUE(process.waitForFinished(10000));
         return process.readAllStandardOutput();
     }
-
 };
 
 } // namespace
@@ -57,7 +57,8 @@ TEST(ProfileWriter, ExportLines)
 
     EXPECT_TRUE(ProfileWriter::rejectionReason(QStringLiteral("one\ntwo")).has_value());
     EXPECT_TRUE(ProfileWriter::rejectionReason(QStringLiteral("one\rtwo")).has_value());
-    EXPECT_TRUE(ProfileWriter::rejectionReason(QStringLiteral("one") + QChar(u'\0') + QStringLiteral("two")).has_value());
+    EXPECT_TRUE(
+        ProfileWriter::rejectionReason(QStringLiteral("one") + QChar(u'\0') + QStringLiteral("two")).has_value());
     EXPECT_FALSE(ProfileWriter::rejectionReason(QStringLiteral("   ")).has_value());
 }
 
@@ -80,13 +81,15 @@ TEST(ProfileWriter, RewriteTouchesOnlyTheExportLines)
                              "# OPENAI_API_KEY is set above\n"
                              "alias x=y"));
     // The replacement goes in literally: no group references, no escapes.
-    EXPECT_EQ(ProfileWriter::rewrite(QStringLiteral("export K=1"), QStringLiteral("K"), QStringLiteral("export K='$1\\0&'")),
-              QStringLiteral("export K='$1\\0&'"));
+    EXPECT_EQ(
+        ProfileWriter::rewrite(QStringLiteral("export K=1"), QStringLiteral("K"), QStringLiteral("export K='$1\\0&'")),
+        QStringLiteral("export K='$1\\0&'"));
 }
 
 TEST(ProfileWriter, AppendCommands)
 {
-    EXPECT_EQ(ProfileWriter::appendCommand(QStringLiteral("Claude Code"), QStringLiteral("export ANTHROPIC_API_KEY=\"k\""),
+    EXPECT_EQ(ProfileWriter::appendCommand(QStringLiteral("Claude Code"),
+                                           QStringLiteral("export ANTHROPIC_API_KEY=\"k\""),
                                            QStringLiteral("/Users/ada/.zshrc")),
               QStringLiteral("echo '\n# Claude Code API Key\nexport ANTHROPIC_API_KEY=\"k\"' >> /Users/ada/.zshrc"));
     // A home folder with a blank in its name still gets the block.
@@ -106,7 +109,7 @@ TEST_F(ApiKeyTest, FirstSaveCreatesTheProfileBlock)
 
 TEST_F(ApiKeyTest, TheKeyGoesToTheProfileInUse)
 {
-    sandbox.writeFile(QStringLiteral(".bash_profile"), "export PATH=$PATH:/opt/bin");  // no final newline
+    sandbox.writeFile(QStringLiteral(".bash_profile"), "export PATH=$PATH:/opt/bin"); // no final newline
     ASSERT_TRUE(save(QStringLiteral("AIza-1"), CLITool::geminiCLI).ok());
     EXPECT_FALSE(sandbox.exists(QStringLiteral(".zshrc")));
     EXPECT_EQ(profile(QStringLiteral(".bash_profile")),
@@ -126,7 +129,7 @@ TEST_F(ApiKeyTest, LaterSavesRewriteInPlace)
     ASSERT_EQ(::stat(path.constData(), &info), 0);
     EXPECT_EQ(info.st_mode & 07777, 0600u);
     ASSERT_TRUE(save(QStringLiteral("AIza-new"), CLITool::geminiCLI).ok());
-    EXPECT_EQ(profile(), first);  // a second save changes nothing
+    EXPECT_EQ(profile(), first); // a second save changes nothing
     qunsetenv("GEMINI_API_KEY");
 }
 
@@ -151,7 +154,8 @@ TEST_F(ApiKeyTest, ALinkedProfileStaysALink)
     ASSERT_TRUE(QFile::link(sandbox.path(QStringLiteral("dotfiles/zshrc")), sandbox.path(QStringLiteral(".zshrc"))));
     ASSERT_TRUE(save(QStringLiteral("sk-ant-9"), CLITool::claudeCode).ok());
     EXPECT_TRUE(QFileInfo(sandbox.path(QStringLiteral(".zshrc"))).isSymLink());
-    EXPECT_EQ(sandbox.readFile(QStringLiteral("dotfiles/zshrc")), QByteArray("export ANTHROPIC_API_KEY=\"sk-ant-9\"\n"));
+    EXPECT_EQ(sandbox.readFile(QStringLiteral("dotfiles/zshrc")),
+              QByteArray("export ANTHROPIC_API_KEY=\"sk-ant-9\"\n"));
     qunsetenv("ANTHROPIC_API_KEY");
 }
 
@@ -196,7 +200,7 @@ TEST_F(ApiKeyTest, RefusedKeysTouchNothing)
     const Result<void> result = save(QStringLiteral("first\nsecond"), CLITool::geminiCLI);
     ASSERT_FALSE(result.ok());
     EXPECT_TRUE(result.error().errorDescription().contains(QStringLiteral("line break")));
-    EXPECT_FALSE(result.error().errorDescription().contains(QStringLiteral("first")));  // the key is never echoed
+    EXPECT_FALSE(result.error().errorDescription().contains(QStringLiteral("first"))); // the key is never echoed
     EXPECT_EQ(profile(), QByteArray("export GEMINI_API_KEY=\"old\"\n"));
     EXPECT_FALSE(qEnvironmentVariableIsSet("GEMINI_API_KEY"));
 }
@@ -256,6 +260,6 @@ TEST_F(ApiKeyTest, AProfileThatCannotBeRewrittenIsLeftAlone)
     EXPECT_FALSE(ok);
     EXPECT_EQ(sandbox.readFile(QStringLiteral("locked/.zshrc")), QByteArray("export GEMINI_API_KEY=\"old\"\n"));
     EXPECT_EQ(QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
-              QStringList{QStringLiteral(".zshrc")});  // no temporary file left behind
+              QStringList{QStringLiteral(".zshrc")}); // no temporary file left behind
     ::chmod(folder.toLocal8Bit().constData(), 0755);
 }

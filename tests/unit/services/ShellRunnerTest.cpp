@@ -67,7 +67,8 @@ protected:
 TEST(ShellRunnerPath, OrderOfTheSearchPath)
 {
     const QString path = ShellRunner::searchPath(
-        QStringLiteral("/Users/ada"), {QStringLiteral("v18.17.0"), QStringLiteral("v9.11.2"), QStringLiteral("v20.10.0")},
+        QStringLiteral("/Users/ada"),
+        {QStringLiteral("v18.17.0"), QStringLiteral("v9.11.2"), QStringLiteral("v20.10.0")},
         {QStringLiteral("/usr/local/bin"), QStringLiteral("/opt/homebrew/bin"), QStringLiteral("/usr/bin"),
          QStringLiteral("/bin")},
         QStringLiteral("/usr/bin:/bin:/usr/sbin"));
@@ -139,9 +140,7 @@ TEST_F(ShellRunnerTest, ALaunchFailureIsAProcessError)
     EXPECT_GT(result.error().errorDescription().size(), QStringLiteral("Process error: ").size());
 
     bool called = false;
-    auto streamed = await(broken.runWithStreaming(QStringLiteral("echo x"), [&](const QString&) {
-        called = true;
-    }));
+    auto streamed = await(broken.runWithStreaming(QStringLiteral("echo x"), [&](const QString&) { called = true; }));
     ASSERT_TRUE(streamed.has_value());
     EXPECT_FALSE(streamed->ok());
     EXPECT_FALSE(called);
@@ -150,8 +149,8 @@ TEST_F(ShellRunnerTest, ALaunchFailureIsAProcessError)
 TEST_F(ShellRunnerTest, LargeOutputOnBothPipesDoesNotStall)
 {
     // 10 MB on standard error while 10 MB go to standard output.
-    const Result<QString> result =
-        run(QStringLiteral("(head -c 10485760 /dev/zero | tr '\\0' e >&2) & head -c 10485760 /dev/zero | tr '\\0' o; wait"));
+    const Result<QString> result = run(QStringLiteral(
+        "(head -c 10485760 /dev/zero | tr '\\0' e >&2) & head -c 10485760 /dev/zero | tr '\\0' o; wait"));
     ASSERT_TRUE(result.ok()) << message(result).toStdString();
     EXPECT_EQ(result.value().size(), 10485760);
     EXPECT_TRUE(result.value().startsWith(QStringLiteral("ooo")));
@@ -180,8 +179,8 @@ TEST_F(ShellRunnerTest, CommandsCannotWaitForAnswers)
     const QStringList fields = stat.value().mid(stat.value().lastIndexOf(QLatin1Char(')')) + 2).split(QLatin1Char(' '));
     const QString pid = stat.value().section(QLatin1Char(' '), 0, 0);
     ASSERT_GE(fields.size(), 4);
-    EXPECT_EQ(fields[2], pid);  // process group
-    EXPECT_EQ(fields[3], pid);  // session
+    EXPECT_EQ(fields[2], pid); // process group
+    EXPECT_EQ(fields[3], pid); // session
     EXPECT_NE(fields[3].toLongLong(), static_cast<long long>(getsid(0)));
 }
 
@@ -199,8 +198,8 @@ TEST_F(ShellRunnerTest, OverlongCommandsAreStoppedWithTheirWholeGroup)
 {
     ShellRunner impatient(configurationWith([](auto& c) { c.terminationGraceMs = 200; }));
     const QString pidFile = sandbox.path(QStringLiteral("child.pid"));
-    const Result<QString> result =
-        run(impatient, QStringLiteral("sleep 30 & echo $! > '%1'; trap '' TERM; wait; sleep 30").arg(pidFile), 0.5);
+    const Result<QString> result = run(
+        impatient, QStringLiteral("sleep 30 & echo $! > '%1'; trap '' TERM; wait; sleep 30").arg(pidFile), 0.5);
     ASSERT_FALSE(result.ok());
     ASSERT_NE(result.error().shellError(), nullptr);
     EXPECT_EQ(result.error().shellError()->kind(), ShellError::timedOut);

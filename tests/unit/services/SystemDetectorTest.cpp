@@ -29,14 +29,15 @@ TEST(SystemDetectorRules, NodeVersions)
         {QStringLiteral("v20.10.0"), {true, QStringLiteral("v20.10.0"), true}},
         {QStringLiteral("20.1.0"), {true, QStringLiteral("20.1.0"), true}},
         {QStringLiteral("v9.11.2"), {true, QStringLiteral("v9.11.2"), false}},
-        {QStringLiteral("v..22"), {true, QStringLiteral("v..22"), true}},  // empty pieces are dropped
+        {QStringLiteral("v..22"), {true, QStringLiteral("v..22"), true}}, // empty pieces are dropped
         {QStringLiteral("vabc"), {true, QStringLiteral("vabc"), false}},
         {QStringLiteral("v"), {true, QStringLiteral("v"), false}},
         {QString(), {true, QString(), false}},
         {std::nullopt, {false, std::nullopt, false}},
     };
     for (const Case& c : cases)
-        EXPECT_EQ(SystemDetector::evaluateNodeVersion(c.printed), c.expected) << c.printed.value_or("<none>").toStdString();
+        EXPECT_EQ(SystemDetector::evaluateNodeVersion(c.printed), c.expected)
+            << c.printed.value_or(QStringLiteral("<none>")).toStdString();
 }
 
 TEST(SystemDetectorRules, DiskSpaceBoundaries)
@@ -123,7 +124,7 @@ TEST_F(SystemDetectorTest, ToolVersionsAsPrinted)
 
 TEST_F(SystemDetectorTest, ShellProfileChoice)
 {
-    EXPECT_EQ(detector.shellProfilePath(), sandbox.path(QStringLiteral(".zshrc")));  // need not exist
+    EXPECT_EQ(detector.shellProfilePath(), sandbox.path(QStringLiteral(".zshrc"))); // need not exist
     sandbox.writeFile(QStringLiteral(".bashrc"), "");
     EXPECT_EQ(detector.shellProfilePath(), sandbox.path(QStringLiteral(".bashrc")));
     sandbox.writeFile(QStringLiteral(".bash_profile"), "");

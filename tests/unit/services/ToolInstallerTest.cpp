@@ -5,6 +5,8 @@
 #include <QDir>
 #include <QFile>
 
+#include <ranges>
+
 using namespace qf;
 using qf::test::await;
 
@@ -20,7 +22,7 @@ struct Report {
 void PrintTo(const Report& r, std::ostream* os)
 {
     *os << r.type.rawValue().toStdString() << "/" << r.status.label().toStdString() << "/"
-        << r.details.value_or("<none>").toStdString();
+        << r.details.value_or(QStringLiteral("<none>")).toStdString();
 }
 
 struct SetupRun {
@@ -32,9 +34,9 @@ struct SetupRun {
     // The last status reported for a step.
     std::optional<SetupStepStatus> last(SetupStepType type) const
     {
-        for (auto it = reports.crbegin(); it != reports.crend(); ++it)
-            if (it->type == type)
-                return it->status;
+        for (const Report& report : std::views::reverse(reports))
+            if (report.type == type)
+                return report.status;
         return std::nullopt;
     }
     bool mentions(SetupStepType type) const { return last(type).has_value(); }
@@ -47,7 +49,7 @@ protected:
         SetupRun run;
         auto result = await(installer.runSetup(
             tool,
-            [&](SetupStepType type, SetupStepStatus status, std::optional<QString> details) {
+            [&](SetupStepType type, const SetupStepStatus& status, const std::optional<QString>& details) {
                 run.reports.append({type, status, details});
             },
             [&](const QString& text) { run.log += text; }));
@@ -118,7 +120,8 @@ TEST_F(ToolInstallerTest, GeminiWithARecentNodeSkipsTheNodeStep)
 
     const SetupRun run = runSetup(CLITool::geminiCLI);
     ASSERT_TRUE(run.result && run.result->ok()) << run.error().toStdString();
-    EXPECT_EQ(run.reports[1], (Report{SetupStepType::createDeveloperFolder, kSkipped, QStringLiteral("Already exists")}));
+    EXPECT_EQ(run.reports[1],
+              (Report{SetupStepType::createDeveloperFolder, kSkipped, QStringLiteral("Already exists")}));
     EXPECT_TRUE(run.reports.contains(Report{SetupStepType::installNode, kSkipped, QStringLiteral("v20.10.0")}));
     EXPECT_FALSE(run.reports.contains(Report{SetupStepType::installNode, kInProgress, std::nullopt}));
     EXPECT_EQ(run.last(SetupStepType::installTool), kDone);
@@ -188,8 +191,8 @@ TEST_F(ToolInstallerTest, MissingGitStopsEverything)
     const SetupRun run = runSetup(CLITool::geminiCLI);
     EXPECT_EQ(run.error(), QStringLiteral("Git is required but not found. Please install Xcode Command Line Tools by "
                                           "running: xcode-select --install"));
-    EXPECT_EQ(run.reports.last(), (Report{SetupStepType::checkGit, SetupStepStatus::failure(QStringLiteral("Not found")),
-                                          std::nullopt}));
+    EXPECT_EQ(run.reports.last(),
+              (Report{SetupStepType::checkGit, SetupStepStatus::failure(QStringLiteral("Not found")), std::nullopt}));
     EXPECT_TRUE(run.log.endsWith(QStringLiteral("Git not found. Please install Xcode Command Line Tools.\n")));
     EXPECT_FALSE(QFile::exists(sandbox.stateDirectory() + QStringLiteral("/npm.log")));
 }

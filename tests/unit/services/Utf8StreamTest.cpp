@@ -27,7 +27,9 @@ TEST(Utf8StreamDecoder, CharactersSplitAcrossReadsArriveWhole)
 TEST(Utf8StreamDecoder, InvalidBytesBecomeReplacementCharactersAndLoseNothingElse)
 {
     Utf8StreamDecoder decoder;
-    EXPECT_EQ(decoder.feed("ab\xFF" "cd\n"), QStringLiteral("ab\uFFFDcd\n"));
+    EXPECT_EQ(decoder.feed("ab\xFF"
+                           "cd\n"),
+              QStringLiteral("ab\uFFFDcd\n"));
     EXPECT_EQ(decoder.feed("ok"), QStringLiteral("ok"));
     // A character that never completes is shown as one replacement at the end.
     EXPECT_EQ(decoder.feed("x\xE2\x86"), QStringLiteral("x"));
