@@ -115,60 +115,78 @@ QFont subheadline() { return font(11); }
 QFont caption() { return font(10); }
 QFont caption2() { return font(10); }
 
-QPalette lightPalette()
+namespace {
+
+// The colours of one appearance; the rest of a palette follows from them.
+struct PaletteColors {
+    QColor text; // primary text; faint text is the same colour at 1/4 of full opacity
+    QColor window;
+    QColor base;      // cards and fields
+    QColor alternate; // code and command boxes
+    QColor button;
+    QColor toolTip;
+    QColor light, midlight, mid, dark, shadow;
+    QRgb accent;
+};
+
+QPalette paletteFrom(const PaletteColors& c)
 {
     QPalette p;
-    const QColor text(0, 0, 0, 217);
-    p.setColor(QPalette::Window, QColor(236, 236, 236));
-    p.setColor(QPalette::WindowText, text);
-    p.setColor(QPalette::Base, QColor(255, 255, 255));
-    p.setColor(QPalette::AlternateBase, QColor(244, 244, 246));
-    p.setColor(QPalette::Text, text);
-    p.setColor(QPalette::PlaceholderText, QColor(0, 0, 0, 64));
-    p.setColor(QPalette::Button, QColor(255, 255, 255));
-    p.setColor(QPalette::ButtonText, text);
-    p.setColor(QPalette::Highlight, QColor::fromRgb(kBlue.light));
+    QColor faint = c.text;
+    faint.setAlpha(64);
+    for (QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText})
+        p.setColor(role, c.text);
+    p.setColor(QPalette::Window, c.window);
+    p.setColor(QPalette::Base, c.base);
+    p.setColor(QPalette::AlternateBase, c.alternate);
+    p.setColor(QPalette::PlaceholderText, faint);
+    p.setColor(QPalette::Button, c.button);
+    p.setColor(QPalette::Highlight, QColor::fromRgb(c.accent));
     p.setColor(QPalette::HighlightedText, Qt::white);
-    p.setColor(QPalette::Link, QColor::fromRgb(kBlue.light));
-    p.setColor(QPalette::ToolTipBase, QColor(255, 255, 255));
-    p.setColor(QPalette::ToolTipText, text);
-    p.setColor(QPalette::Light, QColor(255, 255, 255));
-    p.setColor(QPalette::Midlight, QColor(245, 245, 245));
-    p.setColor(QPalette::Mid, QColor(190, 190, 190));
-    p.setColor(QPalette::Dark, QColor(160, 160, 160));
-    p.setColor(QPalette::Shadow, QColor(0, 0, 0, 60));
-    p.setColor(QPalette::Disabled, QPalette::WindowText, QColor(0, 0, 0, 64));
-    p.setColor(QPalette::Disabled, QPalette::Text, QColor(0, 0, 0, 64));
-    p.setColor(QPalette::Disabled, QPalette::ButtonText, QColor(0, 0, 0, 64));
+    p.setColor(QPalette::Link, QColor::fromRgb(c.accent));
+    p.setColor(QPalette::ToolTipBase, c.toolTip);
+    p.setColor(QPalette::Light, c.light);
+    p.setColor(QPalette::Midlight, c.midlight);
+    p.setColor(QPalette::Mid, c.mid);
+    p.setColor(QPalette::Dark, c.dark);
+    p.setColor(QPalette::Shadow, c.shadow);
+    for (QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        p.setColor(QPalette::Disabled, role, faint);
     return p;
+}
+
+} // namespace
+
+QPalette lightPalette()
+{
+    return paletteFrom({.text = QColor(0, 0, 0, 217),
+                        .window = QColor(236, 236, 236),
+                        .base = QColor(255, 255, 255),
+                        .alternate = QColor(244, 244, 246),
+                        .button = QColor(255, 255, 255),
+                        .toolTip = QColor(255, 255, 255),
+                        .light = QColor(255, 255, 255),
+                        .midlight = QColor(245, 245, 245),
+                        .mid = QColor(190, 190, 190),
+                        .dark = QColor(160, 160, 160),
+                        .shadow = QColor(0, 0, 0, 60),
+                        .accent = kBlue.light});
 }
 
 QPalette darkPalette()
 {
-    QPalette p;
-    const QColor text(255, 255, 255, 217);
-    p.setColor(QPalette::Window, QColor(40, 40, 42));
-    p.setColor(QPalette::WindowText, text);
-    p.setColor(QPalette::Base, QColor(28, 28, 30));
-    p.setColor(QPalette::AlternateBase, QColor(20, 20, 22));
-    p.setColor(QPalette::Text, text);
-    p.setColor(QPalette::PlaceholderText, QColor(255, 255, 255, 64));
-    p.setColor(QPalette::Button, QColor(58, 58, 60));
-    p.setColor(QPalette::ButtonText, text);
-    p.setColor(QPalette::Highlight, QColor::fromRgb(kBlue.dark));
-    p.setColor(QPalette::HighlightedText, Qt::white);
-    p.setColor(QPalette::Link, QColor::fromRgb(kBlue.dark));
-    p.setColor(QPalette::ToolTipBase, QColor(50, 50, 52));
-    p.setColor(QPalette::ToolTipText, text);
-    p.setColor(QPalette::Light, QColor(80, 80, 82));
-    p.setColor(QPalette::Midlight, QColor(64, 64, 66));
-    p.setColor(QPalette::Mid, QColor(48, 48, 50));
-    p.setColor(QPalette::Dark, QColor(20, 20, 22));
-    p.setColor(QPalette::Shadow, QColor(0, 0, 0, 120));
-    p.setColor(QPalette::Disabled, QPalette::WindowText, QColor(255, 255, 255, 64));
-    p.setColor(QPalette::Disabled, QPalette::Text, QColor(255, 255, 255, 64));
-    p.setColor(QPalette::Disabled, QPalette::ButtonText, QColor(255, 255, 255, 64));
-    return p;
+    return paletteFrom({.text = QColor(255, 255, 255, 217),
+                        .window = QColor(40, 40, 42),
+                        .base = QColor(28, 28, 30),
+                        .alternate = QColor(20, 20, 22),
+                        .button = QColor(58, 58, 60),
+                        .toolTip = QColor(50, 50, 52),
+                        .light = QColor(80, 80, 82),
+                        .midlight = QColor(64, 64, 66),
+                        .mid = QColor(48, 48, 50),
+                        .dark = QColor(20, 20, 22),
+                        .shadow = QColor(0, 0, 0, 120),
+                        .accent = kBlue.dark});
 }
 
 void applyApplicationLook(QApplication& app, const ApplicationLook& look)

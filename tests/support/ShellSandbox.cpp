@@ -83,6 +83,12 @@ void ShellSandbox::installFake(const QString& name, const QString& as)
     installFakeAt(name, binDirectory() + QLatin1Char('/') + (as.isEmpty() ? name : as));
 }
 
+void ShellSandbox::installFakes(std::initializer_list<const char*> names)
+{
+    for (const char* name : names)
+        installFake(QString::fromLatin1(name));
+}
+
 void ShellSandbox::installFakeAt(const QString& name, const QString& target)
 {
     const QString source = QStringLiteral(QF_FIXTURES_DIR "/bin/") + name;

@@ -34,6 +34,7 @@ public:
 
     // Puts the fake `name` (or a copy of it under `as`) into the fake program folder.
     void installFake(const QString& name, const QString& as = QString());
+    void installFakes(std::initializer_list<const char*> names);
     // Puts the fake `name` at an absolute path (inside the sandbox).
     void installFakeAt(const QString& name, const QString& target);
     void removeFake(const QString& name);

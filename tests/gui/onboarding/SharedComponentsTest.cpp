@@ -33,20 +33,17 @@ TEST(CopyButton, PutsTheTextOnTheClipboardBeforeCallingBack)
     EXPECT_EQ(clipboardText(), QStringLiteral("claude \"explain this code\""));
 }
 
-TEST(CopyButton, CopiesAnEmptyTextAsEmpty)
+TEST(CopyButton, CopiesAnEmptyTextAndWorksWithoutACallback)
 {
     QGuiApplication::clipboard()->setText(QStringLiteral("previous"));
     QString seen = QStringLiteral("<not called>");
-    CopyButton button(QString(), CopyButton::CopyButtonStyle::small, [&] { seen = clipboardText(); });
-    button.click();
+    CopyButton empty(QString(), CopyButton::CopyButtonStyle::small, [&] { seen = clipboardText(); });
+    empty.click();
     EXPECT_TRUE(seen.isEmpty());
     EXPECT_TRUE(clipboardText().isEmpty());
-}
 
-TEST(CopyButton, WorksWithoutACallback)
-{
-    CopyButton button(QStringLiteral("git init"), CopyButton::CopyButtonStyle::bordered);
-    button.click();
+    CopyButton plain(QStringLiteral("git init"), CopyButton::CopyButtonStyle::bordered);
+    plain.click();
     EXPECT_EQ(clipboardText(), QStringLiteral("git init"));
 }
 

@@ -10,49 +10,15 @@ using namespace qf::ui;
 namespace {
 
 // Every symbol name the screens use.
-const char* const kDesignSymbols[] = {
-    "arrow.down.circle",
-    "arrow.right",
-    "arrow.up.right",
-    "arrow.up.right.square",
-    "bubble.left.and.text.bubble.right",
-    "checkmark",
-    "checkmark.circle.fill",
-    "checkmark.seal",
-    "chevron.down",
-    "chevron.left",
-    "chevron.right",
-    "chevron.up",
-    "command.square.fill",
-    "cpu.fill",
-    "creditcard",
-    "doc.on.clipboard",
-    "doc.text.magnifyingglass",
-    "exclamationmark",
-    "exclamationmark.triangle.fill",
-    "eye",
-    "eye.slash",
-    "folder",
-    "folder.badge.plus",
-    "graduationcap",
-    "hammer",
-    "hand.wave.fill",
-    "key.fill",
-    "lightbulb.fill",
-    "mug",
-    "person.circle.fill",
-    "questionmark.circle",
-    "questionmark.circle.fill",
-    "server.rack",
-    "sparkles",
-    "star.fill",
-    "terminal",
-    "terminal.fill",
-    "trash",
-    "wrench.and.screwdriver",
-    "xmark",
-    "xmark.circle.fill",
-};
+const QStringList kDesignSymbols =
+    QStringLiteral("arrow.down.circle arrow.right arrow.up.right arrow.up.right.square "
+                   "bubble.left.and.text.bubble.right checkmark checkmark.circle.fill checkmark.seal chevron.down "
+                   "chevron.left chevron.right chevron.up command.square.fill cpu.fill creditcard doc.on.clipboard "
+                   "doc.text.magnifyingglass exclamationmark exclamationmark.triangle.fill eye eye.slash folder "
+                   "folder.badge.plus graduationcap hammer hand.wave.fill key.fill lightbulb.fill mug "
+                   "person.circle.fill questionmark.circle questionmark.circle.fill server.rack sparkles star.fill "
+                   "terminal terminal.fill trash wrench.and.screwdriver xmark xmark.circle.fill")
+        .split(QLatin1Char(' '), Qt::SkipEmptyParts);
 
 int opaquePixels(const QPixmap& pixmap)
 {
@@ -69,8 +35,7 @@ int opaquePixels(const QPixmap& pixmap)
 TEST(Symbol, EveryDesignSymbolRendersInItsTint)
 {
     const QColor tint(200, 40, 120);
-    for (const char* symbol : kDesignSymbols) {
-        const QString name = QString::fromLatin1(symbol);
+    for (const QString& name : kDesignSymbols) {
         ASSERT_TRUE(Symbol::exists(name)) << name.toStdString();
         const QPixmap pixmap = Symbol::pixmap(name, 20, tint, 1.0);
         ASSERT_FALSE(pixmap.isNull()) << name.toStdString();

@@ -33,15 +33,24 @@ TEST(Theme, RolesFollowThePalette)
     QApplication::setPalette(saved);
 }
 
-TEST(Theme, FontsUsePixelSizesAndWeights)
+TEST(Theme, FontsArePointsInPixelsInThePlatformsFamilies)
 {
-    EXPECT_EQ(Theme::title().pixelSize(), 22);
-    EXPECT_EQ(Theme::title2().pixelSize(), 17);
-    EXPECT_EQ(Theme::headline().pixelSize(), 13);
+    EXPECT_EQ(Theme::font(13).pixelSize(), 13); // a point is a logical pixel everywhere
     EXPECT_EQ(Theme::headline().weight(), QFont::DemiBold);
-    EXPECT_EQ(Theme::caption().pixelSize(), 10);
-    const QFont mono = Theme::font(12, QFont::Normal, FontDesign::monospaced);
-    EXPECT_TRUE(QFontInfo(mono).fixedPitch());
+    EXPECT_TRUE(QFontInfo(Theme::font(12, QFont::Normal, FontDesign::monospaced)).fixedPitch());
+
+    // A look of our own: the platform's families first, its light or dark choice honoured.
+    const QPalette savedPalette = QApplication::palette();
+    const QFont savedFont = QApplication::font();
+    auto& app = *qobject_cast<QApplication*>(QCoreApplication::instance());
+    Theme::applyApplicationLook(app,
+                                {.nativeStyle = false, .prefersDark = true, .fontFamilies = {QStringLiteral("Inter")}});
+    EXPECT_TRUE(Theme::isDark());
+    EXPECT_EQ(Theme::body().families().value(0), QStringLiteral("Inter"));
+    Theme::applyApplicationLook(app, {.nativeStyle = false, .prefersDark = false, .fontFamilies = {}});
+    EXPECT_FALSE(Theme::isDark());
+    QApplication::setPalette(savedPalette);
+    QApplication::setFont(savedFont);
 }
 
 TEST(Label, LineLimitCapsTheHeight)

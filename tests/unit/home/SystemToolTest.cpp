@@ -80,10 +80,7 @@ TEST_F(SystemToolTest, NothingInstalled)
 
 TEST_F(SystemToolTest, VersionsAsTheyAreShown)
 {
-    sandbox.installFake(QStringLiteral("xcode-select"));
-    sandbox.installFake(QStringLiteral("xcodebuild"));
-    sandbox.installFake(QStringLiteral("brew"));
-    sandbox.installFake(QStringLiteral("node"));
+    sandbox.installFakes({"xcode-select", "xcodebuild", "brew", "node"});
     QDir().mkpath(sandbox.path(QStringLiteral("Developer")));
 
     // Only the Command Line Tools: the version pipeline prints nothing, an empty version.

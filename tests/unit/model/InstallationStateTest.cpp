@@ -30,10 +30,9 @@ void fillEverything(InstallationState& state)
 
 } // namespace
 
-TEST_F(InstallationStateTest, StartsWithInitialValuesOnOnboarding)
+// Everything that belongs to one setup attempt is at its initial value.
+void expectNoAttempt(const InstallationState& state)
 {
-    InstallationState state;
-    EXPECT_EQ(state.currentStep(), InstallationStep::onboarding);
     EXPECT_FALSE(state.selectedTool().has_value());
     EXPECT_TRUE(state.requirements().isEmpty());
     EXPECT_TRUE(state.setupSteps().isEmpty());
@@ -43,8 +42,15 @@ TEST_F(InstallationStateTest, StartsWithInitialValuesOnOnboarding)
     EXPECT_TRUE(state.apiKey().isEmpty());
     EXPECT_FALSE(state.errorMessage().has_value());
     EXPECT_FALSE(state.toolAlreadyInstalled());
-    EXPECT_FALSE(state.hasAnyInstalledTools());
     EXPECT_FALSE(state.isOpeningExistingTool());
+}
+
+TEST_F(InstallationStateTest, StartsWithInitialValuesOnOnboarding)
+{
+    InstallationState state;
+    EXPECT_EQ(state.currentStep(), InstallationStep::onboarding);
+    expectNoAttempt(state);
+    EXPECT_FALSE(state.hasAnyInstalledTools());
 }
 
 TEST_F(InstallationStateTest, StartStepFollowsTheStoredPreference)
@@ -101,16 +107,7 @@ TEST_F(InstallationStateTest, ResetClearsTheAttemptButNotTheStep)
 
     EXPECT_EQ(state.currentStep(), InstallationStep::installation);
     EXPECT_EQ(stepChanges.count(), 0);
-    EXPECT_FALSE(state.selectedTool().has_value());
-    EXPECT_TRUE(state.requirements().isEmpty());
-    EXPECT_TRUE(state.setupSteps().isEmpty());
-    EXPECT_TRUE(state.installationOutput().isEmpty());
-    EXPECT_TRUE(state.apiKey().isEmpty());
-    EXPECT_FALSE(state.errorMessage().has_value());
-    EXPECT_FALSE(state.toolAlreadyInstalled());
-    EXPECT_FALSE(state.isOpeningExistingTool());
-    EXPECT_FALSE(state.isLoading());
-    EXPECT_EQ(state.installationProgress(), 0.0);
+    expectNoAttempt(state);
 }
 
 TEST_F(InstallationStateTest, CanProceedIgnoresOnlyNodeJS)

@@ -13,36 +13,6 @@ using qf::MacPlatform;
 
 namespace {
 
-struct TerminalScriptCase {
-    const char* command;
-    const char* expected;
-};
-
-void PrintTo(const TerminalScriptCase& c, std::ostream* os) { *os << c.command; }
-
-class MacPlatformTerminalScript : public ::testing::TestWithParam<TerminalScriptCase> {};
-
-TEST_P(MacPlatformTerminalScript, TypesTheToolCommandInTheProjectsFolder)
-{
-    const TerminalScriptCase& c = GetParam();
-    EXPECT_EQ(MacPlatform::terminalScript(QString::fromUtf8(c.command), QStringLiteral("~/Developer")),
-              QString::fromUtf8(c.expected));
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    MacPlatform, MacPlatformTerminalScript,
-    ::testing::Values(
-        TerminalScriptCase{
-            "claude",
-            "tell application \"Terminal\"\n    activate\n    do script \"cd ~/Developer && claude\"\nend tell"},
-        TerminalScriptCase{
-            "gemini",
-            "tell application \"Terminal\"\n    activate\n    do script \"cd ~/Developer && gemini\"\nend tell"},
-        TerminalScriptCase{
-            "codex",
-            "tell application \"Terminal\"\n    activate\n    do script \"cd ~/Developer && codex\"\nend tell"}),
-    [](const ::testing::TestParamInfo<TerminalScriptCase>& info) { return std::string(info.param.command); });
-
 TEST(MacPlatformScripts, GeminiScriptIsExactlyFourLines)
 {
     const QStringList lines =
@@ -84,34 +54,15 @@ TEST(MacPlatformScripts, OsascriptGetsOneDashEPerLine)
                      QStringLiteral("-e"), QStringLiteral("end tell")}));
 }
 
-struct VersionCase {
-    int major, minor, patch;
-    bool met;
-    const char* details;
-};
-
-void PrintTo(const VersionCase& c, std::ostream* os) { *os << c.major << '.' << c.minor << '.' << c.patch; }
-
-class MacPlatformVersionCheck : public ::testing::TestWithParam<VersionCase> {};
-
-TEST_P(MacPlatformVersionCheck, NeedsMacOS14)
+TEST(MacPlatformVersion, NeedsMacOS14AndSaysWhichItIs)
 {
-    const VersionCase& c = GetParam();
-    const qf::OperatingSystemCheck check = MacPlatform::operatingSystemCheck(c.major, c.minor, c.patch);
-    EXPECT_EQ(check.met, c.met);
-    EXPECT_EQ(check.details, QString::fromUtf8(c.details));
+    EXPECT_FALSE(MacPlatform::operatingSystemCheck(13, 99, 99).met);
+    EXPECT_TRUE(MacPlatform::operatingSystemCheck(14, 0, 0).met);
+    EXPECT_TRUE(MacPlatform::operatingSystemCheck(26, 0, 1).met);
+    // The patch is always written, 0 included.
+    EXPECT_EQ(MacPlatform::operatingSystemCheck(14, 0, 0).details, QStringLiteral("macOS 14.0.0"));
+    EXPECT_EQ(MacPlatform::operatingSystemCheck(13, 6, 1).details, QStringLiteral("macOS 13.6.1"));
 }
-
-INSTANTIATE_TEST_SUITE_P(MacPlatform, MacPlatformVersionCheck,
-                         ::testing::Values(VersionCase{14, 0, 0, true, "macOS 14.0.0"},
-                                           VersionCase{13, 6, 1, false, "macOS 13.6.1"},
-                                           VersionCase{13, 99, 99, false, "macOS 13.99.99"},
-                                           VersionCase{15, 1, 2, true, "macOS 15.1.2"},
-                                           VersionCase{26, 0, 1, true, "macOS 26.0.1"}),
-                         [](const ::testing::TestParamInfo<VersionCase>& info) {
-                             return std::to_string(info.param.major) + "_" + std::to_string(info.param.minor) + "_" +
-                                    std::to_string(info.param.patch);
-                         });
 
 TEST(MacPlatformItems, NodePackageCommand)
 {

@@ -64,38 +64,22 @@ protected:
 
 } // namespace
 
-TEST(ShellRunnerPath, OrderOfTheSearchPath)
-{
-    const QString path = ShellRunner::searchPath(
-        QStringLiteral("/Users/ada"),
-        {QStringLiteral("v18.17.0"), QStringLiteral("v9.11.2"), QStringLiteral("v20.10.0")},
-        {QStringLiteral("/usr/local/bin"), QStringLiteral("/opt/homebrew/bin"), QStringLiteral("/usr/bin"),
-         QStringLiteral("/bin")},
-        QStringLiteral("/usr/bin:/bin:/usr/sbin"));
-    EXPECT_EQ(path, QStringLiteral("/Users/ada/.nvm/versions/node/v9.11.2/bin:"
-                                   "/Users/ada/.nvm/versions/node/v20.10.0/bin:"
-                                   "/Users/ada/.nvm/versions/node/v18.17.0/bin:"
-                                   "/Users/ada/.local/bin:/usr/local/bin:/opt/homebrew/bin:/usr/bin:/bin:"
-                                   "/usr/bin:/bin:/usr/sbin"));
-    // Without nvm and without a PATH of its own.
-    EXPECT_EQ(ShellRunner::searchPath(QStringLiteral("/home/b"), {}, {QStringLiteral("/x")}, std::nullopt),
-              QStringLiteral("/home/b/.local/bin:/x"));
-}
-
 TEST_F(ShellRunnerTest, ChildSeesNvmVersionsFirstAndTheAppPathOnceAtTheEnd)
 {
-    for (const char* version : {"v18.17.0", "v20.10.0", ".hidden"})
+    for (const char* version : {"v18.17.0", "v9.11.2", "v20.10.0", ".hidden"})
         QDir().mkpath(sandbox.path(QStringLiteral(".nvm/versions/node/") + QLatin1String(version)));
     const Result<QString> path = run(QStringLiteral("printf %s \"$PATH\""));
     ASSERT_TRUE(path.ok()) << message(path).toStdString();
     const QStringList parts = path.value().split(QLatin1Char(':'));
     const QString versions = sandbox.home() + QStringLiteral("/.nvm/versions/node/");
-    ASSERT_GE(parts.size(), 6);
-    EXPECT_EQ(parts[0], versions + QStringLiteral("v20.10.0/bin"));
-    EXPECT_EQ(parts[1], versions + QStringLiteral("v18.17.0/bin"));
-    EXPECT_EQ(parts[2], versions + QStringLiteral(".hidden/bin"));
-    EXPECT_EQ(parts[3], sandbox.home() + QStringLiteral("/.local/bin"));
-    EXPECT_EQ(parts[4], sandbox.binDirectory());
+    // Descending text order, not version order; hidden entries too.
+    ASSERT_GE(parts.size(), 7);
+    EXPECT_EQ(parts[0], versions + QStringLiteral("v9.11.2/bin"));
+    EXPECT_EQ(parts[1], versions + QStringLiteral("v20.10.0/bin"));
+    EXPECT_EQ(parts[2], versions + QStringLiteral("v18.17.0/bin"));
+    EXPECT_EQ(parts[3], versions + QStringLiteral(".hidden/bin"));
+    EXPECT_EQ(parts[4], sandbox.home() + QStringLiteral("/.local/bin"));
+    EXPECT_EQ(parts[5], sandbox.binDirectory());
     EXPECT_TRUE(parts.last().endsWith(QStringLiteral("/tools")));
     EXPECT_EQ(parts.count(parts.last()), 1);
 

@@ -72,9 +72,7 @@ const SetupStepStatus kSkipped = SetupStepStatus::skipped;
 
 TEST_F(ToolInstallerTest, ClaudeCodeInstallsWithoutNode)
 {
-    sandbox.installFake(QStringLiteral("git"));
-    sandbox.installFake(QStringLiteral("curl"));
-    sandbox.installFake(QStringLiteral("node"));
+    sandbox.installFakes({"git", "curl", "node"});
 
     const QList<SetupStep> list = steps(CLITool::claudeCode);
     ASSERT_EQ(list.size(), 3);
@@ -108,9 +106,7 @@ TEST_F(ToolInstallerTest, ClaudeCodeInstallsWithoutNode)
 
 TEST_F(ToolInstallerTest, GeminiWithARecentNodeSkipsTheNodeStep)
 {
-    sandbox.installFake(QStringLiteral("git"));
-    sandbox.installFake(QStringLiteral("node"));
-    sandbox.installFake(QStringLiteral("npm"));
+    sandbox.installFakes({"git", "node", "npm"});
     QDir().mkpath(sandbox.path(QStringLiteral("Developer")));
 
     const QList<SetupStep> list = steps(CLITool::geminiCLI);
@@ -132,10 +128,7 @@ TEST_F(ToolInstallerTest, GeminiWithARecentNodeSkipsTheNodeStep)
 
 TEST_F(ToolInstallerTest, AnOldNodeIsReplacedThroughHomebrew)
 {
-    sandbox.installFake(QStringLiteral("git"));
-    sandbox.installFake(QStringLiteral("node"));
-    sandbox.installFake(QStringLiteral("npm"));
-    sandbox.installFake(QStringLiteral("brew"));
+    sandbox.installFakes({"git", "node", "npm", "brew"});
     sandbox.setEnv("FAKE_NODE_VERSION", "v16.20.2");
 
     EXPECT_EQ(steps(CLITool::codex)[2], (SetupStep{SetupStepType::installNode, kPending, std::nullopt}));
@@ -149,8 +142,7 @@ TEST_F(ToolInstallerTest, AnOldNodeIsReplacedThroughHomebrew)
 
 TEST_F(ToolInstallerTest, WithoutHomebrewNodeComesFromTheOfficialRelease)
 {
-    sandbox.installFake(QStringLiteral("git"));
-    sandbox.installFake(QStringLiteral("npm"));
+    sandbox.installFakes({"git", "npm"});
     // Stands in for the platform's release installer: it puts node on the search path.
     platform.nodeInstallCommand = QStringLiteral("echo fetching release; cp \"$FAKE_FIXTURES/node\" "
                                                  "\"$FAKE_BIN/node\"; chmod +x \"$FAKE_BIN/node\"");
@@ -162,9 +154,7 @@ TEST_F(ToolInstallerTest, WithoutHomebrewNodeComesFromTheOfficialRelease)
 
 TEST_F(ToolInstallerTest, NodeFailures)
 {
-    sandbox.installFake(QStringLiteral("git"));
-    sandbox.installFake(QStringLiteral("npm"));
-    sandbox.installFake(QStringLiteral("brew"));
+    sandbox.installFakes({"git", "npm", "brew"});
 
     // The installer itself fails: its error ends the run and the step stays in progress.
     sandbox.setEnv("FAKE_BREW_FAIL", "1");
@@ -186,8 +176,7 @@ TEST_F(ToolInstallerTest, NodeFailures)
 
 TEST_F(ToolInstallerTest, MissingGitStopsEverything)
 {
-    sandbox.installFake(QStringLiteral("npm"));
-    sandbox.installFake(QStringLiteral("node"));
+    sandbox.installFakes({"npm", "node"});
     const SetupRun run = runSetup(CLITool::geminiCLI);
     EXPECT_EQ(run.error(), QStringLiteral("Git is required but not found. Please install Xcode Command Line Tools by "
                                           "running: xcode-select --install"));
@@ -199,9 +188,7 @@ TEST_F(ToolInstallerTest, MissingGitStopsEverything)
 
 TEST_F(ToolInstallerTest, ToolInstallAndVerificationFailures)
 {
-    sandbox.installFake(QStringLiteral("git"));
-    sandbox.installFake(QStringLiteral("node"));
-    sandbox.installFake(QStringLiteral("npm"));
+    sandbox.installFakes({"git", "node", "npm"});
 
     sandbox.setEnv("FAKE_NPM_FAIL", "1");
     const SetupRun failed = runSetup(CLITool::codex);
@@ -223,9 +210,7 @@ TEST_F(ToolInstallerTest, ToolInstallAndVerificationFailures)
 
 TEST_F(ToolInstallerTest, AnUnreadableVersionKeepsTheDetails)
 {
-    sandbox.installFake(QStringLiteral("git"));
-    sandbox.installFake(QStringLiteral("node"));
-    sandbox.installFake(QStringLiteral("npm"));
+    sandbox.installFakes({"git", "node", "npm"});
     sandbox.setEnv("FAKE_TOOL_VERSION_FAIL", "1");
     const SetupRun run = runSetup(CLITool::geminiCLI);
     ASSERT_TRUE(run.result && run.result->ok());
@@ -243,8 +228,7 @@ TEST_F(ToolInstallerTest, TheProjectsFolder)
 
     // A folder that cannot be made is noted and the setup goes on.
     sandbox.setEnv("HOME", (sandbox.path(QStringLiteral("Developer")) + QStringLiteral("/inside")).toUtf8());
-    sandbox.installFake(QStringLiteral("git"));
-    sandbox.installFake(QStringLiteral("curl"));
+    sandbox.installFakes({"git", "curl"});
     const SetupRun run = runSetup(CLITool::claudeCode);
     EXPECT_TRUE(run.log.startsWith(QStringLiteral("Note: Could not create ~/Developer folder: ")));
     EXPECT_EQ(run.reports[1].type, SetupStepType::createDeveloperFolder);
