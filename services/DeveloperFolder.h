@@ -10,7 +10,7 @@ QString developerFolderPath();
 // Whether anything is at that path: a folder, an ordinary file, or a link (even a broken one).
 bool developerFolderExists();
 
-struct FolderCreation {
+struct [[nodiscard]] FolderCreation {
     enum Outcome { created, alreadyThere, failed };
     Outcome outcome = failed;
     QString error; // why it could not be created
