@@ -1,5 +1,6 @@
 #include "MainWindow.h"
 
+#include "HomeView.h"
 #include "InstallationState.h"
 #include "OnboardingView.h"
 
@@ -41,10 +42,11 @@ protected:
 
 } // namespace
 
-QWidget* makeScreen(InstallationStep step, InstallationState& state, Services&)
+QWidget* makeScreen(InstallationStep step, InstallationState& state, Services& services)
 {
     switch (step) {
     case InstallationStep::onboarding: return new OnboardingView(state);
+    case InstallationStep::home: return new HomeView(state, services);
     default: return new PlaceholderScreen(step);
     }
 }

@@ -13,6 +13,7 @@
 //    with its output decoded into a QString: the consumer's own share of the time.
 //
 // Every file lives in a temporary folder; HOME is used as it is and never written to.
+#include "BenchStats.h"
 #include "Platform.h"
 #include "ProcessMemory.h"
 #include "ShellQuote.h"
@@ -36,26 +37,15 @@
 
 namespace {
 
+using qf::bench::median;
+using qf::bench::minimum;
+
 using qf::Result;
 using qf::ShellRunner;
 
 constexpr qint64 kStreamBytes = 50LL * 1024 * 1024;
 constexpr int kLineLength = 100; // including the line break
 constexpr double kMiB = 1024.0 * 1024.0;
-
-double median(std::vector<double> values)
-{
-    if (values.empty())
-        return 0;
-    std::sort(values.begin(), values.end());
-    const size_t middle = values.size() / 2;
-    return values.size() % 2 ? values[middle] : (values[middle - 1] + values[middle]) / 2;
-}
-
-double minimum(const std::vector<double>& values)
-{
-    return values.empty() ? 0 : *std::min_element(values.begin(), values.end());
-}
 
 double millisecondsSince(const QElapsedTimer& timer) { return timer.nsecsElapsed() / 1.0e6; }
 

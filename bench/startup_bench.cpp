@@ -7,6 +7,8 @@
 // introduction) and QUILLFORGE_REPORT_FIRST_FRAME=1; the program prints one line once its
 // first frame is painted and exits. Uses the display of the environment (DISPLAY, or
 // QT_QPA_PLATFORM=offscreen).
+#include "BenchStats.h"
+
 #include <QDir>
 #include <QTemporaryDir>
 
@@ -22,6 +24,9 @@
 #include <unistd.h>
 
 namespace {
+
+using qf::bench::median;
+using qf::bench::minimum;
 
 struct Sample {
     double milliseconds = 0;
@@ -69,12 +74,6 @@ bool runOnce(const char* program, Sample& sample)
     return true;
 }
 
-double median(std::vector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
-}
-
 void summarise(const char* name, const std::vector<Sample>& samples)
 {
     std::vector<double> times, rss;
@@ -83,8 +82,7 @@ void summarise(const char* name, const std::vector<Sample>& samples)
         rss.push_back(double(s.rssKB));
     }
     std::printf("%-12s first frame: median %7.1f ms  min %7.1f ms  max %7.1f ms   RSS median %6.1f MB\n", name,
-                median(times), *std::min_element(times.begin(), times.end()),
-                *std::max_element(times.begin(), times.end()), median(rss) / 1024.0);
+                median(times), minimum(times), *std::max_element(times.begin(), times.end()), median(rss) / 1024.0);
 }
 
 } // namespace

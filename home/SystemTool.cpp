@@ -5,6 +5,8 @@
 
 #include <QCoreApplication>
 
+#include <vector>
+
 namespace qf {
 
 namespace {
@@ -62,50 +64,64 @@ QList<SystemTool> systemToolCatalogue(const Platform& platform)
     };
 }
 
+QCoro::Task<SystemTool> detectSystemTool(SystemTool tool, ShellRunner& shell, DeveloperToolsItem developerTools)
+{
+    switch (tool.id) {
+    case SystemToolID::developerFolder: break; // known when the catalogue was built
+    case SystemToolID::developerTools: {
+        const Result<QString> present = co_await shell.run(developerTools.presenceCommand);
+        if (!present)
+            break;
+        tool.isInstalled = true;
+        std::optional<QString> output;
+        if (developerTools.versionCommand.isEmpty()) {
+            output = present.value();
+        } else {
+            const Result<QString> version = co_await shell.run(developerTools.versionCommand);
+            if (version)
+                output = version.value();
+        }
+        if (output)
+            tool.version = QString(*output).remove(developerTools.versionPrefix);
+        break;
+    }
+    case SystemToolID::homebrew: {
+        const Result<QString> version = co_await shell.run(QStringLiteral("brew --version"));
+        if (!version)
+            break;
+        tool.isInstalled = true;
+        const QStringList lines = version.value().split(QLatin1Char('\n'));
+        if (!lines.isEmpty())
+            tool.version = QString(lines.first()).remove(QStringLiteral("Homebrew "));
+        break;
+    }
+    case SystemToolID::node: {
+        const Result<QString> version = co_await shell.run(QStringLiteral("node --version"));
+        if (!version)
+            break;
+        tool.isInstalled = true;
+        tool.version = version.value();
+        break;
+    }
+    }
+    co_return tool;
+}
+
 QCoro::Task<QList<SystemTool>> detectSystemTools(QList<SystemTool> tools, ShellRunner& shell,
                                                  DeveloperToolsItem developerTools)
 {
-    for (SystemTool& tool : tools) {
-        switch (tool.id) {
-        case SystemToolID::developerFolder: break; // known when the catalogue was built
-        case SystemToolID::developerTools: {
-            const Result<QString> present = co_await shell.run(developerTools.presenceCommand);
-            if (!present)
-                break;
-            tool.isInstalled = true;
-            std::optional<QString> output;
-            if (developerTools.versionCommand.isEmpty()) {
-                output = present.value();
-            } else {
-                const Result<QString> version = co_await shell.run(developerTools.versionCommand);
-                if (version)
-                    output = version.value();
-            }
-            if (output)
-                tool.version = QString(*output).remove(developerTools.versionPrefix);
-            break;
-        }
-        case SystemToolID::homebrew: {
-            const Result<QString> version = co_await shell.run(QStringLiteral("brew --version"));
-            if (!version)
-                break;
-            tool.isInstalled = true;
-            const QStringList lines = version.value().split(QLatin1Char('\n'));
-            if (!lines.isEmpty())
-                tool.version = QString(lines.first()).remove(QStringLiteral("Homebrew "));
-            break;
-        }
-        case SystemToolID::node: {
-            const Result<QString> version = co_await shell.run(QStringLiteral("node --version"));
-            if (!version)
-                break;
-            tool.isInstalled = true;
-            tool.version = version.value();
-            break;
-        }
-        }
+    // Every check starts at once (a task runs until its first wait); the results are
+    // collected in catalogue order.
+    std::vector<QCoro::Task<SystemTool>> checks;
+    checks.reserve(size_t(tools.size()));
+    for (const SystemTool& tool : std::as_const(tools))
+        checks.push_back(detectSystemTool(tool, shell, developerTools));
+    QList<SystemTool> detected;
+    for (const QCoro::Task<SystemTool>& check : checks) {
+        SystemTool tool = co_await check;
+        detected << std::move(tool);
     }
-    co_return tools;
+    co_return detected;
 }
 
 void handleSystemToolAction(const SystemTool& tool, Platform& platform, const std::function<void()>& reload)

@@ -38,9 +38,10 @@ struct SystemTool {
 // The four items in dashboard order, with the projects folder's presence already known.
 QList<SystemTool> systemToolCatalogue(const Platform& platform);
 
-// Fills in presence and version of each item, one command at a time. A check that fails
-// leaves its item missing; nothing is reported. `developerTools` says how the developer-tools
-// item is detected on this system.
+// Fills in presence and version of one item, or of every item (all checked at the same time,
+// results in catalogue order). A check that fails leaves its item missing; nothing is
+// reported. `developerTools` says how the developer-tools item is detected on this system.
+QCoro::Task<SystemTool> detectSystemTool(SystemTool tool, ShellRunner& shell, DeveloperToolsItem developerTools);
 QCoro::Task<QList<SystemTool>> detectSystemTools(QList<SystemTool> tools, ShellRunner& shell,
                                                  DeveloperToolsItem developerTools);
 

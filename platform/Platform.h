@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <qnamespace.h>
 
 #include <memory>
 #include <optional>
@@ -82,6 +83,9 @@ public:
     // Shapes the main window once it is on screen: on macOS a hidden title bar with the
     // content reaching the top edge and rounded content; elsewhere an ordinary window.
     virtual void configureMainWindow(QWidget* window) = 0;
+    // How a sheet of the main window is made: on macOS a real sheet, elsewhere a dialog
+    // window in front of the main window. Either way it is window-modal.
+    virtual Qt::WindowFlags sheetWindowFlags() const { return Qt::Dialog; }
 
     virtual OperatingSystemCheck checkOperatingSystem() const = 0;
     // Free space on the volume that holds `path`.

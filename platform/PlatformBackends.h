@@ -15,6 +15,7 @@ public:
     const SystemWording& wording() const override;
     ApplicationLook applicationLook() const override;
     void configureMainWindow(QWidget* window) override;
+    Qt::WindowFlags sheetWindowFlags() const override { return Qt::Sheet; }
     OperatingSystemCheck checkOperatingSystem() const override;
     QStringList programDirectories() const override;
     QStringList globalNpmPrograms() const override;

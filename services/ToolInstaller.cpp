@@ -146,7 +146,7 @@ QCoro::Task<Result<void>> ToolInstaller::runSetup(CLITool tool, StepUpdate repor
     co_return Result<void>();
 }
 
-QCoro::Task<void> ToolInstaller::uninstall(CLITool tool, Output log)
+QCoro::Task<Result<void>> ToolInstaller::uninstall(CLITool tool, Output log)
 {
     log(QStringLiteral("Uninstalling ") + tool.displayName() + QStringLiteral("...\n"));
     // The removal line walks nvm's versions with a glob. In zsh a glob that matches nothing
@@ -163,12 +163,17 @@ QCoro::Task<void> ToolInstaller::uninstall(CLITool tool, Output log)
 
     const Result<QString> stillThere = co_await m_shell.run(QStringLiteral("which ") + tool.commandName());
     if (!stillThere) {
+        // Only an answer of the search counts as "gone"; a search that could not run says nothing.
+        const ShellError* error = stillThere.error().shellError();
+        if (error && error->kind() != ShellError::commandFailed)
+            co_return stillThere.error();
         log(QStringLiteral("\n") + tool.displayName() + QStringLiteral(" has been uninstalled.\n"));
-        co_return;
+        co_return Result<void>();
     }
     log(QStringLiteral("\nNote: '") + tool.commandName() +
         QStringLiteral("' is still found in PATH. You may have multiple installations.\n"));
     log(QStringLiteral("Run 'which ") + tool.commandName() + QStringLiteral("' in Terminal to find other copies.\n"));
+    co_return Result<void>();
 }
 
 QCoro::Task<Result<void>> ToolInstaller::saveAPIKey(QString key, CLITool tool)

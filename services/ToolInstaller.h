@@ -42,8 +42,10 @@ public:
     // Through Homebrew when it is there, otherwise from the official Node.js release.
     QCoro::Task<Result<void>> installNodeJS(Output onOutput);
 
-    // Never fails: what happened is told in the log.
-    QCoro::Task<void> uninstall(CLITool tool, Output onOutput);
+    // What the removal did is told in the log, leftovers included. It fails only when the
+    // search for the tool afterwards could not run, so that nobody is told a tool is gone
+    // without looking.
+    QCoro::Task<Result<void>> uninstall(CLITool tool, Output onOutput);
 
     // Stores `key` as the tool's environment variable in the shell profile (rewriting an
     // existing export line in place, or appending one) and sets it in this process too.

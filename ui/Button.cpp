@@ -6,10 +6,16 @@
 #include <QKeyEvent>
 #include <QPainter>
 
+#include <algorithm>
+
 namespace qf::ui {
 
 Button::Button(const QString& title, Style style, Size size, QWidget* parent)
-    : QAbstractButton(parent), m_style(style), m_size(size), m_font(Theme::body())
+    : QAbstractButton(parent),
+      m_style(style),
+      m_size(size),
+      m_font(Theme::body()),
+      m_hover(this, 100, motion::easeInOut(), [this](qreal) { update(); })
 {
     setText(title);
     setAccessibleName(title);
@@ -90,6 +96,25 @@ void Button::setContentPadding(int horizontal, int vertical)
     updateGeometry();
 }
 
+void Button::setCornerRadius(qreal radius)
+{
+    m_cornerRadius = radius;
+    update();
+}
+
+void Button::setOpacity(qreal opacity)
+{
+    m_opacity = std::clamp<qreal>(opacity, 0.0, 1.0);
+    update();
+}
+
+qreal Button::cornerRadius() const
+{
+    if (m_cornerRadius >= 0)
+        return m_cornerRadius;
+    return m_size == Size::large ? 8.0 : 6.0;
+}
+
 int Button::naturalContentWidth() const
 {
     int width = 0;
@@ -99,7 +124,8 @@ int Button::naturalContentWidth() const
         ++parts;
     }
     if (!text().isEmpty()) {
-        width += QFontMetrics(m_font).horizontalAdvance(text());
+        // Shaped text has a fractional width; rounding it down would cut the last letter.
+        width += qCeil(QFontMetricsF(m_font).horizontalAdvance(text()));
         ++parts;
     }
     if (!m_trailing.name.isEmpty()) {
@@ -122,6 +148,7 @@ int Button::horizontalPadding() const
         return m_hPadding;
     switch (m_style) {
     case Style::prominent:
+    case Style::tinted:
     case Style::bordered: return m_size == Size::large ? 14 : 10;
     case Style::plain:
     case Style::borderless:
@@ -142,6 +169,7 @@ int Button::controlHeight() const
         return content + 2 * m_vPadding;
     switch (m_style) {
     case Style::prominent:
+    case Style::tinted:
     case Style::bordered: return std::max(content + 8, m_size == Size::large ? 30 : 22);
     case Style::plain:
     case Style::borderless:
@@ -165,6 +193,7 @@ QColor Button::contentColor() const
     switch (m_style) {
     case Style::prominent: return QColor(Qt::white);
     case Style::bordered: return Theme::color(Role::primary);
+    case Style::tinted:
     case Style::plain:
     case Style::borderless:
     case Style::link: return m_tint.resolve();
@@ -182,6 +211,10 @@ QColor Button::backgroundColor() const
             fill = fill.darker(118);
         else if (isEnabled() && underMouse())
             fill = fill.lighter(dark ? 115 : 106);
+    } else if (m_style == Style::tinted) {
+        fill = m_tint.withOpacity(m_tint.opacity * (0.10 + 0.08 * m_hover.value())).resolve();
+        if (isDown())
+            fill = m_tint.withOpacity(m_tint.opacity * 0.26).resolve();
     } else if (m_style == Style::bordered) {
         fill = dark ? QColor(255, 255, 255, 34) : QColor(255, 255, 255);
         if (isDown())
@@ -196,11 +229,12 @@ void Button::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
+    painter.setOpacity(m_opacity);
     const QRectF bounds = QRectF(rect());
-    const qreal radius = m_size == Size::large ? 8.0 : 6.0;
+    const qreal radius = cornerRadius();
     const bool dark = Theme::isDark();
 
-    if (m_style == Style::prominent || m_style == Style::bordered) {
+    if (isFilled()) {
         const QPainterPath path = continuousRoundedRect(bounds.adjusted(0.5, 0.5, -0.5, -0.5), radius);
         if (m_style == Style::bordered && !dark) {
             // A hairline edge with a slightly darker bottom, like a raised macOS button.
@@ -224,8 +258,7 @@ void Button::paintEvent(QPaintEvent*)
         QPen ring(Tint(Role::accent, 0.55).resolve(), 2.5);
         painter.setPen(ring);
         painter.setBrush(Qt::NoBrush);
-        const bool chrome = m_style == Style::prominent || m_style == Style::bordered;
-        painter.drawPath(continuousRoundedRect(bounds.adjusted(1.25, 1.25, -1.25, -1.25), chrome ? radius - 1 : 4));
+        painter.drawPath(continuousRoundedRect(bounds.adjusted(1.25, 1.25, -1.25, -1.25), isFilled() ? radius - 1 : 4));
     }
 
     // Content, centred.
@@ -234,7 +267,7 @@ void Button::paintEvent(QPaintEvent*)
         content.setAlphaF(content.alphaF() * 0.55f);
     const int width = contentWidth();
     const int natural = naturalContentWidth();
-    const QFontMetrics metrics(m_font);
+    const QFontMetricsF metrics(m_font);
     const qreal contentLeft = (bounds.width() - width) / 2.0;
     qreal x = contentLeft + std::max(0, width - natural) / 2.0;
     const qreal centreY = bounds.height() / 2.0;
@@ -250,7 +283,7 @@ void Button::paintEvent(QPaintEvent*)
     if (!text().isEmpty()) {
         painter.setFont(m_font);
         painter.setPen(content);
-        const QString shown = metrics.elidedText(text(), Qt::ElideRight, std::max(0, int(bounds.width() - x)));
+        const QString shown = metrics.elidedText(text(), Qt::ElideRight, std::max<qreal>(0.0, bounds.width() - x));
         const qreal baseline = centreY + (metrics.ascent() - metrics.descent()) / 2.0;
         painter.drawText(QPointF(x, baseline), shown);
         x += metrics.horizontalAdvance(text()) + m_spacing;
@@ -274,6 +307,10 @@ bool Button::event(QEvent* event)
     switch (event->type()) {
     case QEvent::HoverEnter:
     case QEvent::HoverLeave:
+        if (m_style == Style::tinted)
+            m_hover.setTarget(event->type() == QEvent::HoverEnter ? 1.0 : 0.0);
+        update();
+        break;
     case QEvent::EnabledChange:
     case QEvent::PaletteChange: update(); break;
     default: break;

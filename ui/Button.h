@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Motion.h"
 #include "Symbol.h"
 #include "Theme.h"
 
@@ -9,6 +10,7 @@ namespace qf::ui {
 
 // The push button of the design, drawn the same on every platform:
 //  - prominent: filled with the tint (the accent by default), white content;
+//  - tinted: the tint at 10% behind content in the tint, 18% while the pointer is over it;
 //  - bordered: a light raised surface with primary content;
 //  - plain / borderless: content only, in the tint;
 //  - link: accent-coloured content with a pointing-hand cursor.
@@ -17,7 +19,7 @@ class Button : public QAbstractButton {
     Q_OBJECT
 
 public:
-    enum class Style { prominent, bordered, plain, borderless, link };
+    enum class Style { prominent, tinted, bordered, plain, borderless, link };
     enum class Size { regular, large };
 
     Button(const QString& title, Style style, Size size = Size::regular, QWidget* parent = nullptr);
@@ -41,6 +43,11 @@ public:
     void setLabelWidth(int width);
     void setMinimumLabelWidth(int width);
     void setContentPadding(int horizontal, int vertical);
+    // Corner radius of the filled styles (by default 8 for large buttons, 6 otherwise).
+    void setCornerRadius(qreal radius);
+    // Draws the whole button at this opacity (for fading it in and out).
+    void setOpacity(qreal opacity);
+    qreal opacity() const { return m_opacity; }
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
@@ -63,6 +70,11 @@ private:
     int horizontalPadding() const;
     QColor contentColor() const;
     QColor backgroundColor() const;
+    qreal cornerRadius() const;
+    bool isFilled() const
+    {
+        return m_style == Style::prominent || m_style == Style::tinted || m_style == Style::bordered;
+    }
 
     Style m_style;
     Size m_size;
@@ -76,6 +88,10 @@ private:
     int m_minimumLabelWidth = 0;
     int m_hPadding = -1;
     int m_vPadding = -1;
+    qreal m_cornerRadius = -1;
+    qreal m_opacity = 1.0;
+    // The pointer's presence, eased in and out for the tinted style.
+    motion::Transition m_hover;
 };
 
 } // namespace qf::ui

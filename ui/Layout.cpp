@@ -23,6 +23,17 @@ QHBoxLayout* hstack(QWidget* owner, int spacing, QMargins padding)
 QVBoxLayout* vstack(int spacing, QMargins padding) { return vstack(nullptr, spacing, padding); }
 QHBoxLayout* hstack(int spacing, QMargins padding) { return hstack(nullptr, spacing, padding); }
 
+void makeSlim(QScrollBar* bar)
+{
+    bar->setStyleSheet(
+        QStringLiteral("QScrollBar:vertical { background: transparent; width: 11px; margin: 2px 2px 2px 0; }"
+                       "QScrollBar::handle:vertical { background: rgba(128, 128, 128, 0.55); border-radius: 3px;"
+                       "  min-height: 32px; margin: 0 1px 0 2px; }"
+                       "QScrollBar::handle:vertical:hover { background: rgba(128, 128, 128, 0.8); }"
+                       "QScrollBar::add-line:vertical, QScrollBar::sub-line:vertical { height: 0; }"
+                       "QScrollBar::add-page:vertical, QScrollBar::sub-page:vertical { background: transparent; }"));
+}
+
 ScrollView::ScrollView(QWidget* parent) : QScrollArea(parent), m_content(new QWidget)
 {
     setFrameShape(QFrame::NoFrame);
@@ -33,14 +44,7 @@ ScrollView::ScrollView(QWidget* parent) : QScrollArea(parent), m_content(new QWi
     viewport()->setAutoFillBackground(false);
     m_content->setAutoFillBackground(false);
     setWidget(m_content);
-    // A slim bar in the spirit of macOS's scroll indicators instead of a bar with arrows.
-    verticalScrollBar()->setStyleSheet(
-        QStringLiteral("QScrollBar:vertical { background: transparent; width: 11px; margin: 2px 2px 2px 0; }"
-                       "QScrollBar::handle:vertical { background: rgba(128, 128, 128, 0.55); border-radius: 3px;"
-                       "  min-height: 32px; margin: 0 1px 0 2px; }"
-                       "QScrollBar::handle:vertical:hover { background: rgba(128, 128, 128, 0.8); }"
-                       "QScrollBar::add-line:vertical, QScrollBar::sub-line:vertical { height: 0; }"
-                       "QScrollBar::add-page:vertical, QScrollBar::sub-page:vertical { background: transparent; }"));
+    makeSlim(verticalScrollBar());
 }
 
 } // namespace qf::ui

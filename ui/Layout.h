@@ -3,6 +3,8 @@
 #include <QBoxLayout>
 #include <QScrollArea>
 
+class QScrollBar;
+
 namespace qf::ui {
 
 // Stacks as the design describes them: spacing between children and padding around them.
@@ -10,6 +12,9 @@ QVBoxLayout* vstack(QWidget* owner, int spacing, QMargins padding = {});
 QHBoxLayout* hstack(QWidget* owner, int spacing, QMargins padding = {});
 QVBoxLayout* vstack(int spacing, QMargins padding = {});
 QHBoxLayout* hstack(int spacing, QMargins padding = {});
+
+// A slim bar in the spirit of macOS's scroll indicators instead of a bar with arrows.
+void makeSlim(QScrollBar* bar);
 
 // A vertical scroll view with a transparent background, no frame and the content as wide as
 // the view. The content widget is created here; lay children into it.

@@ -8,6 +8,7 @@
 #include <QWidget>
 
 #include <cmath>
+#include <memory>
 
 namespace qf::ui::motion {
 
@@ -67,8 +68,11 @@ QAbstractAnimation* animate(QObject* context, int durationMs, const QEasingCurve
     tween->setEndValue(1.0);
     tween->setDuration(durationMs);
     tween->setEasingCurve(curve);
+    auto step = std::make_shared<std::function<void(qreal)>>(std::move(apply));
     QObject::connect(tween, &QVariantAnimation::valueChanged, context,
-                     [apply = std::move(apply)](const QVariant& value) { apply(value.toReal()); });
+                     [step](const QVariant& value) { (*step)(value.toReal()); });
+    // A curve may stop a hair short of its end; the last step is always the end itself.
+    QObject::connect(tween, &QAbstractAnimation::finished, context, [step] { (*step)(1.0); });
 
     QAbstractAnimation* animation = tween;
     if (delayMs > 0) {
@@ -89,6 +93,42 @@ void applyLook(QWidget* widget, const Look& out, qreal progress)
     effect->setOpacity(out.opacity + (1.0 - out.opacity) * progress);
     effect->setOffset(out.offset * rest);
     effect->setScale(out.scale + (1.0 - out.scale) * progress);
+}
+
+Transition::Transition(QObject* owner, int durationMs, QEasingCurve curve, std::function<void(qreal)> onChange)
+    : m_owner(owner), m_durationMs(durationMs), m_curve(std::move(curve)), m_onChange(std::move(onChange))
+{
+}
+
+Transition::~Transition() { delete m_running.data(); }
+
+void Transition::setTarget(qreal target, bool animated)
+{
+    if (qFuzzyCompare(target + 1.0, m_target + 1.0) && (m_running || qFuzzyCompare(m_value + 1.0, target + 1.0)))
+        return;
+    m_target = target;
+    if (m_running)
+        m_running->stop();
+    if (!animated || !g_enabled || m_durationMs <= 0) {
+        step(target);
+        return;
+    }
+    auto* tween = new QVariantAnimation(m_owner);
+    tween->setStartValue(m_value);
+    tween->setEndValue(target);
+    tween->setDuration(m_durationMs);
+    tween->setEasingCurve(m_curve);
+    QObject::connect(tween, &QVariantAnimation::valueChanged, m_owner,
+                     [this](const QVariant& value) { step(value.toReal()); });
+    QObject::connect(tween, &QAbstractAnimation::finished, m_owner, [this, target] { step(target); });
+    m_running = tween;
+    tween->start(QAbstractAnimation::DeleteWhenStopped);
+}
+
+void Transition::step(qreal value)
+{
+    m_value = value;
+    m_onChange(value);
 }
 
 } // namespace qf::ui::motion

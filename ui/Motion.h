@@ -5,8 +5,11 @@
 
 #include <functional>
 
+#include <QObject>
+#include <QPointer>
+
 class QAbstractAnimation;
-class QObject;
+class QVariantAnimation;
 class QWidget;
 
 namespace qf::ui::motion {
@@ -40,5 +43,31 @@ struct Look {
     qreal scale = 1.0;
 };
 void applyLook(QWidget* widget, const Look& out, qreal progress);
+
+// A value between 0 and 1 that moves to each new target along `curve` over `durationMs`,
+// starting from wherever it is (so quick back-and-forth changes never jump), and reports every
+// step to `onChange`. With animations off, or when asked not to animate, it jumps at once.
+class Transition {
+public:
+    Transition(QObject* owner, int durationMs, QEasingCurve curve, std::function<void(qreal)> onChange);
+    ~Transition();
+    Transition(const Transition&) = delete;
+    Transition& operator=(const Transition&) = delete;
+
+    qreal value() const { return m_value; }
+    qreal target() const { return m_target; }
+    void setTarget(qreal target, bool animated = true);
+
+private:
+    void step(qreal value);
+
+    QObject* m_owner;
+    int m_durationMs;
+    QEasingCurve m_curve;
+    std::function<void(qreal)> m_onChange;
+    QPointer<QVariantAnimation> m_running;
+    qreal m_value = 0.0;
+    qreal m_target = 0.0;
+};
 
 } // namespace qf::ui::motion

@@ -7,6 +7,26 @@
 
 namespace qf::ui {
 
+Paint Paint::gradient(const Tint& start, const Tint& end, QPointF from, QPointF to)
+{
+    Paint paint(start);
+    paint.m_end = end;
+    paint.m_from = from;
+    paint.m_to = to;
+    return paint;
+}
+
+QBrush Paint::brush(const QRectF& bounds) const
+{
+    if (!m_end)
+        return m_start.resolve();
+    QLinearGradient gradient(bounds.left() + bounds.width() * m_from.x(), bounds.top() + bounds.height() * m_from.y(),
+                             bounds.left() + bounds.width() * m_to.x(), bounds.top() + bounds.height() * m_to.y());
+    gradient.setColorAt(0, m_start.resolve());
+    gradient.setColorAt(1, m_end->resolve());
+    return gradient;
+}
+
 RoundedCard::RoundedCard(QWidget* parent) : QWidget(parent) {}
 
 void RoundedCard::setShape(const Shape& shape)
@@ -20,21 +40,33 @@ void RoundedCard::setShape(const Shape& shape)
 void RoundedCard::setFill(const Tint& fill)
 {
     m_fill = fill;
-    m_gradient.reset();
     update();
 }
 
 void RoundedCard::setGradientFill(const Tint& start, const Tint& end, QPointF from, QPointF to)
 {
-    m_gradient = std::make_pair(start, end);
-    m_gradientFrom = from;
-    m_gradientTo = to;
+    m_fill = Paint::gradient(start, end, from, to);
     update();
 }
 
 void RoundedCard::setStroke(const Tint& stroke, qreal width)
 {
     m_stroke = stroke;
+    m_strokeWidth = width;
+    update();
+}
+
+void RoundedCard::setChildShadow(QWidget* child, const std::optional<ShadowStyle>& shadow, const Shape& shape)
+{
+    m_childShadows.removeIf([child](const ChildShadow& entry) { return !entry.child || entry.child == child; });
+    if (shadow)
+        m_childShadows.append({child, *shadow, shape});
+    update();
+}
+
+void RoundedCard::setGradientStroke(const Tint& start, const Tint& end, qreal width, QPointF from, QPointF to)
+{
+    m_stroke = Paint::gradient(start, end, from, to);
     m_strokeWidth = width;
     update();
 }
@@ -54,24 +86,30 @@ void RoundedCard::paintEvent(QPaintEvent*)
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF bounds = QRectF(rect());
     const QPainterPath path = m_shape.path(bounds);
-    if (m_gradient) {
-        QLinearGradient gradient(
-            bounds.left() + bounds.width() * m_gradientFrom.x(), bounds.top() + bounds.height() * m_gradientFrom.y(),
-            bounds.left() + bounds.width() * m_gradientTo.x(), bounds.top() + bounds.height() * m_gradientTo.y());
-        gradient.setColorAt(0, m_gradient->first.resolve());
-        gradient.setColorAt(1, m_gradient->second.resolve());
-        painter.fillPath(path, gradient);
-    } else {
-        painter.fillPath(path, m_fill.resolve());
+    painter.fillPath(path, m_fill.brush(bounds));
+
+    const qreal dpr = devicePixelRatioF();
+    for (const ChildShadow& entry : std::as_const(m_childShadows)) {
+        if (!entry.child || !entry.child->isVisible())
+            continue;
+        const QRectF area = QRectF(entry.child->geometry());
+        const QImage image = shadowImage(area.size(), entry.shape, entry.shadow.radius, entry.shadow.color.resolve(),
+                                         dpr);
+        const int margin = shadowMargin(entry.shadow.radius);
+        painter.drawImage(area.topLeft() + entry.shadow.offset - QPointF(margin, margin), image);
     }
-    if (m_strokeWidth > 0 && !m_stroke.isClear()) {
-        const qreal inset = m_strokeWidth / 2.0;
-        const Shape strokeShape = m_shape.kind == Shape::roundedRect
-                                      ? Shape::rounded(std::max<qreal>(0.0, m_shape.cornerRadius - inset))
-                                      : m_shape;
-        QPen pen(m_stroke.resolve(), m_strokeWidth);
-        painter.strokePath(strokeShape.path(bounds.adjusted(inset, inset, -inset, -inset)), pen);
-    }
+
+    // Strokes and the focus ring lie inside the shape, following its corners.
+    const auto inset = [&](qreal by) {
+        const Shape shape = m_shape.kind == Shape::roundedRect
+                                ? Shape::rounded(std::max<qreal>(0.0, m_shape.cornerRadius - by))
+                                : m_shape;
+        return shape.path(bounds.adjusted(by, by, -by, -by));
+    };
+    if (m_strokeWidth > 0 && !m_stroke.isClear())
+        painter.strokePath(inset(m_strokeWidth / 2.0), QPen(m_stroke.brush(bounds), m_strokeWidth));
+    if (hasFocus() && window() && window()->testAttribute(Qt::WA_KeyboardFocusChange))
+        painter.strokePath(inset(1.25), QPen(Tint(Role::accent, 0.55).resolve(), 2.5));
 }
 
 // MARK: IconTile
@@ -107,15 +145,35 @@ void IconTile::setFill(const Tint& fill)
     update();
 }
 
+void IconTile::setGradientFill(const Tint& start, const Tint& end, QPointF from, QPointF to)
+{
+    m_fill = Paint::gradient(start, end, from, to);
+    update();
+}
+
+void IconTile::setSymbolGradient(const Tint& top, const Tint& bottom)
+{
+    m_symbolPaint = Paint::gradient(top, bottom, {0, 0}, {0, 1});
+    update();
+}
+
 void IconTile::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF bounds = QRectF(rect());
-    painter.fillPath(m_shape.path(bounds), m_fill.resolve());
+    const QPainterPath path = m_shape.path(bounds);
+    painter.fillPath(path, m_fill.brush(bounds));
     if (!m_symbol.isEmpty()) {
-        const QPixmap icon = Symbol::pixmap(m_symbol, m_symbolSize, m_contentTint.resolve(), devicePixelRatioF(),
-                                            static_cast<SymbolWeight>(m_symbolWeight));
+        const qreal dpr = devicePixelRatioF();
+        QPixmap icon = Symbol::pixmap(m_symbol, m_symbolSize, m_contentTint.resolve(), dpr,
+                                      static_cast<SymbolWeight>(m_symbolWeight));
+        if (m_symbolPaint) {
+            QPainter tint(&icon);
+            tint.setCompositionMode(QPainter::CompositionMode_SourceIn);
+            const QRectF area(QPointF(0, 0), icon.deviceIndependentSize());
+            tint.fillRect(area, m_symbolPaint->brush(area));
+        }
         const QSizeF logical = icon.deviceIndependentSize();
         painter.drawPixmap(QPointF((width() - logical.width()) / 2.0, (height() - logical.height()) / 2.0), icon);
     } else if (!m_text.isEmpty()) {

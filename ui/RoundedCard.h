@@ -3,14 +3,36 @@
 #include "Surface.h"
 #include "Theme.h"
 
+#include <QBrush>
+#include <QList>
+#include <QPointer>
 #include <QWidget>
 
 #include <optional>
 
 namespace qf::ui {
 
+// How a shape is filled or stroked: one tint, or a linear gradient between two tints from one
+// point of the shape to another, given as fractions of its size (top-leading is (0, 0),
+// bottom-trailing is (1, 1)). Resolved at paint time, like every tint.
+class Paint {
+public:
+    Paint(const Tint& tint = Tint(Role::clear)) : m_start(tint) {}
+    static Paint gradient(const Tint& start, const Tint& end, QPointF from, QPointF to);
+
+    bool isClear() const { return !m_end && m_start.isClear(); }
+    QBrush brush(const QRectF& bounds) const;
+
+private:
+    Tint m_start;
+    std::optional<Tint> m_end;
+    QPointF m_from{0, 0};
+    QPointF m_to{0, 1};
+};
+
 // A filled shape behind content: cards, bars, tiles, toasts. Fill, stroke and shadow are
-// colour roles resolved at paint time. Children are laid out by the caller's layout.
+// colour roles resolved at paint time. Children are laid out by the caller's layout. A card
+// that takes keyboard focus shows the focus ring while it has it.
 class RoundedCard : public QWidget {
     Q_OBJECT
 
@@ -24,10 +46,15 @@ public:
     // fractions of its size (top-leading is (0, 0), bottom-trailing is (1, 1)).
     void setGradientFill(const Tint& start, const Tint& end, QPointF from = {0, 0}, QPointF to = {0, 1});
     void setStroke(const Tint& stroke, qreal width);
+    // A stroke that runs from `start` to `end` like the gradient fill.
+    void setGradientStroke(const Tint& start, const Tint& end, qreal width, QPointF from = {0, 0}, QPointF to = {0, 1});
     void setShadow(const std::optional<ShadowStyle>& shadow);
+    // A shadow under one of the card's children (a logo, say), painted by the card, so that
+    // the child needs no effect of its own: Qt draws an effect inside another one misplaced.
+    void setChildShadow(QWidget* child, const std::optional<ShadowStyle>& shadow, const Shape& shape);
 
     const Shape& shape() const { return m_shape; }
-    const Tint& fill() const { return m_fill; }
+
     const std::optional<ShadowStyle>& shadow() const { return m_shadow; }
 
 protected:
@@ -35,13 +62,16 @@ protected:
 
 private:
     Shape m_shape = Shape::rounded(12);
-    Tint m_fill = Tint(Role::controlBackground);
-    std::optional<std::pair<Tint, Tint>> m_gradient;
-    QPointF m_gradientFrom{0, 0};
-    QPointF m_gradientTo{0, 1};
-    Tint m_stroke = Tint(Role::clear);
+    Paint m_fill = Tint(Role::controlBackground);
+    Paint m_stroke;
     qreal m_strokeWidth = 0.0;
     std::optional<ShadowStyle> m_shadow;
+    struct ChildShadow {
+        QPointer<QWidget> child;
+        ShadowStyle shadow;
+        Shape shape;
+    };
+    QList<ChildShadow> m_childShadows;
 };
 
 // A tinted tile or circle with a symbol or a short text centred on it: feature icons, step
@@ -53,8 +83,11 @@ public:
     IconTile(QSize size, const Shape& shape, const Tint& fill, QWidget* parent = nullptr);
 
     void setSymbol(const QString& name, qreal pointSize, const Tint& tint, int weight = 0);
+    // The symbol coloured with a gradient from `top` to `bottom` instead of one tint.
+    void setSymbolGradient(const Tint& top, const Tint& bottom);
     void setText(const QString& text, const QFont& font, const Tint& tint);
     void setFill(const Tint& fill);
+    void setGradientFill(const Tint& start, const Tint& end, QPointF from = {0, 0}, QPointF to = {1, 1});
 
     QString symbolName() const { return m_symbol; }
     QString text() const { return m_text; }
@@ -67,7 +100,8 @@ protected:
 private:
     QSize m_size;
     Shape m_shape;
-    Tint m_fill;
+    Paint m_fill;
+    std::optional<Paint> m_symbolPaint;
     QString m_symbol;
     qreal m_symbolSize = 14;
     int m_symbolWeight = 0;

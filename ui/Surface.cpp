@@ -135,6 +135,15 @@ void blurAlpha(QImage& mask, qreal sigma)
     }
 }
 
+ShadowStyle mix(const ShadowStyle& a, const ShadowStyle& b, qreal t)
+{
+    if (t <= 0.0)
+        return a;
+    if (t >= 1.0)
+        return b;
+    return {ui::mix(a.color, b.color, t), a.radius + (b.radius - a.radius) * t, a.offset + (b.offset - a.offset) * t};
+}
+
 int shadowMargin(qreal blurRadius) { return static_cast<int>(std::ceil(std::max<qreal>(0.0, blurRadius) * 1.5)); }
 
 namespace {

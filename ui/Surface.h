@@ -42,6 +42,9 @@ struct ShadowStyle {
     friend bool operator==(const ShadowStyle&, const ShadowStyle&) = default;
 };
 
+// The shadow `t` of the way from `a` to `b`, for animated changes.
+ShadowStyle mix(const ShadowStyle& a, const ShadowStyle& b, qreal t);
+
 // A blurred silhouette of `shape` at `size` in `color`, `margin()` logical pixels larger than
 // the shape on every side. Cached by every input, so painting a shadow is one image blit.
 QImage shadowImage(const QSizeF& size, const Shape& shape, qreal blurRadius, const QColor& color, qreal dpr);

@@ -179,6 +179,14 @@ void SymbolView::setPointSize(qreal pointSize)
     update();
 }
 
+void SymbolView::setWeight(SymbolWeight weight)
+{
+    if (weight == m_weight)
+        return;
+    m_weight = weight;
+    update();
+}
+
 QSize SymbolView::sizeHint() const
 {
     const int box = Symbol::boxSize(m_pointSize);

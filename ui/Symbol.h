@@ -43,6 +43,7 @@ public:
     void setName(const QString& name);
     void setTint(const Tint& tint);
     void setPointSize(qreal pointSize);
+    void setWeight(SymbolWeight weight);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }

@@ -47,6 +47,19 @@ QColor Tint::resolve() const
     return base;
 }
 
+Tint mix(const Tint& a, const Tint& b, qreal t)
+{
+    if (t <= 0.0)
+        return a;
+    if (t >= 1.0)
+        return b;
+    const QColor from = a.resolve();
+    const QColor to = b.resolve();
+    const auto lerp = [t](float x, float y) { return x + (y - x) * float(t); };
+    return Tint(QColor::fromRgbF(lerp(from.redF(), to.redF()), lerp(from.greenF(), to.greenF()),
+                                 lerp(from.blueF(), to.blueF()), lerp(from.alphaF(), to.alphaF())));
+}
+
 namespace Theme {
 
 bool isDark(const QPalette& palette) { return palette.color(QPalette::Window).lightness() < 128; }

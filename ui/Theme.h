@@ -57,6 +57,9 @@ struct Tint {
     friend bool operator==(const Tint&, const Tint&) = default;
 };
 
+// The colour `t` of the way from `a` to `b` (0: `a` itself, 1: `b` itself).
+Tint mix(const Tint& a, const Tint& b, qreal t);
+
 enum class FontDesign { standard, rounded, monospaced };
 
 namespace Theme {

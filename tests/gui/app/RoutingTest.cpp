@@ -108,7 +108,7 @@ TEST_F(RoutingTest, FirstScreenFollowsThePreference)
     InstallationState state;
     MainWindow window(state, services);
     EXPECT_EQ(window.contentView()->shownStep(), InstallationStep::home);
-    EXPECT_EQ(window.contentView()->currentScreen()->objectName(), QStringLiteral("placeholder.home"));
+    EXPECT_EQ(window.contentView()->currentScreen()->objectName(), QStringLiteral("homeView"));
 }
 
 TEST_F(RoutingTest, WindowFillsTheUsableScreenAndKeepsItsMinimum)

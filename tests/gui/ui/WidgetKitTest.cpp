@@ -2,12 +2,15 @@
 #include "CLITool.h"
 #include "ImageView.h"
 #include "Label.h"
+#include "LogView.h"
 #include "Motion.h"
 #include "RoundedCard.h"
 #include "TestSupport.h"
 #include "Theme.h"
 
 #include <QAbstractAnimation>
+#include <QPlainTextEdit>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -142,4 +145,64 @@ TEST(RoundedCard, PaintsItsFillInsideItsShape)
     card.render(&canvas, QPoint(), QRegion(), QWidget::DrawChildren);
     EXPECT_EQ(QColor(canvas.pixel(50, 30)), QColor(Qt::red));
     EXPECT_EQ(qAlpha(canvas.pixel(0, 0)), 0);
+}
+
+TEST(Button, TextIsNeverCutAtItsOwnWidth)
+{
+    // Widths of shaped text are fractional; a button as wide as it asks shows its whole title.
+    for (const char* title : {"Details", "Install", "Open", "Uninstall", "Create"}) {
+        Button button(QString::fromLatin1(title), Button::Style::plain);
+        button.setTitleFont(Theme::font(13, QFont::DemiBold));
+        button.setLeadingSymbol(QStringLiteral("chevron.right"), 10, SymbolWeight::bold);
+        const int textRoom = button.sizeHint().width() - Symbol::boxSize(10) - 6;
+        EXPECT_GE(qreal(textRoom), QFontMetricsF(Theme::font(13, QFont::DemiBold)).horizontalAdvance(button.title()))
+            << title;
+    }
+}
+
+TEST(LogView, FollowsTheNewestLineUnlessTheReaderScrolledUp)
+{
+    LogView log;
+    log.resize(300, 90);
+    log.show();
+    QString expected;
+    for (int i = 0; i < 50; ++i) {
+        const QString line = QStringLiteral("line %1\n").arg(i);
+        log.append(line);
+        expected += line;
+    }
+    EXPECT_EQ(log.text(), expected); // every character, as it came
+    EXPECT_TRUE(log.isFollowing());
+
+    QScrollBar* bar = log.textView()->verticalScrollBar();
+    bar->setValue(0); // the reader goes back up
+    log.append(QStringLiteral("more\n"));
+    EXPECT_EQ(bar->value(), 0);
+    bar->setValue(bar->maximum()); // and down again: it follows once more
+    log.append(QStringLiteral("last\n"));
+    EXPECT_TRUE(log.isFollowing());
+    EXPECT_TRUE(log.text().endsWith(QStringLiteral("more\nlast\n")));
+
+    log.clear();
+    EXPECT_TRUE(log.isEmpty());
+}
+
+TEST(Motion, ATransitionTurnsBackFromWhereItIs)
+{
+    QObject owner;
+    QList<qreal> steps;
+    motion::Transition transition(&owner, 200, motion::easeInOut(), [&](qreal value) { steps << value; });
+    transition.setTarget(1.0); // animations are off: straight there
+    EXPECT_EQ(steps, QList<qreal>{1.0});
+
+    test::AnimationsOn on;
+    transition.setTarget(0.0);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return transition.value() < 0.9 && transition.value() > 0.1; }, 2000));
+    const qreal turn = transition.value();
+    steps.clear();
+    transition.setTarget(1.0);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return transition.value() == 1.0; }, 2000));
+    ASSERT_FALSE(steps.isEmpty());
+    EXPECT_GE(steps.first(), turn - 0.05); // no jump back to the far end
+    EXPECT_EQ(steps.last(), 1.0);          // and it lands exactly
 }

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "CLITool.h"
+#include "SystemTool.h"
+
+#include <QCoro/QCoroTask>
+#include <QList>
+
+namespace qf {
+
+// What the dashboard shows after a load: the AI tools found on the search path, in catalogue
+// order, and the supporting items with their presence and versions.
+struct DashboardSnapshot {
+    QList<CLITool> installedTools;
+    QList<SystemTool> systemTools;
+};
+
+// Looks for every AI tool ("which" its command) and every supporting item. All checks run at
+// the same time; the results are exactly those of checking one after another.
+QCoro::Task<DashboardSnapshot> loadDashboard(ShellRunner& shell, const Platform& platform);
+
+} // namespace qf

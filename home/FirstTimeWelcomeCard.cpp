@@ -1,0 +1,95 @@
+#include "FirstTimeWelcomeCard.h"
+
+#include "Label.h"
+#include "Layout.h"
+#include "Symbol.h"
+
+namespace qf {
+
+using namespace ui;
+
+WelcomeStep::WelcomeStep(int number, const QString& title, const QString& description, QWidget* parent)
+    : QWidget(parent)
+{
+    setObjectName(QStringLiteral("welcomeStep"));
+    setAccessibleName(QStringLiteral("%1. %2").arg(number).arg(title));
+    setAccessibleDescription(description);
+    auto* row = hstack(this, 14);
+    auto* circle = new IconTile(QSize(28, 28), Shape::circle(), Tint(Role::accent, 0.12));
+    circle->setText(QString::number(number), Theme::font(13, QFont::Bold, FontDesign::rounded), Tint(Role::accent));
+    row->addWidget(circle, 0, Qt::AlignTop);
+    auto* text = vstack(3);
+    auto* titleLabel = new Label(title, Theme::font(13, QFont::DemiBold));
+    titleLabel->setObjectName(QStringLiteral("welcomeStepTitle"));
+    auto* descriptionLabel = new Label(description, Theme::font(12), Tint(Role::secondary));
+    descriptionLabel->setObjectName(QStringLiteral("welcomeStepDescription"));
+    descriptionLabel->setWrapping(true);
+    text->addWidget(titleLabel);
+    text->addWidget(descriptionLabel);
+    row->addLayout(text, 1);
+}
+
+FirstTimeWelcomeCard::FirstTimeWelcomeCard(const QString& developerToolsName, QWidget* parent) : RoundedCard(parent)
+{
+    setObjectName(QStringLiteral("firstTimeWelcomeCard"));
+    setCornerRadius(18);
+    setFill(Tint(Role::controlBackground));
+    setShadow(ShadowStyle{Tint(Role::green, 0.10), 20, {0, 8}});
+    setGradientStroke(Tint(Role::green, 0.30), Tint(Role::green, 0.10), 1.5, {0, 0}, {1, 1});
+
+    auto* column = vstack(this, 20, QMargins(22, 22, 22, 22));
+
+    // Greeting.
+    auto* header = hstack(14);
+    auto* wave = new IconTile(QSize(52, 52), Shape::circle(), Tint(Role::green, 0.2));
+    wave->setGradientFill(Tint(Role::green, 0.20), Tint(Role::green, 0.10), {0, 0}, {1, 1});
+    wave->setSymbol(QStringLiteral("hand.wave.fill"), 24, Tint(Role::green));
+    wave->setSymbolGradient(Tint(Role::green), Tint(Role::green, 0.8));
+    header->addWidget(wave, 0, Qt::AlignVCenter);
+    auto* greeting = vstack(4);
+    auto* title = new Label(tr("Welcome to Quillforge!"), Theme::font(18, QFont::Bold));
+    title->setObjectName(QStringLiteral("welcomeTitle"));
+    auto* subtitle = new Label(tr("Let's get you started with AI-powered coding"), Theme::font(13),
+                               Tint(Role::secondary));
+    subtitle->setObjectName(QStringLiteral("welcomeSubtitle"));
+    subtitle->setWrapping(true);
+    greeting->addWidget(title);
+    greeting->addWidget(subtitle);
+    header->addLayout(greeting, 1);
+    column->addLayout(header);
+    setAccessibleName(title->text());
+
+    // A divider with a little room above and below.
+    auto* divider = new RoundedCard;
+    divider->setCornerRadius(0);
+    divider->setFill(Tint(Role::separator));
+    divider->setFixedHeight(1);
+    auto* dividerRow = vstack(0, QMargins(0, 4, 0, 4));
+    dividerRow->addWidget(divider);
+    column->addLayout(dividerRow);
+
+    // The first steps.
+    auto* steps = vstack(14);
+    steps->addWidget(new WelcomeStep(1, tr("Set up your dev environment"),
+                                     tr("Install %1 and create a project folder").arg(developerToolsName)));
+    steps->addWidget(new WelcomeStep(2, tr("Install an AI assistant"), tr("Choose Claude Code, Gemini CLI, or Codex")));
+    steps->addWidget(new WelcomeStep(3, tr("Start building"), tr("Describe what you want in plain English")));
+    column->addLayout(steps);
+
+    // The tip, on a yellow wash.
+    auto* tip = new RoundedCard;
+    tip->setObjectName(QStringLiteral("welcomeTip"));
+    tip->setCornerRadius(10);
+    tip->setFill(Tint(Role::yellow, 0.08));
+    auto* tipRow = hstack(tip, 10, QMargins(14, 14, 14, 14));
+    tipRow->addWidget(new SymbolView(QStringLiteral("lightbulb.fill"), 14, Tint(Role::yellow)), 0, Qt::AlignVCenter);
+    auto* tipText = new Label(tr("New to this? Start with **%1**, then try **Claude Code**.").arg(developerToolsName),
+                              Theme::font(12), Tint(Role::secondary));
+    tipText->setObjectName(QStringLiteral("welcomeTipText"));
+    tipText->setTextFormat(Qt::MarkdownText);
+    tipText->setWrapping(true);
+    tipRow->addWidget(tipText, 1, Qt::AlignVCenter);
+    column->addWidget(tip);
+}
+
+} // namespace qf

@@ -1,0 +1,302 @@
+#include "HomeView.h"
+
+#include "DashboardLoad.h"
+#include "FirstTimeWelcomeCard.h"
+#include "InstallationState.h"
+#include "Services.h"
+#include "SharedComponents.h"
+#include "ToolCards.h"
+#include "UninstallSheets.h"
+
+#include "ActivityIndicator.h"
+#include "ImageView.h"
+#include "Label.h"
+#include "Layout.h"
+#include "Motion.h"
+#include "RoundedCard.h"
+#include "Surface.h"
+
+#include <QCoro/QCoroTask>
+
+namespace qf {
+
+using namespace ui;
+
+namespace {
+
+// The hover key of a supporting item's card.
+QString systemKey(const SystemTool& tool) { return QStringLiteral("sys-") + tool.key; }
+
+// A section of the dashboard: its header above a stack of cards.
+void addSection(QVBoxLayout* parent, SectionHeader* header, QLayout* cards)
+{
+    auto* section = vstack(16, QMargins(28, 0, 28, 0));
+    section->addWidget(header);
+    section->addLayout(cards);
+    parent->addLayout(section);
+}
+
+} // namespace
+
+HomeView::HomeView(InstallationState& state, Services& services, QWidget* parent)
+    : QWidget(parent), m_state(state), m_services(services)
+{
+    setObjectName(QStringLiteral("homeView"));
+
+    // Behind everything, the window's colour fading very slightly towards the bottom.
+    auto* backdrop = new RoundedCard;
+    backdrop->setObjectName(QStringLiteral("homeBackdrop"));
+    backdrop->setCornerRadius(0);
+    backdrop->setGradientFill(Tint(Role::windowBackground), Tint(Role::windowBackground, 0.95));
+    vstack(this, 0)->addWidget(backdrop);
+    m_scroll = new ScrollView;
+    m_scroll->setObjectName(QStringLiteral("homeScroll"));
+    m_scroll->setAccessibleName(tr("Your AI Coding Assistants"));
+    vstack(backdrop, 0)->addWidget(m_scroll);
+    auto* column = vstack(m_scroll->content(), 32, QMargins(0, 0, 0, 32));
+
+    // Header: the logo and name, and what this screen is.
+    auto* header = vstack(8, QMargins(0, 20, 0, 0));
+    auto* brand = hstack(10);
+    brand->addStretch(1);
+    auto* logo = new ImageView(QStringLiteral("QuillforgeLogo"), 36);
+    logo->setAccessibleName(tr("Quillforge"));
+    brand->addWidget(logo, 0, Qt::AlignVCenter);
+    auto* name = new Label(tr("Quillforge"), Theme::font(24, QFont::Bold, FontDesign::rounded));
+    name->setObjectName(QStringLiteral("homeTitle"));
+    brand->addWidget(name, 0, Qt::AlignVCenter);
+    brand->addStretch(1);
+    header->addLayout(brand);
+    auto* subtitle = new Label(tr("Your AI Coding Assistants"), Theme::font(13, QFont::Medium, FontDesign::rounded),
+                               Tint(Role::secondary));
+    subtitle->setObjectName(QStringLiteral("homeSubtitle"));
+    header->addWidget(subtitle, 0, Qt::AlignHCenter);
+    column->addLayout(header);
+
+    // While loading: a spinner and what is going on.
+    m_loadingRow = new QWidget;
+    m_loadingRow->setObjectName(QStringLiteral("loadingRow"));
+    auto* loading = vstack(m_loadingRow, 16, QMargins(60, 60, 60, 60));
+    loading->addWidget(new ActivityIndicator(24, Tint(Role::accent)), 0, Qt::AlignHCenter);
+    auto* checking = new Label(tr("Checking your setup..."), Theme::font(13, QFont::Medium), Tint(Role::tertiary));
+    checking->setObjectName(QStringLiteral("loadingText"));
+    loading->addWidget(checking, 0, Qt::AlignHCenter);
+    column->addWidget(m_loadingRow);
+
+    // The lists. Cards are children of the scroll content itself, held in place by plain
+    // layouts, so that their shadows and hover growth are never cut off by a smaller box.
+    auto* lists = vstack(32);
+    m_welcome = new FirstTimeWelcomeCard(services.platform.developerToolsItem().name);
+    auto* welcomeRow = hstack(0, QMargins(28, 0, 28, 0));
+    welcomeRow->addWidget(m_welcome);
+    lists->addLayout(welcomeRow);
+
+    m_systemCardsLayout = vstack(8);
+    m_sectionHeaders << new SectionHeader(tr("Development Environment"), QStringLiteral("wrench.and.screwdriver"),
+                                          Tint(Role::orange));
+    addSection(lists, m_sectionHeaders.last(), m_systemCardsLayout);
+
+    auto* aiCards = vstack(10);
+    for (CLITool tool : CLITool::allCases()) {
+        auto* card = new AIToolCard(
+            tool, [this, tool] { openTool(tool); }, [this, tool] { installTool(tool); },
+            [this, tool] {
+                m_toolToUninstall = tool;
+                renderSheets();
+            });
+        card->onHoverChanged = [this, key = tool.rawValue()](bool inside) { hoverChanged(key, inside); };
+        aiCards->addWidget(card);
+        m_aiCards << card;
+    }
+    m_sectionHeaders << new SectionHeader(tr("AI Assistants"), QStringLiteral("sparkles"), Tint(Role::purple));
+    addSection(lists, m_sectionHeaders.last(), aiCards);
+    column->addLayout(lists);
+    column->addStretch(1);
+
+    render();
+}
+
+void HomeView::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    if (m_appeared)
+        return;
+    m_appeared = true;
+    loadData();
+}
+
+void HomeView::loadData()
+{
+    m_isLoading = true;
+    render();
+    const int generation = ++m_loadGeneration;
+    QCoro::connect(loadDashboard(m_services.runner, m_services.platform), this,
+                   [this, generation](DashboardSnapshot snapshot) {
+                       if (generation != m_loadGeneration)
+                           return; // a newer load is on its way and will say what is there
+                       m_installedTools = std::move(snapshot.installedTools);
+                       m_systemTools = std::move(snapshot.systemTools);
+                       m_isFirstTimeUser = m_installedTools.isEmpty();
+                       m_isLoading = false;
+                       render();
+                       appear();
+                       Q_EMIT loadFinished();
+                   });
+}
+
+void HomeView::appear()
+{
+    // The lists come in with a short fade, each card on its own surface (a fading container
+    // would have to draw the cards' shadows and motion a second time); the welcome card also
+    // comes down a little.
+    QList<QPointer<QWidget>> items{m_welcome};
+    for (SectionHeader* header : std::as_const(m_sectionHeaders))
+        items << header;
+    for (SystemToolCard* card : std::as_const(m_systemCards))
+        items << card;
+    for (AIToolCard* card : std::as_const(m_aiCards))
+        items << card;
+    const QPointer<QWidget> welcome = m_welcome;
+    motion::animate(this, listAppearMs, motion::easeOut(), [items, welcome](qreal progress) {
+        for (const QPointer<QWidget>& item : items) {
+            if (item)
+                SurfaceEffect::of(item)->setOpacity(progress);
+        }
+        if (welcome)
+            SurfaceEffect::of(welcome)->setOffset(QPointF(0, -16 * (1.0 - progress)));
+    });
+}
+
+void HomeView::render()
+{
+    m_loadingRow->setVisible(m_isLoading);
+    m_welcome->setVisible(!m_isLoading && m_isFirstTimeUser);
+    for (SectionHeader* header : std::as_const(m_sectionHeaders))
+        header->setVisible(!m_isLoading);
+    for (AIToolCard* card : std::as_const(m_aiCards))
+        card->setVisible(!m_isLoading);
+
+    // One card per supporting item, kept while the items stay the same.
+    QStringList keys;
+    for (const SystemTool& tool : std::as_const(m_systemTools))
+        keys << tool.key;
+    QStringList shown;
+    for (const SystemToolCard* card : std::as_const(m_systemCards))
+        shown << card->tool().key;
+    if (keys != shown) {
+        qDeleteAll(m_systemCards);
+        m_systemCards.clear();
+        for (const SystemTool& tool : std::as_const(m_systemTools)) {
+            SystemToolCard* card = systemCard(tool);
+            m_systemCardsLayout->addWidget(card);
+            m_systemCards << card;
+        }
+        orderTabs();
+    }
+    for (int i = 0; i < m_systemCards.size(); ++i) {
+        SystemToolCard* card = m_systemCards[i];
+        card->setVisible(!m_isLoading);
+        card->setTool(m_systemTools[i]);
+        card->setHovered(m_hoveredKey == systemKey(m_systemTools[i]));
+    }
+    for (AIToolCard* card : std::as_const(m_aiCards)) {
+        card->setInstalled(m_installedTools.contains(card->tool()));
+        card->setHovered(m_hoveredKey == card->tool().rawValue());
+    }
+}
+
+void HomeView::orderTabs()
+{
+    // Tab goes through the cards as they are shown, top to bottom, each card before its buttons
+    // (the supporting items' cards are made later than the AI tools' but shown above them).
+    QList<QWidget*> order;
+    const auto add = [&order](QWidget* card) {
+        order << card;
+        for (QWidget* child : card->findChildren<QWidget*>()) {
+            if (child->focusPolicy() & Qt::TabFocus)
+                order << child;
+        }
+    };
+    for (SystemToolCard* card : std::as_const(m_systemCards))
+        add(card);
+    for (AIToolCard* card : std::as_const(m_aiCards))
+        add(card);
+    for (qsizetype i = 1; i < order.size(); ++i)
+        QWidget::setTabOrder(order[i - 1], order[i]);
+}
+
+SystemToolCard* HomeView::systemCard(const SystemTool& tool)
+{
+    const QString key = tool.key;
+    auto* card = new SystemToolCard(
+        tool,
+        [this, key] {
+            // The card's current item: its presence may have changed since the card was made.
+            for (const SystemTool& current : std::as_const(m_systemTools)) {
+                if (current.key == key)
+                    handleSystemToolAction(current, m_services.platform, [this] { loadData(); });
+            }
+        },
+        [this, key] {
+            for (const SystemTool& current : std::as_const(m_systemTools)) {
+                if (current.key == key)
+                    m_systemToolToUninstall = current;
+            }
+            renderSheets();
+        });
+    card->onHoverChanged = [this, hoverKey = systemKey(tool)](bool inside) { hoverChanged(hoverKey, inside); };
+    return card;
+}
+
+void HomeView::hoverChanged(const QString& key, bool inside)
+{
+    if (inside)
+        m_hoveredKey = key;
+    else if (m_hoveredKey == key)
+        m_hoveredKey.reset();
+    render();
+}
+
+void HomeView::openTool(CLITool tool)
+{
+    m_state.setSelectedTool(tool);
+    m_state.setIsOpeningExistingTool(true);
+    m_state.setCurrentStep(InstallationStep::completion);
+}
+
+void HomeView::installTool(CLITool tool)
+{
+    m_state.setSelectedTool(tool);
+    m_state.setCurrentStep(InstallationStep::accountSetup);
+}
+
+RemovalSheet* HomeView::sheet() const { return m_aiSheet ? m_aiSheet.data() : m_systemSheet.data(); }
+
+void HomeView::renderSheets()
+{
+    // A sheet shows while its field holds an item; closing it, by any means, clears the field.
+    const auto present = [this](RemovalSheet* sheet, auto& field) {
+        connect(sheet, &QDialog::finished, this, [this, sheet, &field] {
+            field.reset();
+            sheet->deleteLater();
+        });
+        sheet->open();
+    };
+    const Qt::WindowFlags flags = m_services.platform.sheetWindowFlags();
+    // "Done" reloads the dashboard, if it is still there.
+    const auto reload = [self = QPointer<HomeView>(this)] {
+        if (self)
+            self->loadData();
+    };
+    if (m_toolToUninstall && !m_aiSheet) {
+        m_aiSheet = new UninstallSheet(*m_toolToUninstall, m_services.installer, reload, flags, window());
+        present(m_aiSheet, m_toolToUninstall);
+    }
+    if (m_systemToolToUninstall && !m_systemSheet) {
+        m_systemSheet = new SystemToolUninstallSheet(*m_systemToolToUninstall, m_services.runner, reload, flags,
+                                                     window());
+        present(m_systemSheet, m_systemToolToUninstall);
+    }
+}
+
+} // namespace qf

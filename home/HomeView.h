@@ -1,0 +1,91 @@
+#pragma once
+
+#include "CLITool.h"
+#include "SystemTool.h"
+
+#include <QList>
+#include <QPointer>
+#include <QVBoxLayout>
+#include <QWidget>
+
+#include <optional>
+
+namespace qf {
+
+class AIToolCard;
+class FirstTimeWelcomeCard;
+class InstallationState;
+class RemovalSheet;
+class SectionHeader;
+class Services;
+class SystemToolCard;
+
+namespace ui {
+class ScrollView;
+}
+
+// The dashboard of returning users: which AI tools and supporting items this machine has,
+// with one click to open, install, create or remove each. It loads when it first appears,
+// again after a removal is done and after the projects folder was created.
+class HomeView : public QWidget {
+    Q_OBJECT
+
+public:
+    HomeView(InstallationState& state, Services& services, QWidget* parent = nullptr);
+
+    // Looks at the machine afresh; the lists give way to "Checking your setup..." meanwhile.
+    // A load started while another runs wins: the older one's results are dropped.
+    void loadData();
+
+    bool isLoading() const { return m_isLoading; }
+    bool isFirstTimeUser() const { return m_isFirstTimeUser; }
+    const QList<CLITool>& installedTools() const { return m_installedTools; }
+    const QList<SystemTool>& systemTools() const { return m_systemTools; }
+    const std::optional<QString>& hoveredKey() const { return m_hoveredKey; }
+    // The open removal sheet, if any.
+    RemovalSheet* sheet() const;
+
+    static constexpr int listAppearMs = 300;
+
+Q_SIGNALS:
+    // The newest load's results are on screen.
+    void loadFinished();
+
+protected:
+    void showEvent(QShowEvent* event) override;
+
+private:
+    void render();
+    void appear();
+    void orderTabs();
+    void renderSheets();
+    void hoverChanged(const QString& key, bool inside);
+    void openTool(CLITool tool);
+    void installTool(CLITool tool);
+    SystemToolCard* systemCard(const SystemTool& tool);
+
+    InstallationState& m_state;
+    Services& m_services;
+
+    QList<CLITool> m_installedTools;
+    QList<SystemTool> m_systemTools;
+    bool m_isLoading = true;
+    bool m_isFirstTimeUser = false;
+    std::optional<CLITool> m_toolToUninstall;
+    std::optional<SystemTool> m_systemToolToUninstall;
+    std::optional<QString> m_hoveredKey;
+    bool m_appeared = false;
+    int m_loadGeneration = 0;
+
+    ui::ScrollView* m_scroll;
+    QWidget* m_loadingRow;
+    FirstTimeWelcomeCard* m_welcome;
+    QVBoxLayout* m_systemCardsLayout;
+    QList<SystemToolCard*> m_systemCards;
+    QList<AIToolCard*> m_aiCards;
+    QList<SectionHeader*> m_sectionHeaders;
+    QPointer<RemovalSheet> m_aiSheet;
+    QPointer<RemovalSheet> m_systemSheet;
+};
+
+} // namespace qf

@@ -1,0 +1,347 @@
+#include "ToolCards.h"
+
+#include "ImageView.h"
+#include "Label.h"
+#include "Layout.h"
+#include "Surface.h"
+
+#include <QApplication>
+#include <QEnterEvent>
+
+namespace qf {
+
+using namespace ui;
+
+namespace {
+
+constexpr int kHoverMs = 150;
+
+QString joined(const QStringList& parts) { return parts.join(QStringLiteral(", ")); }
+
+} // namespace
+
+// MARK: StatusBadge
+
+StatusBadge::StatusBadge(const QString& text, const Tint& color, QWidget* parent)
+    : Badge(text, color, color.withOpacity(color.opacity * 0.12), parent)
+{
+    setObjectName(QStringLiteral("statusBadge"));
+}
+
+// MARK: ActionButton
+
+ActionButton::ActionButton(const std::optional<QString>& title, const QString& icon, const Tint& color, bool isCompact,
+                           bool isPrimary, std::function<void()> action, QWidget* parent)
+    : Button(title.value_or(QString()), isPrimary ? Style::prominent : Style::tinted, Size::regular, parent)
+{
+    setObjectName(QStringLiteral("actionButton"));
+    setTint(color);
+    setCornerRadius(8);
+    setLeadingSymbol(icon, isCompact ? 11 : 12, SymbolWeight::medium);
+    setTitleFont(Theme::font(12, QFont::Medium));
+    setSpacing(5);
+    setContentPadding(isCompact ? 8 : 12, 7);
+    connect(this, &QAbstractButton::clicked, this, [action = std::move(action)] {
+        if (action)
+            action();
+    });
+}
+
+// MARK: DashboardCard
+
+DashboardCard::DashboardCard(QWidget* parent)
+    : RoundedCard(parent),
+      m_hover(this, kHoverMs, motion::easeInOut(), [this](qreal progress) { renderHover(progress); }),
+      m_removeOpacity(this, kHoverMs, motion::easeInOut(), [this](qreal opacity) {
+          if (!m_remove)
+              return;
+          m_remove->setOpacity(opacity);
+          if (opacity <= 0.0 && m_removeOpacity.target() <= 0.0)
+              m_remove->hide();
+      })
+{
+    setFocusPolicy(Qt::TabFocus);
+    setAttribute(Qt::WA_Hover);
+    connect(qApp, &QApplication::focusChanged, this, [this] { focusMoved(); });
+}
+
+void DashboardCard::setHovered(bool hovered)
+{
+    if (hovered == m_hovered)
+        return;
+    m_hovered = hovered;
+    m_hover.setTarget(hovered ? 1.0 : 0.0);
+    renderRemoveButton();
+}
+
+ui::Button* DashboardCard::removeButton() const { return m_remove && m_remove->isVisible() ? m_remove : nullptr; }
+
+ui::Button* DashboardCard::makeRemoveButton(const QString& itemName, std::function<void()> onUninstall)
+{
+    auto* remove = new Button(QString(), Button::Style::plain);
+    remove->setObjectName(QStringLiteral("removeButton"));
+    remove->setLeadingSymbol(QStringLiteral("xmark.circle.fill"), 16);
+    remove->setContentTint(Tint(Role::secondary));
+    remove->setAccessibleName(tr("Remove %1").arg(itemName));
+    remove->setToolTip(remove->accessibleName());
+    remove->hide();
+    connect(remove, &QAbstractButton::clicked, this, [onUninstall = std::move(onUninstall)] {
+        if (onUninstall)
+            onUninstall();
+    });
+    m_remove = remove;
+    return remove;
+}
+
+void DashboardCard::renderRemoveButton()
+{
+    if (!m_remove)
+        return;
+    const bool show = canRemove() && (m_hovered || m_focusWithin);
+    if (show && !m_remove->isVisible()) {
+        m_remove->setOpacity(0.0);
+        m_remove->show();
+    }
+    m_removeOpacity.setTarget(show ? 1.0 : 0.0);
+}
+
+void DashboardCard::focusMoved()
+{
+    const QWidget* focus = QApplication::focusWidget();
+    const bool within = focus && (focus == this || isAncestorOf(focus));
+    if (within == m_focusWithin)
+        return;
+    m_focusWithin = within;
+    renderRemoveButton();
+}
+
+void DashboardCard::enterEvent(QEnterEvent* event)
+{
+    RoundedCard::enterEvent(event);
+    if (onHoverChanged)
+        onHoverChanged(true);
+    else
+        setHovered(true);
+}
+
+void DashboardCard::leaveEvent(QEvent* event)
+{
+    RoundedCard::leaveEvent(event);
+    if (onHoverChanged)
+        onHoverChanged(false);
+    else
+        setHovered(false);
+}
+
+// MARK: AIToolCard
+
+AIToolCard::AIToolCard(CLITool tool, std::function<void()> onOpen, std::function<void()> onInstall,
+                       std::function<void()> onUninstall, QWidget* parent)
+    : DashboardCard(parent), m_tool(tool)
+{
+    setObjectName(QStringLiteral("aiToolCard.") + tool.rawValue());
+    setCornerRadius(14);
+    setFill(Tint(Role::controlBackground));
+    setAccessibleName(tool.displayName());
+
+    auto* row = hstack(this, 14, QMargins(14, 14, 14, 14));
+
+    m_logo = new ImageView(tool.logoImageName(), 40);
+    m_logo->setObjectName(QStringLiteral("toolLogo"));
+    m_logo->setFixedImageSize(QSize(40, 40));
+    m_logo->setCornerRadius(10);
+    row->addWidget(m_logo, 0, Qt::AlignVCenter);
+
+    auto* text = vstack(4);
+    auto* title = hstack(8);
+    auto* name = new Label(tool.displayName(), Theme::font(14, QFont::DemiBold));
+    name->setObjectName(QStringLiteral("toolName"));
+    title->addWidget(name, 0, Qt::AlignVCenter);
+    m_badge = new StatusBadge(tr("Installed"), Tint(Role::green));
+    title->addWidget(m_badge, 0, Qt::AlignVCenter);
+    title->addStretch(1);
+    text->addLayout(title);
+    auto* description = new Label(tool.toolDescription(), Theme::font(12), Tint(Role::secondary));
+    description->setObjectName(QStringLiteral("toolDescription"));
+    description->setWrapping(true, 1);
+    text->addWidget(description);
+    row->addLayout(text, 1);
+
+    auto* buttons = hstack(8);
+    m_open = new ActionButton(tr("Open"), QStringLiteral("terminal"), Tint(tool.brandColor()), false, false,
+                              std::move(onOpen));
+    m_open->setObjectName(QStringLiteral("openButton"));
+    m_open->setAccessibleName(tr("Open %1").arg(tool.displayName()));
+    buttons->addWidget(m_open, 0, Qt::AlignVCenter);
+    buttons->addWidget(makeRemoveButton(tool.displayName(), std::move(onUninstall)), 0, Qt::AlignVCenter);
+    m_install = new ActionButton(tr("Install"), QStringLiteral("arrow.down.circle"), Tint(Role::accent), false, false,
+                                 std::move(onInstall));
+    m_install->setObjectName(QStringLiteral("installButton"));
+    m_install->setAccessibleName(tr("Install %1").arg(tool.displayName()));
+    buttons->addWidget(m_install, 0, Qt::AlignVCenter);
+    row->addLayout(buttons);
+
+    render();
+}
+
+void AIToolCard::setInstalled(bool installed)
+{
+    if (installed == m_installed)
+        return;
+    m_installed = installed;
+    render();
+}
+
+void AIToolCard::render()
+{
+    m_badge->setVisible(m_installed);
+    m_open->setVisible(m_installed);
+    m_install->setVisible(!m_installed);
+    setAccessibleDescription(m_installed ? tr("Installed") : tr("Not installed"));
+    renderRemoveButton();
+    renderHover(hoverProgress());
+}
+
+void AIToolCard::renderHover(qreal progress)
+{
+    const QColor brand = m_tool.brandColor();
+    setShadow(
+        mix(ShadowStyle{Tint(Role::black, 0.06), 6, {0, 2}}, ShadowStyle{Tint(brand, 0.15), 12, {0, 4}}, progress));
+    if (m_installed)
+        setStroke(Tint(brand, 0.25 + 0.25 * progress), 1.5);
+    else
+        setStroke(Tint(Role::clear), 0);
+    SurfaceEffect::of(this)->setScale(1.0 + 0.01 * progress);
+    setChildShadow(m_logo, ShadowStyle{Tint(brand, 0.3), 4 + 4 * progress, {0, 2}}, Shape::rounded(10));
+}
+
+// MARK: SystemToolCard
+
+SystemToolCard::SystemToolCard(const SystemTool& tool, std::function<void()> onAction,
+                               std::function<void()> onUninstall, QWidget* parent)
+    : DashboardCard(parent), m_tool(tool), m_onAction(std::move(onAction))
+{
+    setObjectName(QStringLiteral("systemToolCard.") + tool.key);
+    setCornerRadius(12);
+    setFill(Tint(Role::controlBackground));
+
+    auto* row = hstack(this, 12, QMargins(12, 12, 12, 12));
+    m_step = new IconTile(QSize(28, 28), Shape::circle(), Tint(Role::orange, 0.15));
+    m_step->setObjectName(QStringLiteral("stepNumber"));
+    row->addWidget(m_step, 0, Qt::AlignVCenter);
+
+    auto* text = vstack(3);
+    auto* title = hstack(8);
+    m_name = new Label(QString(), Theme::font(13, QFont::DemiBold));
+    m_name->setObjectName(QStringLiteral("itemName"));
+    title->addWidget(m_name, 0, Qt::AlignVCenter);
+    m_optional = new Badge(tr("Optional"), Tint(Role::secondary), Tint(Role::secondary, 0.12));
+    m_optional->setObjectName(QStringLiteral("optionalBadge"));
+    m_optional->setFont(Theme::font(9, QFont::DemiBold));
+    m_optional->setPadding(6, 2);
+    title->addWidget(m_optional, 0, Qt::AlignVCenter);
+    m_version = new StatusBadge(QString(), Tint(Role::green));
+    m_version->setObjectName(QStringLiteral("versionBadge"));
+    title->addWidget(m_version, 0, Qt::AlignVCenter);
+    title->addStretch(1);
+    text->addLayout(title);
+    m_description = new Label(QString(), Theme::font(11), Tint(Role::secondary));
+    m_description->setObjectName(QStringLiteral("itemDescription"));
+    m_description->setWrapping(true);
+    text->addWidget(m_description);
+    row->addLayout(text, 1);
+
+    m_buttons = new QWidget;
+    auto* buttons = hstack(m_buttons, 8);
+    buttons->addWidget(makeRemoveButton(tool.name, std::move(onUninstall)), 0, Qt::AlignVCenter);
+    row->addWidget(m_buttons, 0, Qt::AlignVCenter);
+
+    render();
+}
+
+void SystemToolCard::setTool(const SystemTool& tool)
+{
+    if (tool == m_tool)
+        return;
+    m_tool = tool;
+    render();
+}
+
+bool SystemToolCard::canRemove() const { return m_tool.isInstalled && m_tool.id != SystemToolID::developerFolder; }
+
+void SystemToolCard::render()
+{
+    const bool installed = m_tool.isInstalled;
+    const Tint stepColor(installed ? Role::green : Role::orange);
+    m_step->setVisible(m_tool.stepNumber.has_value());
+    m_step->setFill(stepColor.withOpacity(0.15));
+    m_step->setText(m_tool.stepNumber ? QString::number(*m_tool.stepNumber) : QString(),
+                    Theme::font(13, QFont::Bold, FontDesign::rounded), stepColor);
+    m_name->setText(m_tool.name);
+    m_optional->setVisible(m_tool.isOptional);
+    m_version->setVisible(installed);
+    m_version->setText(m_tool.version.value_or(tr("Ready")));
+    m_description->setText(m_tool.description);
+
+    QStringList state{installed ? tr("Installed") : tr("Not installed")};
+    if (installed && m_tool.version && !m_tool.version->isEmpty())
+        state << *m_tool.version;
+    if (m_tool.isOptional)
+        state << tr("Optional");
+    setAccessibleName(m_tool.name);
+    setAccessibleDescription(joined(state));
+
+    // The item's own action: the projects folder always has one, missing developer tools too.
+    struct Action {
+        QString title;
+        QString icon;
+        QString accessibleName;
+    };
+    std::optional<Action> action;
+    if (m_tool.id == SystemToolID::developerFolder && installed)
+        action = Action{tr("Open"), QStringLiteral("folder"), tr("Open %1").arg(m_tool.name)};
+    else if (m_tool.id == SystemToolID::developerFolder)
+        action = Action{tr("Create"), QStringLiteral("folder.badge.plus"), tr("Create %1").arg(m_tool.name)};
+    else if (m_tool.id == SystemToolID::developerTools && !installed)
+        action = Action{tr("Install"), QStringLiteral("arrow.down.circle"), tr("Install %1").arg(m_tool.name)};
+
+    const bool unchanged = action ? (m_action && m_action->title() == action->title &&
+                                     m_action->leadingSymbol() == action->icon)
+                                  : m_action == nullptr;
+    if (!unchanged) {
+        const bool hadFocus = m_action && m_action->hasFocus();
+        if (m_action) {
+            // It may be the button whose click led here: it goes once the click is over.
+            m_action->hide();
+            m_action->deleteLater();
+        }
+        m_action = nullptr;
+        if (action) {
+            m_action = new ActionButton(action->title, action->icon, Tint(Role::accent), false, false, [this] {
+                if (m_onAction)
+                    m_onAction();
+            });
+            m_action->setAccessibleName(action->accessibleName);
+            static_cast<QHBoxLayout*>(m_buttons->layout())->insertWidget(0, m_action, 0, Qt::AlignVCenter);
+            // Tab reaches it right after the card, and the remove button after it.
+            setTabOrder(this, m_action);
+            setTabOrder(m_action, removeButtonWidget());
+            if (hadFocus)
+                m_action->setFocus(Qt::OtherFocusReason);
+        }
+    }
+    renderRemoveButton();
+    renderHover(hoverProgress());
+}
+
+void SystemToolCard::renderHover(qreal progress)
+{
+    setShadow(mix(ShadowStyle{Tint(Role::black, 0.04), 4, {0, 1}}, ShadowStyle{Tint(Role::orange, 0.10), 8, {0, 2}},
+                  progress));
+    if (m_tool.isInstalled)
+        setStroke(Tint(Role::green, 0.15 + 0.15 * progress), 1);
+    else
+        setStroke(Tint(Role::clear), 0);
+}
+
+} // namespace qf

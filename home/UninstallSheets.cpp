@@ -1,0 +1,298 @@
+#include "UninstallSheets.h"
+
+#include "ShellRunner.h"
+#include "ToolInstaller.h"
+
+#include "ActivityIndicator.h"
+#include "Button.h"
+#include "Label.h"
+#include "Layout.h"
+#include "LogView.h"
+#include "RoundedCard.h"
+
+#include <QCoro/QCoroTask>
+#include <QPointer>
+
+namespace qf {
+
+using namespace ui;
+
+namespace {
+
+constexpr int kSheetWidth = 420;
+
+// A row with `widget` inset by the sheets' side padding.
+QHBoxLayout* padded(QWidget* widget)
+{
+    auto* row = hstack(0, QMargins(28, 0, 28, 0));
+    row->addWidget(widget);
+    return row;
+}
+
+Button* sheetButton(const QString& title, Button::Style style, const char* objectName)
+{
+    auto* button = new Button(title, style, Button::Size::large);
+    button->setObjectName(QString::fromLatin1(objectName));
+    button->setMinimumLabelWidth(72);
+    return button;
+}
+
+} // namespace
+
+// MARK: RemovalSheet
+
+RemovalSheet::RemovalSheet(const QString& name, std::function<void()> onComplete, Qt::WindowFlags flags, int height,
+                           QWidget* parent)
+    : QDialog(parent, flags), m_name(name), m_onComplete(std::move(onComplete)), m_minimumHeight(height)
+{
+    setWindowModality(Qt::WindowModal);
+    setWindowTitle(tr("Uninstall %1").arg(name));
+    setFixedSize(kSheetWidth, height);
+
+    auto* column = vstack(this, 24, QMargins(0, 24, 0, 24));
+    column->addStretch(1);
+
+    // Header: the state icon, the title and what is about to happen.
+    auto* header = vstack(14);
+    m_icon = new IconTile(QSize(64, 64), Shape::circle(), Tint(Role::red, 0.12));
+    m_icon->setObjectName(QStringLiteral("sheetStateIcon"));
+    auto* iconContent = vstack(m_icon, 0);
+    m_spinner = new ActivityIndicator(22, Tint(Role::secondary));
+    m_symbol = new SymbolView(QStringLiteral("trash"), 26, Tint(Role::red));
+    iconContent->addWidget(m_spinner, 0, Qt::AlignCenter);
+    iconContent->addWidget(m_symbol, 0, Qt::AlignCenter);
+    header->addWidget(m_icon, 0, Qt::AlignHCenter);
+    m_title = new Label(QString(), Theme::font(18, QFont::Bold));
+    m_title->setObjectName(QStringLiteral("sheetTitle"));
+    m_title->setAlignment(Qt::AlignHCenter);
+    header->addWidget(m_title, 0, Qt::AlignHCenter);
+    m_description = new Label(QString(), Theme::font(13), Tint(Role::secondary));
+    m_description->setObjectName(QStringLiteral("sheetDescription"));
+    m_description->setAlignment(Qt::AlignHCenter);
+    m_description->setWrapping(true);
+    auto* descriptionRow = hstack(0, QMargins(16, 0, 16, 0));
+    descriptionRow->addWidget(m_description);
+    header->addLayout(descriptionRow);
+    column->addLayout(header);
+
+    // The log, behind "Details" or always open.
+    m_logSection = new QWidget;
+    auto* logColumn = vstack(m_logSection, 8);
+    m_details = new Button(tr("Details"), Button::Style::plain);
+    m_details->setObjectName(QStringLiteral("detailsButton"));
+    m_details->setTitleFont(Theme::font(13, QFont::DemiBold));
+    m_details->setSpacing(6);
+    connect(m_details, &QAbstractButton::clicked, this, [this] { setDetailsShown(!m_showOutput); });
+    logColumn->addWidget(m_details, 0, Qt::AlignLeft);
+    m_log = new LogView;
+    m_log->setFixedHeight(90);
+    logColumn->addWidget(m_log);
+    column->addLayout(padded(m_logSection));
+
+    // The error row.
+    auto* errorCard = new RoundedCard;
+    errorCard->setObjectName(QStringLiteral("errorRow"));
+    errorCard->setCornerRadius(8);
+    errorCard->setFill(Tint(Role::orange, 0.10));
+    auto* errorLayout = hstack(errorCard, 8, QMargins(12, 12, 12, 12));
+    errorLayout->addWidget(new SymbolView(QStringLiteral("exclamationmark.triangle.fill"), 13, Tint(Role::orange)), 0,
+                           Qt::AlignVCenter);
+    m_error = new Label(QString(), Theme::font(12), Tint(Role::secondary));
+    m_error->setObjectName(QStringLiteral("errorMessage"));
+    m_error->setWrapping(true);
+    m_error->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    errorLayout->addWidget(m_error, 1, Qt::AlignVCenter);
+    m_errorRow = errorCard;
+    column->addLayout(padded(m_errorRow));
+
+    // The buttons.
+    auto* buttons = hstack(12, QMargins(28, 0, 28, 0));
+    buttons->addStretch(1);
+    m_cancel = sheetButton(tr("Cancel"), Button::Style::bordered, "cancelButton");
+    connect(m_cancel, &QAbstractButton::clicked, this, [this] { QDialog::reject(); });
+    m_uninstall = sheetButton(tr("Uninstall"), Button::Style::prominent, "uninstallButton");
+    m_uninstall->setTint(Tint(Role::red));
+    connect(m_uninstall, &QAbstractButton::clicked, this, [this] { start(); });
+    m_done = sheetButton(tr("Done"), Button::Style::prominent, "doneButton");
+    connect(m_done, &QAbstractButton::clicked, this, [this] { completeAndClose(); });
+    m_ok = sheetButton(tr("OK"), Button::Style::prominent, "okButton");
+    connect(m_ok, &QAbstractButton::clicked, this, [this] { accept(); });
+    for (Button* button : {m_cancel, m_uninstall, m_done, m_ok})
+        buttons->addWidget(button);
+    buttons->addStretch(1);
+    column->addLayout(buttons);
+    column->addStretch(1);
+}
+
+QString RemovalSheet::output() const { return m_log->text(); }
+
+void RemovalSheet::setLogCollapsible(bool collapsible)
+{
+    m_logCollapsible = collapsible;
+    render();
+}
+
+void RemovalSheet::setDetailsShown(bool shown)
+{
+    m_showOutput = shown;
+    render();
+}
+
+void RemovalSheet::reject()
+{
+    // Escape and the window's close button act as "Cancel", and only while it is offered.
+    if (m_cancel->isVisibleTo(this))
+        QDialog::reject();
+}
+
+void RemovalSheet::completeAndClose()
+{
+    if (m_onComplete)
+        m_onComplete();
+    accept();
+}
+
+void RemovalSheet::start()
+{
+    m_isUninstalling = true;
+    m_errorMessage.reset();
+    m_log->clear();
+    render();
+    performUninstall();
+}
+
+void RemovalSheet::appendOutput(const QString& text)
+{
+    const bool wasEmpty = m_log->isEmpty();
+    m_log->append(text);
+    if (wasEmpty)
+        render();
+}
+
+void RemovalSheet::finish(const std::optional<QString>& error)
+{
+    m_isUninstalling = false;
+    if (error) {
+        m_errorMessage = error;
+        m_showOutput = true; // the log opens by itself
+    } else {
+        m_uninstallComplete = true;
+    }
+    render();
+}
+
+void RemovalSheet::render()
+{
+    const bool confirming = !m_isUninstalling && !m_uninstallComplete;
+
+    m_icon->setFill(m_uninstallComplete ? Tint(Role::green, 0.15) : Tint(Role::red, 0.12));
+    m_spinner->setVisible(m_isUninstalling);
+    m_symbol->setVisible(!m_isUninstalling);
+    if (m_uninstallComplete) {
+        m_symbol->setName(QStringLiteral("checkmark"));
+        m_symbol->setPointSize(28);
+        m_symbol->setWeight(SymbolWeight::bold);
+        m_symbol->setTint(Tint(Role::green));
+    } else {
+        m_symbol->setName(QStringLiteral("trash"));
+        m_symbol->setPointSize(26);
+        m_symbol->setWeight(SymbolWeight::regular);
+        m_symbol->setTint(Tint(Role::red));
+    }
+    m_title->setText(m_uninstallComplete ? tr("Uninstall Complete") : tr("Uninstall %1?").arg(m_name));
+    m_description->setText(description());
+    m_description->setVisible(confirming);
+
+    const bool hasOutput = !m_log->isEmpty();
+    m_logSection->setVisible(hasOutput);
+    m_details->setVisible(m_logCollapsible);
+    m_details->setLeadingSymbol(m_showOutput ? QStringLiteral("chevron.down") : QStringLiteral("chevron.right"), 10,
+                                SymbolWeight::bold);
+    m_details->setAccessibleDescription(m_showOutput ? tr("Shown") : tr("Hidden"));
+    m_log->setVisible(!m_logCollapsible || m_showOutput);
+
+    m_errorRow->setVisible(m_errorMessage.has_value());
+    m_error->setText(m_errorMessage.value_or(QString()));
+
+    m_cancel->setVisible(!m_isUninstalling || canLeaveWhileRunning());
+    m_uninstall->setVisible(hasCommand() && confirming);
+    m_done->setVisible(m_uninstallComplete);
+    m_ok->setVisible(!hasCommand() && confirming);
+
+    // The sheet keeps its size unless its content needs more room; nothing is ever cut off.
+    layout()->activate();
+    const int needed = layout()->hasHeightForWidth() ? layout()->totalHeightForWidth(kSheetWidth)
+                                                     : layout()->totalSizeHint().height();
+    setFixedSize(kSheetWidth, std::max(m_minimumHeight, needed));
+}
+
+// MARK: UninstallSheet
+
+UninstallSheet::UninstallSheet(CLITool tool, ToolInstaller& installer, std::function<void()> onComplete,
+                               Qt::WindowFlags flags, QWidget* parent)
+    : RemovalSheet(tool.displayName(), std::move(onComplete), flags, 360, parent), m_tool(tool), m_installer(installer)
+{
+    setObjectName(QStringLiteral("uninstallSheet"));
+    setLogCollapsible(true);
+}
+
+void UninstallSheet::performUninstall()
+{
+    const QPointer<UninstallSheet> self(this);
+    QCoro::connect(m_installer.uninstall(m_tool,
+                                         [self](const QString& text) {
+                                             if (self)
+                                                 self->appendOutput(text);
+                                         }),
+                   this, [this](const Result<void>& result) {
+                       finish(result ? std::nullopt : std::optional<QString>(result.error().errorDescription()));
+                   });
+}
+
+// MARK: SystemToolUninstallSheet
+
+SystemToolUninstallSheet::SystemToolUninstallSheet(const SystemTool& tool, ShellRunner& shell,
+                                                   std::function<void()> onComplete, Qt::WindowFlags flags,
+                                                   QWidget* parent)
+    : RemovalSheet(tool.name, std::move(onComplete), flags, 340, parent), m_tool(tool), m_shell(shell)
+{
+    setObjectName(QStringLiteral("systemToolUninstallSheet"));
+    setLogCollapsible(false);
+}
+
+QString SystemToolUninstallSheet::description() const
+{
+    if (m_tool.uninstallNote)
+        return *m_tool.uninstallNote;
+    if (m_tool.uninstallCommand)
+        return tr("This will remove %1 from your system.").arg(m_tool.name);
+    return QString();
+}
+
+void SystemToolUninstallSheet::performUninstall()
+{
+    if (!m_tool.uninstallCommand)
+        return;
+    const QString command = *m_tool.uninstallCommand;
+    appendOutput(QStringLiteral("Running: ") + command + QStringLiteral("\n\n"));
+    // The command may outlive the sheet ("Cancel" stays while it runs): its output then goes
+    // nowhere and the next load of the dashboard shows what it did.
+    const QPointer<SystemToolUninstallSheet> self(this);
+    QCoro::connect(m_shell.runWithStreaming(
+                       command,
+                       [self](const QString& text) {
+                           if (self)
+                               self->appendOutput(text);
+                       },
+                       this),
+                   this, [this](const Result<void>& result) {
+                       if (!result) {
+                           finish(result.error().errorDescription());
+                           return;
+                       }
+                       finish(std::nullopt);
+                       appendOutput(QStringLiteral("\n") + m_tool.name + QStringLiteral(" has been uninstalled.\n"));
+                   });
+}
+
+} // namespace qf

@@ -1,0 +1,133 @@
+#pragma once
+
+#include "CLITool.h"
+#include "SystemTool.h"
+
+#include <QDialog>
+
+#include <functional>
+#include <optional>
+
+namespace qf {
+
+class ToolInstaller;
+class ShellRunner;
+
+namespace ui {
+class ActivityIndicator;
+class Button;
+class IconTile;
+class Label;
+class LogView;
+class SymbolView;
+} // namespace ui
+
+// What the two removal sheets share: a window-modal sheet of the main window with the state
+// icon (a spinner while the removal runs, a check when it is done, a bin before), a title and
+// a description, the log, the error row and the buttons. The states:
+//   confirm       "Cancel" and "Uninstall" (or "OK" for an item that has only a note)
+//   uninstalling  the spinner; no button, except where the removal may be left to run
+//   complete      "Uninstall Complete", "Cancel" and "Done" (which reloads the dashboard)
+//   failed        the error row, "Cancel" and "Uninstall" again
+// Escape acts as "Cancel" whenever "Cancel" is shown, and does nothing otherwise.
+class RemovalSheet : public QDialog {
+    Q_OBJECT
+
+public:
+    bool isUninstalling() const { return m_isUninstalling; }
+    bool uninstallComplete() const { return m_uninstallComplete; }
+    const std::optional<QString>& errorMessage() const { return m_errorMessage; }
+    QString output() const;
+
+    void reject() override;
+
+protected:
+    RemovalSheet(const QString& name, std::function<void()> onComplete, Qt::WindowFlags flags, int height,
+                 QWidget* parent);
+
+    // Runs the removal; ends by calling `finish()`.
+    virtual void performUninstall() = 0;
+    virtual QString description() const = 0;
+    virtual bool hasCommand() const { return true; }
+    // Whether "Cancel" stays while the removal runs (the removal then goes on without the sheet).
+    virtual bool canLeaveWhileRunning() const { return false; }
+
+    void start();
+    void appendOutput(const QString& text);
+    void finish(const std::optional<QString>& error);
+    void setDetailsShown(bool shown);
+    // Whether the log is a disclosure ("Details") or always open.
+    void setLogCollapsible(bool collapsible);
+    void render();
+
+    bool m_isUninstalling = false;
+    bool m_uninstallComplete = false;
+    std::optional<QString> m_errorMessage;
+    bool m_showOutput = false;
+
+private:
+    // "Done": the dashboard reloads, and the sheet closes.
+    void completeAndClose();
+
+    QString m_name;
+    std::function<void()> m_onComplete;
+    int m_minimumHeight;
+    bool m_logCollapsible = true;
+    ui::IconTile* m_icon;
+    ui::ActivityIndicator* m_spinner;
+    ui::SymbolView* m_symbol;
+    ui::Label* m_title;
+    ui::Label* m_description;
+    QWidget* m_logSection;
+    ui::Button* m_details;
+    ui::LogView* m_log;
+    QWidget* m_errorRow;
+    ui::Label* m_error;
+    ui::Button* m_cancel;
+    ui::Button* m_uninstall;
+    ui::Button* m_done;
+    ui::Button* m_ok;
+};
+
+// Confirms and follows the removal of one AI tool (through the installer's `uninstall`).
+class UninstallSheet : public RemovalSheet {
+    Q_OBJECT
+
+public:
+    UninstallSheet(CLITool tool, ToolInstaller& installer, std::function<void()> onComplete, Qt::WindowFlags flags,
+                   QWidget* parent);
+
+    CLITool tool() const { return m_tool; }
+
+protected:
+    void performUninstall() override;
+    QString description() const override { return m_tool.uninstallDescription(); }
+
+private:
+    CLITool m_tool;
+    ToolInstaller& m_installer;
+};
+
+// Confirms and follows the removal of one supporting item by its own command, with the log
+// always open; an item without a command shows its note and "OK".
+class SystemToolUninstallSheet : public RemovalSheet {
+    Q_OBJECT
+
+public:
+    SystemToolUninstallSheet(const SystemTool& tool, ShellRunner& shell, std::function<void()> onComplete,
+                             Qt::WindowFlags flags, QWidget* parent);
+
+    const SystemTool& tool() const { return m_tool; }
+
+protected:
+    void performUninstall() override;
+    QString description() const override;
+    bool hasCommand() const override { return m_tool.uninstallCommand.has_value(); }
+    bool canLeaveWhileRunning() const override { return true; }
+
+private:
+    SystemTool m_tool;
+    ShellRunner& m_shell;
+};
+
+} // namespace qf

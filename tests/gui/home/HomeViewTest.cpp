@@ -1,0 +1,304 @@
+#include "FirstTimeWelcomeCard.h"
+#include "HomeView.h"
+#include "InstallationState.h"
+#include "TestMachine.h"
+#include "TestSupport.h"
+#include "ToolCards.h"
+#include "UninstallSheets.h"
+
+#include <QAbstractButton>
+#include <QDir>
+#include <QEnterEvent>
+#include <QFileInfo>
+#include <QTest>
+
+#include <memory>
+
+using namespace qf;
+
+namespace {
+
+class HomeTest : public ::testing::Test, protected test::TestMachine {
+protected:
+    void SetUp() override { test::clearPreferences(); }
+
+    // The dashboard on screen, with its first load finished.
+    std::unique_ptr<HomeView> showHome()
+    {
+        auto view = std::make_unique<HomeView>(state, services);
+        view->resize(900, 1400);
+        view->show();
+        EXPECT_TRUE(view->isLoading()); // the progress row shows at once
+        waitForLoad(*view);
+        return view;
+    }
+    static void waitForLoad(HomeView& view)
+    {
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !view.isLoading(); }, 20000)) << "the load did not finish";
+    }
+    static AIToolCard* card(HomeView& view, CLITool tool)
+    {
+        return test::child<AIToolCard>(&view, QStringLiteral("aiToolCard.") + tool.rawValue());
+    }
+    static SystemToolCard* card(HomeView& view, const char* key)
+    {
+        return test::child<SystemToolCard>(&view, QStringLiteral("systemToolCard.") + QLatin1String(key));
+    }
+    static void hover(QWidget* widget, bool inside)
+    {
+        if (inside) {
+            QEnterEvent enter(QPointF(4, 4), QPointF(4, 4), QPointF(4, 4));
+            QCoreApplication::sendEvent(widget, &enter);
+        } else {
+            QEvent leave(QEvent::Leave);
+            QCoreApplication::sendEvent(widget, &leave);
+        }
+    }
+    static bool shows(const QWidget* widget) { return widget && widget->isVisible(); }
+
+    InstallationState state;
+};
+
+} // namespace
+
+TEST_F(HomeTest, AFirstTimeUserIsWelcomedAndOfferedEveryTool)
+{
+    auto view = showHome();
+    EXPECT_TRUE(view->isFirstTimeUser());
+    EXPECT_TRUE(shows(test::child(view.get(), QStringLiteral("firstTimeWelcomeCard"))));
+    EXPECT_FALSE(shows(test::child(view.get(), QStringLiteral("loadingRow"))));
+    for (CLITool tool : CLITool::allCases()) {
+        AIToolCard* aiCard = card(*view, tool);
+        EXPECT_TRUE(shows(test::child(aiCard, QStringLiteral("installButton"))));
+        EXPECT_FALSE(shows(test::child(aiCard, QStringLiteral("openButton"))));
+        EXPECT_FALSE(shows(test::child(aiCard, QStringLiteral("statusBadge"))));
+    }
+    // Every supporting item is listed in catalogue order, nothing found in the empty sandbox.
+    QStringList keys;
+    for (const SystemTool& tool : view->systemTools())
+        keys << tool.key;
+    EXPECT_EQ(keys, (QStringList{QStringLiteral("xcode"), QStringLiteral("developer"), QStringLiteral("homebrew"),
+                                 QStringLiteral("node")}));
+}
+
+TEST_F(HomeTest, InstalledToolsAndItemsShowTheirState)
+{
+    sandbox.installFakes({"claude", "gemini", "codex", "xcode-select", "brew", "node"});
+    QDir().mkpath(sandbox.path(QStringLiteral("Developer")));
+    auto view = showHome();
+
+    EXPECT_FALSE(view->isFirstTimeUser());
+    EXPECT_FALSE(shows(test::child(view.get(), QStringLiteral("firstTimeWelcomeCard"))));
+    for (CLITool tool : CLITool::allCases()) {
+        AIToolCard* aiCard = card(*view, tool);
+        EXPECT_TRUE(shows(test::child(aiCard, QStringLiteral("openButton"))));
+        EXPECT_FALSE(shows(test::child(aiCard, QStringLiteral("installButton"))));
+        EXPECT_EQ(test::child<ui::Badge>(aiCard, QStringLiteral("statusBadge"))->text(), QStringLiteral("Installed"));
+        EXPECT_EQ(aiCard->accessibleDescription(), QStringLiteral("Installed"));
+    }
+
+    // Versions as detected; the Command Line Tools without Xcode give an empty version.
+    EXPECT_EQ(test::child<ui::Badge>(card(*view, "homebrew"), QStringLiteral("versionBadge"))->text(),
+              QStringLiteral("4.2.0"));
+    EXPECT_EQ(test::child<ui::Badge>(card(*view, "xcode"), QStringLiteral("versionBadge"))->text(), QString());
+    EXPECT_EQ(card(*view, "node")->accessibleDescription(), QStringLiteral("Installed, v20.10.0, Optional"));
+    // The projects folder offers "Open"; installed developer tools and the optional items none.
+    EXPECT_EQ(card(*view, "developer")->actionButton()->title(), QStringLiteral("Open"));
+    EXPECT_EQ(card(*view, "developer")->actionButton()->accessibleName(), QStringLiteral("Open Developer Folder"));
+    EXPECT_EQ(card(*view, "xcode")->actionButton(), nullptr);
+    EXPECT_EQ(card(*view, "homebrew")->actionButton(), nullptr);
+}
+
+TEST_F(HomeTest, AToolCountsOnlyWhenItsCommandIsOnTheSearchPath)
+{
+    // Gemini CLI's package is there, but its command lies in a folder no search looks in.
+    sandbox.writeFile(QStringLiteral(".npm-global/lib/node_modules/@google/gemini-cli/package.json"), "{}");
+    sandbox.installFakeAt(QStringLiteral("gemini"), sandbox.path(QStringLiteral(".npm-global/bin/gemini")));
+    sandbox.installFakes({"codex"});
+    auto view = showHome();
+    EXPECT_EQ(view->installedTools(), QList<CLITool>{CLITool::codex});
+    EXPECT_TRUE(shows(test::child(card(*view, CLITool::geminiCLI), QStringLiteral("installButton"))));
+}
+
+TEST_F(HomeTest, RemoveButtonsShowWhileHoveredOrFocused)
+{
+    sandbox.installFakes({"claude", "brew"});
+    auto view = showHome();
+    AIToolCard* claude = card(*view, CLITool::claudeCode);
+    AIToolCard* codex = card(*view, CLITool::codex);
+    auto* remove = test::child<ui::Button>(claude, QStringLiteral("removeButton"));
+    EXPECT_EQ(remove->accessibleName(), QStringLiteral("Remove Claude Code"));
+    EXPECT_FALSE(remove->isVisible());
+
+    hover(claude, true);
+    EXPECT_EQ(view->hoveredKey(), QStringLiteral("claudeCode"));
+    EXPECT_TRUE(claude->isHovered());
+    EXPECT_TRUE(remove->isVisible());
+    // The pointer moves on to the next card: only one card is hovered at a time.
+    hover(claude, false);
+    hover(codex, true);
+    EXPECT_EQ(view->hoveredKey(), QStringLiteral("codex"));
+    EXPECT_FALSE(claude->isHovered());
+    EXPECT_FALSE(remove->isVisible());
+    // A missing tool offers no removal, hovered or not.
+    EXPECT_FALSE(shows(test::child(codex, QStringLiteral("removeButton"))));
+    hover(codex, false);
+    EXPECT_EQ(view->hoveredKey(), std::nullopt);
+
+    // System cards use their own keys; the projects folder never offers removal.
+    SystemToolCard* homebrew = card(*view, "homebrew");
+    hover(homebrew, true);
+    EXPECT_EQ(view->hoveredKey(), QStringLiteral("sys-homebrew"));
+    EXPECT_TRUE(shows(homebrew->removeButton()));
+    hover(homebrew, false);
+    SystemToolCard* folder = card(*view, "developer");
+    hover(folder, true);
+    EXPECT_EQ(folder->removeButton(), nullptr);
+    hover(folder, false);
+
+    // Keyboard users: focus on the card or on one of its buttons shows the remove button,
+    // which Tab then reaches.
+    view->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(view.get()));
+    test::child<QWidget>(claude, QStringLiteral("openButton"))->setFocus(Qt::TabFocusReason);
+    EXPECT_TRUE(claude->hasFocusWithin());
+    EXPECT_TRUE(remove->isVisible());
+    EXPECT_EQ(remove->focusPolicy() & Qt::TabFocus, Qt::TabFocus);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), remove);
+    codex->setFocus(Qt::TabFocusReason);
+    EXPECT_FALSE(remove->isVisible());
+    homebrew->setFocus(Qt::TabFocusReason);
+    EXPECT_TRUE(shows(homebrew->removeButton()));
+
+    // Tab follows the order on screen: from the last supporting item on to the first AI tool.
+    card(*view, "node")->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), claude);
+}
+
+TEST_F(HomeTest, CardActionsMoveTheFlow)
+{
+    sandbox.installFakes({"claude"});
+    {
+        auto view = showHome();
+        test::child<QAbstractButton>(card(*view, CLITool::claudeCode), QStringLiteral("openButton"))->click();
+        EXPECT_EQ(state.selectedTool(), CLITool::claudeCode);
+        EXPECT_TRUE(state.isOpeningExistingTool());
+        EXPECT_EQ(state.currentStep(), InstallationStep::completion);
+    }
+    state.reset();
+    state.setCurrentStep(InstallationStep::home);
+    auto view = showHome();
+    test::child<QAbstractButton>(card(*view, CLITool::geminiCLI), QStringLiteral("installButton"))->click();
+    EXPECT_EQ(state.selectedTool(), CLITool::geminiCLI);
+    EXPECT_FALSE(state.isOpeningExistingTool());
+    EXPECT_EQ(state.currentStep(), InstallationStep::accountSetup);
+
+    // Missing developer tools: their installer starts, and nothing else changes.
+    card(*view, "xcode")->actionButton()->click();
+    EXPECT_EQ(platform.installersStarted, 1);
+    EXPECT_EQ(state.currentStep(), InstallationStep::accountSetup);
+}
+
+TEST_F(HomeTest, CreatingTheProjectsFolderShowsItAndReloads)
+{
+    auto view = showHome();
+    SystemToolCard* folder = card(*view, "developer");
+    ASSERT_NE(folder->actionButton(), nullptr);
+    EXPECT_EQ(folder->actionButton()->title(), QStringLiteral("Create"));
+    EXPECT_EQ(folder->actionButton()->accessibleName(), QStringLiteral("Create Developer Folder"));
+    folder->actionButton()->click();
+    EXPECT_TRUE(QFileInfo(sandbox.path(QStringLiteral("Developer"))).isDir());
+    EXPECT_EQ(platform.revealed, QStringList{sandbox.path(QStringLiteral("Developer"))});
+    EXPECT_TRUE(view->isLoading());
+    waitForLoad(*view);
+    EXPECT_EQ(card(*view, "developer")->actionButton()->title(), QStringLiteral("Open"));
+}
+
+TEST_F(HomeTest, TheNewestLoadWins)
+{
+    // The first load sees Claude Code and answers quickly; the second, started while the first
+    // runs, sees no Claude Code and answers slowly. The dashboard ends with the second.
+    sandbox.installFakes({"brew"});
+    sandbox.installFakeAt(QStringLiteral("claude"), sandbox.path(QStringLiteral("first/.local/bin/claude")));
+    QDir().mkpath(sandbox.path(QStringLiteral("second")));
+    sandbox.setEnv("HOME", sandbox.path(QStringLiteral("first")).toUtf8());
+    auto view = showHome();
+    ASSERT_EQ(view->installedTools(), QList<CLITool>{CLITool::claudeCode});
+
+    view->loadData();
+    sandbox.setEnv("HOME", sandbox.path(QStringLiteral("second")).toUtf8());
+    sandbox.setEnv("FAKE_BREW_DELAY", "0.5");
+    view->loadData();
+    waitForLoad(*view);
+    EXPECT_TRUE(view->installedTools().isEmpty());
+    EXPECT_TRUE(view->isFirstTimeUser());
+}
+
+TEST_F(HomeTest, TheAIToolSheetRemovesAndReloads)
+{
+    sandbox.installFakes({"gemini", "npm"});
+    platform.npmPrograms = {sandbox.binDirectory() + QStringLiteral("/npm")};
+    auto view = showHome();
+    ASSERT_TRUE(view->installedTools().contains(CLITool::geminiCLI));
+
+    hover(card(*view, CLITool::geminiCLI), true);
+    card(*view, CLITool::geminiCLI)->removeButton()->click();
+    auto* sheet = qobject_cast<UninstallSheet*>(view->sheet());
+    ASSERT_NE(sheet, nullptr);
+    EXPECT_TRUE(sheet->isVisible());
+    EXPECT_EQ(sheet->tool(), CLITool::geminiCLI);
+
+    // "Cancel" closes it and nothing reloads.
+    test::child<QAbstractButton>(sheet, QStringLiteral("cancelButton"))->click();
+    test::settle();
+    EXPECT_EQ(view->sheet(), nullptr);
+    EXPECT_FALSE(view->isLoading());
+
+    // Again, through to the end: "Done" reloads, and the tool is offered for installing.
+    card(*view, CLITool::geminiCLI)->removeButton()->click();
+    sheet = qobject_cast<UninstallSheet*>(view->sheet());
+    ASSERT_NE(sheet, nullptr);
+    test::child<QAbstractButton>(sheet, QStringLiteral("uninstallButton"))->click();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return sheet->uninstallComplete(); }, 20000));
+    EXPECT_TRUE(sheet->output().endsWith(QStringLiteral("\nGemini CLI has been uninstalled.\n")));
+    test::child<QAbstractButton>(sheet, QStringLiteral("doneButton"))->click();
+    EXPECT_TRUE(view->isLoading());
+    waitForLoad(*view);
+    EXPECT_FALSE(view->installedTools().contains(CLITool::geminiCLI));
+    test::settle();
+    EXPECT_EQ(view->sheet(), nullptr);
+}
+
+// Qt draws an effect inside another one in the wrong place (the cards' logos once landed on
+// their titles): no widget with an effect may lie inside another one with an effect.
+TEST_F(HomeTest, EffectsAreNeverNested)
+{
+    sandbox.installFakes({"claude", "brew"});
+    auto view = showHome();
+    hover(card(*view, CLITool::claudeCode), true);
+    int withEffect = 0;
+    for (QWidget* widget : view->findChildren<QWidget*>()) {
+        if (!widget->graphicsEffect())
+            continue;
+        ++withEffect;
+        for (QWidget* parent = widget->parentWidget(); parent && parent != view.get(); parent = parent->parentWidget())
+            EXPECT_EQ(parent->graphicsEffect(), nullptr)
+                << widget->objectName().toStdString() << " inside " << parent->objectName().toStdString();
+    }
+    EXPECT_GE(withEffect, 9); // the cards, the welcome card and the section headers
+}
+
+TEST_F(HomeTest, EveryControlHasAName)
+{
+    sandbox.installFakes({"claude", "brew"});
+    auto view = showHome();
+    // Show the remove buttons too, by hover and by focus.
+    hover(card(*view, CLITool::claudeCode), true);
+    card(*view, "homebrew")->setFocus(Qt::TabFocusReason);
+    for (QWidget* control : test::focusableControls(view.get())) {
+        EXPECT_FALSE(control->accessibleName().trimmed().isEmpty())
+            << control->metaObject()->className() << " " << control->objectName().toStdString();
+    }
+}

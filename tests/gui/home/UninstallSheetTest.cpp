@@ -1,0 +1,243 @@
+#include "LogView.h"
+#include "TestMachine.h"
+#include "TestSupport.h"
+#include "UninstallSheets.h"
+
+#include <QAbstractButton>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPointer>
+#include <QTest>
+
+using namespace qf;
+
+namespace {
+
+class SheetTest : public ::testing::Test, protected test::TestMachine {
+protected:
+    SystemTool item(SystemToolID id) const
+    {
+        for (const SystemTool& tool : systemToolCatalogue(platform))
+            if (tool.id == id)
+                return tool;
+        return {};
+    }
+    SystemToolUninstallSheet* systemSheet(const SystemTool& tool)
+    {
+        auto* sheet = new SystemToolUninstallSheet(
+            tool, services.runner, [this] { ++reloads; }, Qt::Dialog, nullptr);
+        sheet->setAttribute(Qt::WA_DeleteOnClose);
+        sheet->open();
+        return sheet;
+    }
+    static QAbstractButton* button(QWidget* sheet, const char* name)
+    {
+        return test::child<QAbstractButton>(sheet, QString::fromLatin1(name));
+    }
+    static bool offered(QWidget* sheet, const char* name) { return button(sheet, name)->isVisible(); }
+    static void waitUntilIdle(RemovalSheet* sheet)
+    {
+        ASSERT_TRUE(QTest::qWaitFor([&] { return !sheet->isUninstalling(); }, 20000)) << "the removal never ended";
+    }
+    static void pressEscape(QWidget* sheet) { QTest::keyClick(sheet, Qt::Key_Escape); }
+
+    int reloads = 0;
+};
+
+} // namespace
+
+TEST_F(SheetTest, AIToolSheetFailsClearlyAndRetriesAfresh)
+{
+    // The search after the removal cannot run at first (the shell is missing), then can.
+    const QString shell = sandbox.path(QStringLiteral("shell"));
+    ShellRunner::Configuration configuration = sandbox.shellConfiguration();
+    configuration.shell = shell;
+    Services flaky(platform, configuration);
+    UninstallSheet sheet(
+        CLITool::codex, flaky.installer, [this] { ++reloads; }, Qt::Dialog, nullptr);
+    sheet.show();
+
+    // Confirm: the question, the description, "Cancel" and "Uninstall".
+    EXPECT_EQ(test::child<QLabel>(&sheet, QStringLiteral("sheetTitle"))->text(), QStringLiteral("Uninstall Codex?"));
+    EXPECT_EQ(test::child<QLabel>(&sheet, QStringLiteral("sheetDescription"))->text(),
+              QStringLiteral("Uninstall Codex via npm"));
+    EXPECT_TRUE(offered(&sheet, "cancelButton"));
+    EXPECT_TRUE(offered(&sheet, "uninstallButton"));
+    EXPECT_FALSE(offered(&sheet, "doneButton"));
+
+    button(&sheet, "uninstallButton")->click();
+    EXPECT_TRUE(sheet.isUninstalling());
+    EXPECT_EQ(test::child<QLabel>(&sheet, QStringLiteral("sheetTitle"))->text(), QStringLiteral("Uninstall Codex?"));
+    EXPECT_FALSE(offered(&sheet, "cancelButton")); // nothing to press while it runs
+    pressEscape(&sheet);
+    EXPECT_TRUE(sheet.isVisible());
+    waitUntilIdle(&sheet);
+
+    // Failed: the error row with the runner's message, the log open, "Uninstall" again.
+    ASSERT_TRUE(sheet.errorMessage().has_value());
+    EXPECT_TRUE(sheet.errorMessage()->startsWith(QStringLiteral("Process error: ")));
+    EXPECT_TRUE(test::child(&sheet, QStringLiteral("errorRow"))->isVisible());
+    EXPECT_TRUE(test::child(&sheet, QStringLiteral("logView"))->isVisible());
+    EXPECT_TRUE(offered(&sheet, "uninstallButton"));
+    EXPECT_FALSE(sheet.uninstallComplete());
+    EXPECT_GE(sheet.height(), 360); // grown if it must, never cut off
+
+    // Retry with a working shell: the old error and log go before the new run.
+    ASSERT_TRUE(QFile::link(QStringLiteral(QF_FIXTURES_DIR "/sandbox-shell"), shell));
+    button(&sheet, "uninstallButton")->click();
+    EXPECT_FALSE(sheet.errorMessage().has_value());
+    EXPECT_FALSE(sheet.output().contains(QStringLiteral("Process error")));
+    waitUntilIdle(&sheet);
+    EXPECT_TRUE(sheet.uninstallComplete());
+    EXPECT_EQ(test::child<QLabel>(&sheet, QStringLiteral("sheetTitle"))->text(), QStringLiteral("Uninstall Complete"));
+    EXPECT_FALSE(test::child(&sheet, QStringLiteral("errorRow"))->isVisible());
+    EXPECT_TRUE(offered(&sheet, "cancelButton"));
+    EXPECT_TRUE(offered(&sheet, "doneButton"));
+    EXPECT_EQ(reloads, 0);
+    button(&sheet, "doneButton")->click();
+    EXPECT_EQ(reloads, 1);
+    EXPECT_FALSE(sheet.isVisible());
+}
+
+TEST_F(SheetTest, AIToolSheetLogIsBehindDetails)
+{
+    UninstallSheet sheet(CLITool::claudeCode, services.installer, {}, Qt::Dialog, nullptr);
+    sheet.show();
+    EXPECT_FALSE(test::child(&sheet, QStringLiteral("detailsButton"))->isVisible()); // no output yet
+    button(&sheet, "uninstallButton")->click();
+    waitUntilIdle(&sheet);
+    auto* details = button(&sheet, "detailsButton");
+    auto* log = test::child(&sheet, QStringLiteral("logView"));
+    EXPECT_TRUE(details->isVisible());
+    EXPECT_FALSE(log->isVisible());
+    details->click();
+    EXPECT_TRUE(log->isVisible());
+    EXPECT_EQ(sheet.output(), QStringLiteral("Uninstalling Claude Code...\n\nClaude Code has been uninstalled.\n"));
+    // Escape is "Cancel" here, and closes without a reload.
+    pressEscape(&sheet);
+    EXPECT_FALSE(sheet.isVisible());
+    EXPECT_EQ(reloads, 0);
+}
+
+TEST_F(SheetTest, SystemToolSheetRunsTheItemsCommand)
+{
+    sandbox.installFakes({"brew", "node"});
+    SystemToolUninstallSheet* sheet = systemSheet(item(SystemToolID::node));
+    const QPointer<SystemToolUninstallSheet> guard(sheet);
+    EXPECT_EQ(test::child<QLabel>(sheet, QStringLiteral("sheetDescription"))->text(),
+              QStringLiteral("This will remove Node.js from your system."));
+    button(sheet, "uninstallButton")->click();
+    EXPECT_TRUE(offered(sheet, "cancelButton")); // this removal may be left to run
+    waitUntilIdle(sheet);
+
+    EXPECT_TRUE(sheet->uninstallComplete());
+    EXPECT_EQ(sheet->output(), QStringLiteral("Running: brew uninstall node\n\n"
+                                              "Uninstalling /opt/homebrew/Cellar/node/21.5.0... (2,000 files, 60MB)\n"
+                                              "\nNode.js has been uninstalled.\n"));
+    EXPECT_FALSE(QFile::exists(sandbox.binDirectory() + QStringLiteral("/node")));
+    EXPECT_TRUE(test::child(sheet, QStringLiteral("logView"))->isVisible()); // always open
+    button(sheet, "doneButton")->click();
+    EXPECT_EQ(reloads, 1);
+    test::settle();
+    EXPECT_TRUE(guard.isNull());
+}
+
+TEST_F(SheetTest, SystemToolSheetShowsTheRunnersFailure)
+{
+    // The Command Line Tools' removal needs sudo, which cannot ask for a password here.
+    sandbox.installFakes({"sudo"});
+    SystemToolUninstallSheet* sheet = systemSheet(item(SystemToolID::developerTools));
+    QElapsedTimer clock;
+    clock.start();
+    button(sheet, "uninstallButton")->click();
+    waitUntilIdle(sheet);
+    EXPECT_LT(clock.elapsed(), 15000) << "sudo must not wait for an answer";
+    EXPECT_EQ(sheet->errorMessage(), QStringLiteral("Command failed with exit code 1: Command failed"));
+    EXPECT_TRUE(sheet->output().startsWith(
+        QStringLiteral("Running: sudo rm -rf /Library/Developer/CommandLineTools\n\nsudo: a terminal is required")));
+    EXPECT_TRUE(offered(sheet, "uninstallButton"));
+
+    // A retry starts the log afresh with its "Running: " line.
+    button(sheet, "uninstallButton")->click();
+    EXPECT_EQ(sheet->output(), QStringLiteral("Running: sudo rm -rf /Library/Developer/CommandLineTools\n\n"));
+    waitUntilIdle(sheet);
+    sheet->close();
+}
+
+TEST_F(SheetTest, AnItemWithOnlyANoteOffersOK)
+{
+    SystemToolUninstallSheet* sheet = systemSheet(item(SystemToolID::developerFolder));
+    EXPECT_EQ(test::child<QLabel>(sheet, QStringLiteral("sheetDescription"))->text(),
+              QStringLiteral("Open Finder to manage this folder"));
+    EXPECT_TRUE(offered(sheet, "okButton"));
+    EXPECT_TRUE(offered(sheet, "cancelButton"));
+    EXPECT_FALSE(offered(sheet, "uninstallButton"));
+    button(sheet, "okButton")->click();
+    EXPECT_EQ(reloads, 0);
+}
+
+TEST_F(SheetTest, ASheetClosedMidRunLeavesTheCommandToFinish)
+{
+    SystemTool slow = item(SystemToolID::homebrew);
+    const QString done = sandbox.path(QStringLiteral("done"));
+    slow.uninstallCommand = QStringLiteral("echo start; sleep 0.5; echo more; touch '%1'").arg(done);
+    QPointer<SystemToolUninstallSheet> sheet = systemSheet(slow);
+    button(sheet, "uninstallButton")->click();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return sheet->output().contains(QStringLiteral("start")); }, 20000));
+    button(sheet, "cancelButton")->click();
+    test::settle();
+    EXPECT_TRUE(sheet.isNull());
+    // The command ran to its end; its late output went nowhere, and nothing reloaded.
+    ASSERT_TRUE(QTest::qWaitFor([&] { return QFile::exists(done); }, 20000));
+    QTest::qWait(300);
+    EXPECT_EQ(reloads, 0);
+}
+
+TEST_F(SheetTest, TenMegabytesOfOutputArriveWhole)
+{
+    SystemTool chatty = item(SystemToolID::homebrew);
+    // 10 MiB in lines of 100 characters, numbered so that nothing can go missing unseen.
+    const QString dots(92, QLatin1Char('.'));
+    chatty.uninstallCommand = QStringLiteral("seq -w 1 104857 | sed 's/$/ %1/'").arg(dots);
+    SystemToolUninstallSheet* sheet = systemSheet(chatty);
+    button(sheet, "uninstallButton")->click();
+    // The window keeps answering while the text pours in.
+    int turns = 0;
+    while (sheet->isUninstalling() && turns < 100000) {
+        QTest::qWait(5);
+        ++turns;
+    }
+    ASSERT_FALSE(sheet->isUninstalling());
+    EXPECT_GT(turns, 1);
+    const QString text = sheet->output();
+    const QString header = QStringLiteral("Running: ") + *chatty.uninstallCommand + QStringLiteral("\n\n");
+    const QString footer = QStringLiteral("\nHomebrew has been uninstalled.\n");
+    ASSERT_TRUE(text.startsWith(header));
+    ASSERT_TRUE(text.endsWith(footer));
+    const QString body = text.mid(header.size(), text.size() - header.size() - footer.size());
+    EXPECT_EQ(body.size(), 104857 * 100);
+    EXPECT_TRUE(body.startsWith(QStringLiteral("000001 ")));
+    EXPECT_TRUE(body.endsWith(QStringLiteral("104857 ") + dots + QLatin1Char('\n')));
+    // The newest line is in view.
+    EXPECT_TRUE(test::child<ui::LogView>(sheet, QStringLiteral("logView"))->isFollowing());
+    sheet->close();
+}
+
+TEST_F(SheetTest, EveryControlHasAName)
+{
+    UninstallSheet ai(CLITool::geminiCLI, services.installer, {}, Qt::Dialog, nullptr);
+    ai.show();
+    button(&ai, "uninstallButton")->click();
+    waitUntilIdle(&ai);
+    button(&ai, "detailsButton")->click();
+    SystemToolUninstallSheet* system = systemSheet(item(SystemToolID::node));
+    for (QWidget* sheet : {static_cast<QWidget*>(&ai), static_cast<QWidget*>(system)}) {
+        for (QWidget* control : test::focusableControls(sheet)) {
+            EXPECT_FALSE(control->accessibleName().trimmed().isEmpty())
+                << control->metaObject()->className() << " " << control->objectName().toStdString();
+        }
+    }
+    system->close();
+}

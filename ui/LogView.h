@@ -1,0 +1,36 @@
+#pragma once
+
+#include "RoundedCard.h"
+
+class QPlainTextEdit;
+
+namespace qf::ui {
+
+// A command's log: read-only monospaced text on the text-background colour in a rounded box.
+// Text is only ever added at the end, chunk by chunk, exactly as received. The newest line stays
+// in view, unless the reader has scrolled up to read; scrolling back to the end follows again.
+class LogView : public RoundedCard {
+    Q_OBJECT
+
+public:
+    explicit LogView(QWidget* parent = nullptr);
+
+    void append(const QString& text);
+    void clear();
+    QString text() const;
+    bool isEmpty() const;
+    // Whether the newest line is in view.
+    bool isFollowing() const;
+
+    QPlainTextEdit* textView() const { return m_text; }
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    void applyColors();
+
+    QPlainTextEdit* m_text;
+};
+
+} // namespace qf::ui
