@@ -18,6 +18,8 @@
 
 #include <QCoro/QCoroTask>
 
+#include <algorithm>
+
 namespace qf {
 
 using namespace ui;
@@ -91,10 +93,25 @@ HomeView::HomeView(InstallationState& state, Services& services, QWidget* parent
     welcomeRow->addWidget(m_welcome);
     lists->addLayout(welcomeRow);
 
-    m_systemCardsLayout = vstack(8);
+    // One card per supporting item of the catalogue; a load fills in what it finds.
+    auto* systemCards = vstack(8);
+    for (const SystemTool& tool : systemToolCatalogue(services.platform)) {
+        auto* card = new SystemToolCard(
+            tool,
+            [this](const SystemTool& item) {
+                handleSystemToolAction(item, m_services.platform, [this] { loadData(); });
+            },
+            [this](const SystemTool& item) {
+                m_systemToolToUninstall = item;
+                renderSheets();
+            });
+        card->onHoverChanged = [this, key = systemKey(tool)](bool inside) { hoverChanged(key, inside); };
+        systemCards->addWidget(card);
+        m_systemCards << card;
+    }
     m_sectionHeaders << new SectionHeader(tr("Development Environment"), QStringLiteral("wrench.and.screwdriver"),
                                           Tint(Role::orange));
-    addSection(lists, m_sectionHeaders.last(), m_systemCardsLayout);
+    addSection(lists, m_sectionHeaders.last(), systemCards);
 
     auto* aiCards = vstack(10);
     for (CLITool tool : CLITool::allCases()) {
@@ -176,76 +193,18 @@ void HomeView::render()
     for (AIToolCard* card : std::as_const(m_aiCards))
         card->setVisible(!m_isLoading);
 
-    // One card per supporting item, kept while the items stay the same.
-    QStringList keys;
-    for (const SystemTool& tool : std::as_const(m_systemTools))
-        keys << tool.key;
-    QStringList shown;
-    for (const SystemToolCard* card : std::as_const(m_systemCards))
-        shown << card->tool().key;
-    if (keys != shown) {
-        qDeleteAll(m_systemCards);
-        m_systemCards.clear();
-        for (const SystemTool& tool : std::as_const(m_systemTools)) {
-            SystemToolCard* card = systemCard(tool);
-            m_systemCardsLayout->addWidget(card);
-            m_systemCards << card;
-        }
-        orderTabs();
-    }
-    for (int i = 0; i < m_systemCards.size(); ++i) {
-        SystemToolCard* card = m_systemCards[i];
-        card->setVisible(!m_isLoading);
-        card->setTool(m_systemTools[i]);
-        card->setHovered(m_hoveredKey == systemKey(m_systemTools[i]));
+    for (SystemToolCard* card : std::as_const(m_systemCards)) {
+        const auto found = std::find_if(m_systemTools.cbegin(), m_systemTools.cend(),
+                                        [card](const SystemTool& tool) { return tool.key == card->tool().key; });
+        card->setVisible(!m_isLoading && found != m_systemTools.cend());
+        if (found != m_systemTools.cend())
+            card->setTool(*found);
+        card->setHovered(m_hoveredKey == systemKey(card->tool()));
     }
     for (AIToolCard* card : std::as_const(m_aiCards)) {
         card->setInstalled(m_installedTools.contains(card->tool()));
         card->setHovered(m_hoveredKey == card->tool().rawValue());
     }
-}
-
-void HomeView::orderTabs()
-{
-    // Tab goes through the cards as they are shown, top to bottom, each card before its buttons
-    // (the supporting items' cards are made later than the AI tools' but shown above them).
-    QList<QWidget*> order;
-    const auto add = [&order](QWidget* card) {
-        order << card;
-        for (QWidget* child : card->findChildren<QWidget*>()) {
-            if (child->focusPolicy() & Qt::TabFocus)
-                order << child;
-        }
-    };
-    for (SystemToolCard* card : std::as_const(m_systemCards))
-        add(card);
-    for (AIToolCard* card : std::as_const(m_aiCards))
-        add(card);
-    for (qsizetype i = 1; i < order.size(); ++i)
-        QWidget::setTabOrder(order[i - 1], order[i]);
-}
-
-SystemToolCard* HomeView::systemCard(const SystemTool& tool)
-{
-    const QString key = tool.key;
-    auto* card = new SystemToolCard(
-        tool,
-        [this, key] {
-            // The card's current item: its presence may have changed since the card was made.
-            for (const SystemTool& current : std::as_const(m_systemTools)) {
-                if (current.key == key)
-                    handleSystemToolAction(current, m_services.platform, [this] { loadData(); });
-            }
-        },
-        [this, key] {
-            for (const SystemTool& current : std::as_const(m_systemTools)) {
-                if (current.key == key)
-                    m_systemToolToUninstall = current;
-            }
-            renderSheets();
-        });
-    card->onHoverChanged = [this, hoverKey = systemKey(tool)](bool inside) { hoverChanged(hoverKey, inside); };
-    return card;
 }
 
 void HomeView::hoverChanged(const QString& key, bool inside)

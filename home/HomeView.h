@@ -57,12 +57,10 @@ protected:
 private:
     void render();
     void appear();
-    void orderTabs();
     void renderSheets();
     void hoverChanged(const QString& key, bool inside);
     void openTool(CLITool tool);
     void installTool(CLITool tool);
-    SystemToolCard* systemCard(const SystemTool& tool);
 
     InstallationState& m_state;
     Services& m_services;
@@ -80,7 +78,6 @@ private:
     ui::ScrollView* m_scroll;
     QWidget* m_loadingRow;
     FirstTimeWelcomeCard* m_welcome;
-    QVBoxLayout* m_systemCardsLayout;
     QList<SystemToolCard*> m_systemCards;
     QList<AIToolCard*> m_aiCards;
     QList<SectionHeader*> m_sectionHeaders;

@@ -16,8 +16,6 @@ namespace {
 
 constexpr int kHoverMs = 150;
 
-QString joined(const QStringList& parts) { return parts.join(QStringLiteral(", ")); }
-
 } // namespace
 
 // MARK: StatusBadge
@@ -32,12 +30,13 @@ StatusBadge::StatusBadge(const QString& text, const Tint& color, QWidget* parent
 
 ActionButton::ActionButton(const std::optional<QString>& title, const QString& icon, const Tint& color, bool isCompact,
                            bool isPrimary, std::function<void()> action, QWidget* parent)
-    : Button(title.value_or(QString()), isPrimary ? Style::prominent : Style::tinted, Size::regular, parent)
+    : Button(title.value_or(QString()), isPrimary ? Style::prominent : Style::tinted, Size::regular, parent),
+      m_iconSize(isCompact ? 11 : 12)
 {
     setObjectName(QStringLiteral("actionButton"));
     setTint(color);
     setCornerRadius(8);
-    setLeadingSymbol(icon, isCompact ? 11 : 12, SymbolWeight::medium);
+    setIcon(icon);
     setTitleFont(Theme::font(12, QFont::Medium));
     setSpacing(5);
     setContentPadding(isCompact ? 8 : 12, 7);
@@ -46,6 +45,8 @@ ActionButton::ActionButton(const std::optional<QString>& title, const QString& i
             action();
     });
 }
+
+void ActionButton::setIcon(const QString& icon) { setLeadingSymbol(icon, m_iconSize, SymbolWeight::medium); }
 
 // MARK: DashboardCard
 
@@ -217,9 +218,8 @@ void AIToolCard::renderHover(qreal progress)
 
 // MARK: SystemToolCard
 
-SystemToolCard::SystemToolCard(const SystemTool& tool, std::function<void()> onAction,
-                               std::function<void()> onUninstall, QWidget* parent)
-    : DashboardCard(parent), m_tool(tool), m_onAction(std::move(onAction))
+SystemToolCard::SystemToolCard(const SystemTool& tool, Action onAction, Action onUninstall, QWidget* parent)
+    : DashboardCard(parent), m_tool(tool)
 {
     setObjectName(QStringLiteral("systemToolCard.") + tool.key);
     setCornerRadius(12);
@@ -251,10 +251,22 @@ SystemToolCard::SystemToolCard(const SystemTool& tool, std::function<void()> onA
     text->addWidget(m_description);
     row->addLayout(text, 1);
 
-    m_buttons = new QWidget;
-    auto* buttons = hstack(m_buttons, 8);
-    buttons->addWidget(makeRemoveButton(tool.name, std::move(onUninstall)), 0, Qt::AlignVCenter);
-    row->addWidget(m_buttons, 0, Qt::AlignVCenter);
+    // The item's action (its title and icon follow the item), then the remove button.
+    auto* buttons = hstack(8);
+    m_action = new ActionButton(QString(), QString(), Tint(Role::accent), false, false,
+                                [this, onAction = std::move(onAction)] {
+                                    if (onAction)
+                                        onAction(m_tool);
+                                });
+    m_action->setAccessibleName(tool.name); // named for what it acts on until it has an action
+    buttons->addWidget(m_action, 0, Qt::AlignVCenter);
+    buttons->addWidget(makeRemoveButton(tool.name,
+                                        [this, onUninstall = std::move(onUninstall)] {
+                                            if (onUninstall)
+                                                onUninstall(m_tool);
+                                        }),
+                       0, Qt::AlignVCenter);
+    row->addLayout(buttons);
 
     render();
 }
@@ -289,47 +301,23 @@ void SystemToolCard::render()
     if (m_tool.isOptional)
         state << tr("Optional");
     setAccessibleName(m_tool.name);
-    setAccessibleDescription(joined(state));
+    setAccessibleDescription(state.join(QStringLiteral(", ")));
 
     // The item's own action: the projects folder always has one, missing developer tools too.
-    struct Action {
-        QString title;
-        QString icon;
-        QString accessibleName;
+    const auto offer = [this](const QString& title, const char* icon) {
+        m_action->setTitle(title);
+        m_action->setIcon(QString::fromLatin1(icon));
+        m_action->setAccessibleName(tr("%1 %2", "an action and the item it acts on").arg(title, m_tool.name));
+        m_action->show();
     };
-    std::optional<Action> action;
     if (m_tool.id == SystemToolID::developerFolder && installed)
-        action = Action{tr("Open"), QStringLiteral("folder"), tr("Open %1").arg(m_tool.name)};
+        offer(tr("Open"), "folder");
     else if (m_tool.id == SystemToolID::developerFolder)
-        action = Action{tr("Create"), QStringLiteral("folder.badge.plus"), tr("Create %1").arg(m_tool.name)};
+        offer(tr("Create"), "folder.badge.plus");
     else if (m_tool.id == SystemToolID::developerTools && !installed)
-        action = Action{tr("Install"), QStringLiteral("arrow.down.circle"), tr("Install %1").arg(m_tool.name)};
-
-    const bool unchanged = action ? (m_action && m_action->title() == action->title &&
-                                     m_action->leadingSymbol() == action->icon)
-                                  : m_action == nullptr;
-    if (!unchanged) {
-        const bool hadFocus = m_action && m_action->hasFocus();
-        if (m_action) {
-            // It may be the button whose click led here: it goes once the click is over.
-            m_action->hide();
-            m_action->deleteLater();
-        }
-        m_action = nullptr;
-        if (action) {
-            m_action = new ActionButton(action->title, action->icon, Tint(Role::accent), false, false, [this] {
-                if (m_onAction)
-                    m_onAction();
-            });
-            m_action->setAccessibleName(action->accessibleName);
-            static_cast<QHBoxLayout*>(m_buttons->layout())->insertWidget(0, m_action, 0, Qt::AlignVCenter);
-            // Tab reaches it right after the card, and the remove button after it.
-            setTabOrder(this, m_action);
-            setTabOrder(m_action, removeButtonWidget());
-            if (hadFocus)
-                m_action->setFocus(Qt::OtherFocusReason);
-        }
-    }
+        offer(tr("Install"), "arrow.down.circle");
+    else
+        m_action->hide();
     renderRemoveButton();
     renderHover(hoverProgress());
 }

@@ -34,6 +34,11 @@ class ActionButton : public ui::Button {
 public:
     ActionButton(const std::optional<QString>& title, const QString& icon, const ui::Tint& color, bool isCompact,
                  bool isPrimary, std::function<void()> action, QWidget* parent = nullptr);
+
+    void setIcon(const QString& icon);
+
+private:
+    qreal m_iconSize;
 };
 
 // What the cards of the dashboard share: the rounded surface, hover reported to the dashboard
@@ -64,7 +69,6 @@ protected:
     // Shows or fades the remove button, as hover, focus and `canRemove()` say.
     void renderRemoveButton();
     qreal hoverProgress() const { return m_hover.value(); }
-    ui::Button* removeButtonWidget() const { return m_remove; }
 
     void enterEvent(QEnterEvent* event) override;
     void leaveEvent(QEvent* event) override;
@@ -109,18 +113,20 @@ private:
 
 // The card of one supporting item: step number, name, "Optional", version, description, and
 // the item's action ("Create" or "Open" for the projects folder, "Install" for missing
-// developer tools) with the remove button beside it.
+// developer tools) with the remove button beside it. Both actions are called with the item
+// as the card shows it now.
 class SystemToolCard : public DashboardCard {
     Q_OBJECT
 
 public:
-    SystemToolCard(const SystemTool& tool, std::function<void()> onAction, std::function<void()> onUninstall,
-                   QWidget* parent = nullptr);
+    using Action = std::function<void(const SystemTool&)>;
+
+    SystemToolCard(const SystemTool& tool, Action onAction, Action onUninstall, QWidget* parent = nullptr);
 
     const SystemTool& tool() const { return m_tool; }
     void setTool(const SystemTool& tool);
     // The action button, when the item has one now (null otherwise).
-    ActionButton* actionButton() const { return m_action; }
+    ActionButton* actionButton() const { return m_action->isHidden() ? nullptr : m_action; }
 
 protected:
     bool canRemove() const override;
@@ -130,14 +136,12 @@ private:
     void render();
 
     SystemTool m_tool;
-    std::function<void()> m_onAction;
     ui::IconTile* m_step;
     ui::Label* m_name;
     ui::Badge* m_optional;
     StatusBadge* m_version;
     ui::Label* m_description;
-    QWidget* m_buttons;
-    ActionButton* m_action = nullptr;
+    ActionButton* m_action;
 };
 
 } // namespace qf

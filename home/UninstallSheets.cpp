@@ -126,12 +126,6 @@ RemovalSheet::RemovalSheet(const QString& name, std::function<void()> onComplete
 
 QString RemovalSheet::output() const { return m_log->text(); }
 
-void RemovalSheet::setLogCollapsible(bool collapsible)
-{
-    m_logCollapsible = collapsible;
-    render();
-}
-
 void RemovalSheet::setDetailsShown(bool shown)
 {
     m_showOutput = shown;
@@ -205,11 +199,11 @@ void RemovalSheet::render()
 
     const bool hasOutput = !m_log->isEmpty();
     m_logSection->setVisible(hasOutput);
-    m_details->setVisible(m_logCollapsible);
+    m_details->setVisible(isLogCollapsible());
     m_details->setLeadingSymbol(m_showOutput ? QStringLiteral("chevron.down") : QStringLiteral("chevron.right"), 10,
                                 SymbolWeight::bold);
     m_details->setAccessibleDescription(m_showOutput ? tr("Shown") : tr("Hidden"));
-    m_log->setVisible(!m_logCollapsible || m_showOutput);
+    m_log->setVisible(!isLogCollapsible() || m_showOutput);
 
     m_errorRow->setVisible(m_errorMessage.has_value());
     m_error->setText(m_errorMessage.value_or(QString()));
@@ -233,7 +227,7 @@ UninstallSheet::UninstallSheet(CLITool tool, ToolInstaller& installer, std::func
     : RemovalSheet(tool.displayName(), std::move(onComplete), flags, 360, parent), m_tool(tool), m_installer(installer)
 {
     setObjectName(QStringLiteral("uninstallSheet"));
-    setLogCollapsible(true);
+    render();
 }
 
 void UninstallSheet::performUninstall()
@@ -257,7 +251,7 @@ SystemToolUninstallSheet::SystemToolUninstallSheet(const SystemTool& tool, Shell
     : RemovalSheet(tool.name, std::move(onComplete), flags, 340, parent), m_tool(tool), m_shell(shell)
 {
     setObjectName(QStringLiteral("systemToolUninstallSheet"));
-    setLogCollapsible(false);
+    render();
 }
 
 QString SystemToolUninstallSheet::description() const

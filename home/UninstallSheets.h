@@ -45,34 +45,33 @@ protected:
     RemovalSheet(const QString& name, std::function<void()> onComplete, Qt::WindowFlags flags, int height,
                  QWidget* parent);
 
-    // Runs the removal; ends by calling `finish()`.
+    // What a kind of sheet is (each subclass calls `render()` once it is made):
+    // runs the removal, ending by calling `finish()`;
     virtual void performUninstall() = 0;
     virtual QString description() const = 0;
     virtual bool hasCommand() const { return true; }
-    // Whether "Cancel" stays while the removal runs (the removal then goes on without the sheet).
+    // whether "Cancel" stays while the removal runs (the removal then goes on without the sheet);
     virtual bool canLeaveWhileRunning() const { return false; }
+    // whether the log is a disclosure ("Details") or always open.
+    virtual bool isLogCollapsible() const { return true; }
 
-    void start();
     void appendOutput(const QString& text);
     void finish(const std::optional<QString>& error);
-    void setDetailsShown(bool shown);
-    // Whether the log is a disclosure ("Details") or always open.
-    void setLogCollapsible(bool collapsible);
     void render();
+
+private:
+    void start();
+    void setDetailsShown(bool shown);
+    // "Done": the dashboard reloads, and the sheet closes.
+    void completeAndClose();
 
     bool m_isUninstalling = false;
     bool m_uninstallComplete = false;
     std::optional<QString> m_errorMessage;
     bool m_showOutput = false;
-
-private:
-    // "Done": the dashboard reloads, and the sheet closes.
-    void completeAndClose();
-
     QString m_name;
     std::function<void()> m_onComplete;
     int m_minimumHeight;
-    bool m_logCollapsible = true;
     ui::IconTile* m_icon;
     ui::ActivityIndicator* m_spinner;
     ui::SymbolView* m_symbol;
@@ -124,6 +123,7 @@ protected:
     QString description() const override;
     bool hasCommand() const override { return m_tool.uninstallCommand.has_value(); }
     bool canLeaveWhileRunning() const override { return true; }
+    bool isLogCollapsible() const override { return false; }
 
 private:
     SystemTool m_tool;
