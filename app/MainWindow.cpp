@@ -12,7 +12,7 @@
 namespace qf {
 
 MainWindow::MainWindow(InstallationState& state, Services& services, ScreenFactory factory, QWidget* parent)
-    : QWidget(parent), m_services(services)
+    : QWidget(parent), m_services(services), m_installation(state, services.installer)
 {
     setObjectName(QStringLiteral("mainWindow"));
     setWindowTitle(QStringLiteral("Quillforge"));
@@ -25,8 +25,8 @@ MainWindow::MainWindow(InstallationState& state, Services& services, ScreenFacto
         resize(screen->availableGeometry().size().expandedTo(minimumSize()));
 
     if (!factory) {
-        factory = [&services](InstallationStep step, InstallationState& shared) {
-            return makeScreen(step, shared, services);
+        factory = [this](InstallationStep step, InstallationState& shared) {
+            return makeScreen(step, shared, m_services, m_installation);
         };
     }
     m_content = new ContentView(state, std::move(factory), this);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ContentView.h"
+#include "InstallationController.h"
 
 #include <QWidget>
 
@@ -19,6 +20,7 @@ public:
     MainWindow(InstallationState& state, Services& services, ScreenFactory factory = {}, QWidget* parent = nullptr);
 
     ContentView* contentView() const { return m_content; }
+    InstallationController& installationController() { return m_installation; }
     bool isConfigured() const { return m_configured; }
 
     static constexpr int minimumWidth = 550;
@@ -31,11 +33,14 @@ private:
     void configure();
 
     Services& m_services;
+    // Outlives every screen, so an installation goes on when its screen goes away.
+    InstallationController m_installation;
     ContentView* m_content;
     bool m_configured = false;
 };
 
-// The screen of each step: the introduction and, until they are built, plain placeholders.
-QWidget* makeScreen(InstallationStep step, InstallationState& state, Services& services);
+// The screen of each step (placeholders for the ones not built yet).
+QWidget* makeScreen(InstallationStep step, InstallationState& state, Services& services,
+                    InstallationController& installation);
 
 } // namespace qf

@@ -1,8 +1,13 @@
 #include "MainWindow.h"
 
+#include "AccountSetupView.h"
 #include "HomeView.h"
 #include "InstallationState.h"
+#include "InstallationView.h"
 #include "OnboardingView.h"
+#include "Services.h"
+#include "SystemCheckView.h"
+#include "WelcomeView.h"
 
 #include "Label.h"
 #include "Layout.h"
@@ -42,11 +47,16 @@ protected:
 
 } // namespace
 
-QWidget* makeScreen(InstallationStep step, InstallationState& state, Services& services)
+QWidget* makeScreen(InstallationStep step, InstallationState& state, Services& services,
+                    InstallationController& installation)
 {
     switch (step) {
     case InstallationStep::onboarding: return new OnboardingView(state);
     case InstallationStep::home: return new HomeView(state, services);
+    case InstallationStep::welcome: return new WelcomeView(state, services.platform);
+    case InstallationStep::accountSetup: return new AccountSetupView(state, services.platform);
+    case InstallationStep::systemCheck: return new SystemCheckView(state, services);
+    case InstallationStep::installation: return new InstallationView(state, installation);
     default: return new PlaceholderScreen(step);
     }
 }

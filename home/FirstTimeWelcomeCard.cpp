@@ -59,14 +59,7 @@ FirstTimeWelcomeCard::FirstTimeWelcomeCard(const QString& developerToolsName, QW
     column->addLayout(header);
     setAccessibleName(title->text());
 
-    // A divider with a little room above and below.
-    auto* divider = new RoundedCard;
-    divider->setCornerRadius(0);
-    divider->setFill(Tint(Role::separator));
-    divider->setFixedHeight(1);
-    auto* dividerRow = vstack(0, QMargins(0, 4, 0, 4));
-    dividerRow->addWidget(divider);
-    column->addLayout(dividerRow);
+    column->addWidget(divider(4));
 
     // The first steps.
     auto* steps = vstack(14);

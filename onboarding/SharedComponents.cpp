@@ -5,7 +5,9 @@
 #include "Symbol.h"
 
 #include <QClipboard>
+#include <QEvent>
 #include <QGuiApplication>
+#include <QTimer>
 
 namespace qf {
 
@@ -67,6 +69,53 @@ CopiedToast::CopiedToast(QWidget* parent) : ui::RoundedCard(parent)
     row->addWidget(check, 0, Qt::AlignVCenter);
     row->addWidget(text, 0, Qt::AlignVCenter);
     setAccessibleName(text->text());
+}
+
+CopiedToastPresenter::CopiedToastPresenter(QWidget* host, int bottomPadding)
+    : QObject(host),
+      m_host(host),
+      m_bottomPadding(bottomPadding),
+      m_toast(new CopiedToast(host)),
+      m_presence(this, ui::motion::springDurationMs, ui::motion::spring(), [this](qreal shown) { apply(shown); })
+{
+    m_toast->hide();
+    host->installEventFilter(this);
+}
+
+void CopiedToastPresenter::present()
+{
+    if (m_showing)
+        return;
+    m_showing = true;
+    place();
+    m_toast->raise();
+    m_presence.setTarget(1.0);
+    QTimer::singleShot(visibleMs, this, [this] {
+        m_showing = false;
+        m_presence.setTarget(0.0);
+    });
+}
+
+void CopiedToastPresenter::apply(qreal shown)
+{
+    // It rises from below the bottom edge as it fades in, and sinks back as it fades out.
+    const int travel = m_bottomPadding + m_toast->sizeHint().height();
+    ui::motion::applyLook(m_toast, ui::motion::Look{0.0, {0, qreal(travel)}, 1.0}, shown);
+    m_toast->setVisible(shown > 0.0 || m_presence.target() > 0.0);
+}
+
+void CopiedToastPresenter::place()
+{
+    const QSize size = m_toast->sizeHint();
+    m_toast->setGeometry(
+        QRect(QPoint((m_host->width() - size.width()) / 2, m_host->height() - m_bottomPadding - size.height()), size));
+}
+
+bool CopiedToastPresenter::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_host && event->type() == QEvent::Resize)
+        place();
+    return QObject::eventFilter(watched, event);
 }
 
 SectionHeader::SectionHeader(const QString& title, const QString& icon, const ui::Tint& iconColor, QWidget* parent)

@@ -39,6 +39,35 @@ public:
     explicit CopiedToast(QWidget* parent = nullptr);
 };
 
+// Shows the copied toast over `host`, centred `bottomPadding` points above its bottom edge: it
+// slides up and fades in with the spring, and 1.5 s after it appeared slides down and fades
+// out. A copy while it shows changes nothing: it still leaves 1.5 s after it first appeared.
+class CopiedToastPresenter : public QObject {
+    Q_OBJECT
+
+public:
+    CopiedToastPresenter(QWidget* host, int bottomPadding);
+
+    void present();
+    bool isShowing() const { return m_showing; }
+    CopiedToast* toast() const { return m_toast; }
+
+    static constexpr int visibleMs = 1500;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void place();
+    void apply(qreal shown);
+
+    QWidget* m_host;
+    int m_bottomPadding;
+    CopiedToast* m_toast;
+    bool m_showing = false;
+    ui::motion::Transition m_presence;
+};
+
 // The titled icon header of a dashboard section.
 class SectionHeader : public QWidget {
     Q_OBJECT

@@ -16,4 +16,6 @@ DiskSpace Platform::availableDiskSpace(const QString& path) const
 
 void Platform::revealFolder(const QString& path) { QDesktopServices::openUrl(QUrl::fromLocalFile(path)); }
 
+void Platform::openURL(const QUrl& url) { QDesktopServices::openUrl(url); }
+
 } // namespace qf

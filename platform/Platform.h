@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <QUrl>
 #include <qnamespace.h>
 
 #include <memory>
@@ -106,6 +107,8 @@ public:
 
     // Shows a folder to the user in the file manager.
     virtual void revealFolder(const QString& path);
+    // Opens a web page in the user's browser.
+    virtual void openURL(const QUrl& url);
 
     virtual DeveloperToolsItem developerToolsItem() const = 0;
     // Starts the system's installer for the developer tools; errors are swallowed.

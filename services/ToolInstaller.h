@@ -3,6 +3,7 @@
 #include "CLITool.h"
 #include "DeveloperFolder.h"
 #include "Errors.h"
+#include "InstallationController.h"
 #include "SetupModel.h"
 #include "ShellRunner.h"
 #include "SystemDetector.h"
@@ -17,13 +18,8 @@ namespace qf {
 // Installs, removes and configures the AI tools: proposes the setup steps of a tool, runs
 // them with step reports and a readable log, removes a tool from every place npm may have put
 // it, and stores a tool's API key in the shell profile.
-class ToolInstaller {
+class ToolInstaller : public SetupService {
 public:
-    // A step changed: its type, its new status and, when given, new details (none keeps the
-    // details the step had).
-    using StepUpdate = std::function<void(SetupStepType, SetupStepStatus, std::optional<QString>)>;
-    using Output = std::function<void(const QString&)>;
-
     struct GitCheck {
         bool found = false;
         std::optional<QString> version;
@@ -33,8 +29,8 @@ public:
     ToolInstaller(const ToolInstaller&) = delete;
     ToolInstaller& operator=(const ToolInstaller&) = delete;
 
-    QCoro::Task<QList<SetupStep>> setupSteps(CLITool tool);
-    QCoro::Task<Result<void>> runSetup(CLITool tool, StepUpdate onStepUpdate, Output onOutput);
+    QCoro::Task<QList<SetupStep>> setupSteps(CLITool tool) override;
+    QCoro::Task<Result<void>> runSetup(CLITool tool, StepUpdate onStepUpdate, Output onOutput) override;
 
     // True when this call created ~/Developer.
     QCoro::Task<bool> createDeveloperFolder(Output onOutput);

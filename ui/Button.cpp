@@ -2,6 +2,7 @@
 
 #include "Surface.h"
 
+#include <QBoxLayout>
 #include <QEvent>
 #include <QKeyEvent>
 #include <QPainter>
@@ -316,6 +317,43 @@ bool Button::event(QEvent* event)
     default: break;
     }
     return QAbstractButton::event(event);
+}
+
+} // namespace qf::ui
+
+namespace qf::ui {
+
+RowButton::RowButton(QWidget* parent) : QAbstractButton(parent), m_row(new QHBoxLayout(this))
+{
+    m_row->setContentsMargins(0, 0, 0, 0);
+    m_row->setSpacing(6);
+    setFocusPolicy(Qt::StrongFocus);
+    setCursor(Qt::PointingHandCursor);
+}
+
+void RowButton::addWidget(QWidget* widget, int stretch, Qt::Alignment alignment)
+{
+    widget->setAttribute(Qt::WA_TransparentForMouseEvents);
+    widget->setFocusPolicy(Qt::NoFocus);
+    m_row->addWidget(widget, stretch, alignment);
+}
+
+void RowButton::addStretch(int stretch) { m_row->addStretch(stretch); }
+
+void RowButton::setPadding(QMargins padding) { m_row->setContentsMargins(padding); }
+
+QSize RowButton::sizeHint() const { return m_row->sizeHint(); }
+
+QSize RowButton::minimumSizeHint() const { return m_row->minimumSize(); }
+
+void RowButton::paintEvent(QPaintEvent*)
+{
+    if (!hasFocus() || !window() || !window()->testAttribute(Qt::WA_KeyboardFocusChange))
+        return;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(Tint(Role::accent, 0.55).resolve(), 2.5));
+    painter.drawPath(continuousRoundedRect(QRectF(rect()).adjusted(1.25, 1.25, -1.25, -1.25), 4));
 }
 
 } // namespace qf::ui

@@ -6,6 +6,8 @@
 
 #include <QAbstractButton>
 
+class QHBoxLayout;
+
 namespace qf::ui {
 
 // The push button of the design, drawn the same on every platform:
@@ -92,6 +94,34 @@ private:
     qreal m_opacity = 1.0;
     // The pointer's presence, eased in and out for the tinted style.
     motion::Transition m_hover;
+};
+
+} // namespace qf::ui
+
+namespace qf::ui {
+
+// A plain button whose content is a row of widgets (symbols, labels, space) laid out by the
+// caller, for headers that open and close something: the whole row takes the click and the
+// keyboard, the widgets in it only show.
+class RowButton : public QAbstractButton {
+    Q_OBJECT
+
+public:
+    explicit RowButton(QWidget* parent = nullptr);
+
+    // Adds a widget to the row; it no longer takes the pointer itself.
+    void addWidget(QWidget* widget, int stretch = 0, Qt::Alignment alignment = {});
+    void addStretch(int stretch = 1);
+    void setPadding(QMargins padding);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QHBoxLayout* m_row;
 };
 
 } // namespace qf::ui

@@ -1,8 +1,22 @@
 #include "Layout.h"
 
+#include "RoundedCard.h"
+
 #include <QScrollBar>
 
 namespace qf::ui {
+
+QWidget* divider(int padding)
+{
+    auto* holder = new QWidget;
+    auto* layout = vstack(holder, 0, QMargins(0, padding, 0, padding));
+    auto* line = new RoundedCard;
+    line->setCornerRadius(0);
+    line->setFill(Tint(Role::separator));
+    line->setFixedHeight(1);
+    layout->addWidget(line);
+    return holder;
+}
 
 QVBoxLayout* vstack(QWidget* owner, int spacing, QMargins padding)
 {

@@ -13,6 +13,9 @@ QHBoxLayout* hstack(QWidget* owner, int spacing, QMargins padding = {});
 QVBoxLayout* vstack(int spacing, QMargins padding = {});
 QHBoxLayout* hstack(int spacing, QMargins padding = {});
 
+// A one-point line in the separator colour, `padding` points of room above and below it.
+QWidget* divider(int padding = 0);
+
 // A slim bar in the spirit of macOS's scroll indicators instead of a bar with arrows.
 void makeSlim(QScrollBar* bar);
 

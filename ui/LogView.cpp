@@ -28,7 +28,17 @@ LogView::LogView(QWidget* parent) : RoundedCard(parent), m_text(new QPlainTextEd
     m_text->document()->setDocumentMargin(0);
     applyColors();
     m_text->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    makeSlim(m_text->verticalScrollBar());
+    QScrollBar* bar = m_text->verticalScrollBar();
+    makeSlim(bar);
+    // The text grows, or the box is laid out anew: the end stays in view while it is followed.
+    connect(bar, &QScrollBar::rangeChanged, this, [this] {
+        if (m_follow)
+            followEnd();
+    });
+    connect(bar, &QScrollBar::valueChanged, this, [this, bar](int value) {
+        if (!m_following)
+            m_follow = value >= bar->maximum();
+    });
 
     auto* layout = vstack(this, 0, QMargins(10, 10, 10, 10));
     layout->addWidget(m_text);
@@ -49,29 +59,47 @@ void LogView::changeEvent(QEvent* event)
         applyColors();
 }
 
-bool LogView::isFollowing() const
+void LogView::setPadding(int padding) { layout()->setContentsMargins(padding, padding, padding, padding); }
+
+void LogView::setTextFont(const QFont& font) { m_text->setFont(font); }
+
+void LogView::scrollToEnd()
 {
-    const QScrollBar* bar = m_text->verticalScrollBar();
-    return bar->value() >= bar->maximum();
+    m_follow = true;
+    followEnd();
 }
+
+void LogView::followEnd()
+{
+    QScrollBar* bar = m_text->verticalScrollBar();
+    const bool nested = m_following;
+    m_following = true;
+    bar->setValue(bar->maximum());
+    m_following = nested;
+}
+
+bool LogView::isFollowing() const { return m_follow; }
 
 void LogView::append(const QString& text)
 {
     if (text.isEmpty())
         return;
-    const bool follow = isFollowing();
+    // Whatever the text view does to its scroll bar while the text grows is not the reader's doing.
     QScrollBar* bar = m_text->verticalScrollBar();
     const int kept = bar->value();
+    m_following = true;
     QTextCursor cursor(m_text->document());
     cursor.movePosition(QTextCursor::End);
     cursor.insertText(text);
-    if (follow)
-        bar->setValue(bar->maximum());
-    else
-        bar->setValue(kept);
+    bar->setValue(m_follow ? bar->maximum() : kept);
+    m_following = false;
 }
 
-void LogView::clear() { m_text->clear(); }
+void LogView::clear()
+{
+    m_text->clear();
+    m_follow = true;
+}
 
 QString LogView::text() const { return m_text->toPlainText(); }
 

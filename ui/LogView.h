@@ -15,6 +15,11 @@ class LogView : public RoundedCard {
 public:
     explicit LogView(QWidget* parent = nullptr);
 
+    void setPadding(int padding);
+    void setTextFont(const QFont& font);
+    // Shows the newest line and follows again from there.
+    void scrollToEnd();
+
     void append(const QString& text);
     void clear();
     QString text() const;
@@ -29,8 +34,13 @@ protected:
 
 private:
     void applyColors();
+    void followEnd();
 
     QPlainTextEdit* m_text;
+    // Whether the newest line is to stay in view: true until the reader scrolls up, and again
+    // once they scroll back to the end.
+    bool m_follow = true;
+    bool m_following = false; // moving to the end ourselves
 };
 
 } // namespace qf::ui

@@ -1,5 +1,7 @@
 #include "RoundedCard.h"
 
+#include "ActivityIndicator.h"
+
 #include "Symbol.h"
 
 #include <QLinearGradient>
@@ -130,6 +132,28 @@ void IconTile::setSymbol(const QString& name, qreal pointSize, const Tint& tint,
     update();
 }
 
+void IconTile::setStroke(const Tint& stroke, qreal width)
+{
+    m_stroke = stroke;
+    m_strokeWidth = width;
+    update();
+}
+
+void IconTile::setShowsActivity(bool shows, qreal diameter)
+{
+    if (shows && !m_activity) {
+        m_activity = new ActivityIndicator(diameter, Tint(Role::secondary), this);
+        const QSize size = m_activity->sizeHint();
+        m_activity->setGeometry(
+            QRect(QPoint((m_size.width() - size.width()) / 2, (m_size.height() - size.height()) / 2), size));
+    }
+    if (m_activity)
+        m_activity->setVisible(shows);
+    update();
+}
+
+bool IconTile::showsActivity() const { return m_activity && !m_activity->isHidden(); }
+
 void IconTile::setText(const QString& text, const QFont& font, const Tint& tint)
 {
     m_text = text;
@@ -164,6 +188,13 @@ void IconTile::paintEvent(QPaintEvent*)
     const QRectF bounds = QRectF(rect());
     const QPainterPath path = m_shape.path(bounds);
     painter.fillPath(path, m_fill.brush(bounds));
+    if (m_strokeWidth > 0 && !m_stroke.isClear()) {
+        const qreal half = m_strokeWidth / 2.0;
+        painter.strokePath(m_shape.path(bounds.adjusted(half, half, -half, -half)),
+                           QPen(m_stroke.resolve(), m_strokeWidth));
+    }
+    if (showsActivity())
+        return;
     if (!m_symbol.isEmpty()) {
         const qreal dpr = devicePixelRatioF();
         QPixmap icon = Symbol::pixmap(m_symbol, m_symbolSize, m_contentTint.resolve(), dpr,

@@ -12,6 +12,8 @@
 
 namespace qf::ui {
 
+class ActivityIndicator;
+
 // How a shape is filled or stroked: one tint, or a linear gradient between two tints from one
 // point of the shape to another, given as fractions of its size (top-leading is (0, 0),
 // bottom-trailing is (1, 1)). Resolved at paint time, like every tint.
@@ -88,6 +90,12 @@ public:
     void setText(const QString& text, const QFont& font, const Tint& tint);
     void setFill(const Tint& fill);
     void setGradientFill(const Tint& start, const Tint& end, QPointF from = {0, 0}, QPointF to = {1, 1});
+    // An outline inside the shape (none at width 0).
+    void setStroke(const Tint& stroke, qreal width);
+    // A spinning activity indicator of `diameter` points in the middle of the tile, in place of
+    // the symbol or text, while `shows` is true.
+    void setShowsActivity(bool shows, qreal diameter = 20);
+    bool showsActivity() const;
 
     QString symbolName() const { return m_symbol; }
     QString text() const { return m_text; }
@@ -108,6 +116,9 @@ private:
     QString m_text;
     QFont m_font;
     Tint m_contentTint = Tint(Role::primary);
+    Tint m_stroke = Tint(Role::clear);
+    qreal m_strokeWidth = 0;
+    ActivityIndicator* m_activity = nullptr;
 };
 
 // A small capsule with a text on the text's colour at low opacity: status badges and pills.

@@ -30,6 +30,7 @@ public:
     }
     QString terminalDescription() const override { return QStringLiteral("fake terminal"); }
     void revealFolder(const QString& path) override { revealed.append(path); }
+    void openURL(const QUrl& url) override { openedURLs.append(url); }
     DeveloperToolsItem developerToolsItem() const override { return developerTools; }
     void startDeveloperToolsInstaller() override { ++installersStarted; }
     QString officialNodeInstallCommand() const override { return nodeInstallCommand; }
@@ -47,6 +48,7 @@ public:
     int installersStarted = 0;
     QList<QPair<QString, QString>> terminals;
     QStringList revealed;
+    QList<QUrl> openedURLs;
 };
 
 } // namespace qf::test

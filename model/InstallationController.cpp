@@ -1,0 +1,116 @@
+#include "InstallationController.h"
+
+#include "InstallationState.h"
+
+#include <QCoro/QCoroSignal>
+#include <QPointer>
+
+namespace qf {
+
+InstallationController::InstallationController(InstallationState& state, SetupService& installer, QObject* parent)
+    : QObject(parent), m_state(state), m_installer(installer)
+{
+}
+
+QCoro::Task<> InstallationController::startInstallation()
+{
+    // From here on only this attempt's reports reach the state.
+    const int attempt = ++m_attempt;
+    const std::optional<CLITool> tool = m_state.selectedTool();
+    if (!tool) {
+        setInstalling(false);
+        setComplete(false);
+        co_return;
+    }
+    setInstalling(true);
+    setComplete(false);
+    m_state.setErrorMessage(std::nullopt);
+    m_state.setInstallationOutput(QString());
+
+    // A run of an earlier attempt may still be going on (its screen went away); two
+    // installations at once would fight over the same files.
+    while (m_running) {
+        co_await qCoro(this, &InstallationController::runEnded);
+        if (!isCurrent(attempt))
+            co_return;
+    }
+
+    m_running = true;
+    const QList<SetupStep> steps = co_await m_installer.setupSteps(*tool);
+    if (!isCurrent(attempt)) {
+        endRun();
+        co_return;
+    }
+    m_state.setSetupSteps(steps);
+
+    // The callbacks are named before the run: GCC 12 destroys some temporaries of a co_await
+    // expression twice.
+    const QPointer<InstallationController> self(this);
+    const SetupService::StepUpdate onStepUpdate = [self, attempt](SetupStepType type, const SetupStepStatus& status,
+                                                                  const std::optional<QString>& details) {
+        if (self && self->isCurrent(attempt))
+            self->updateStep(type, status, details);
+    };
+    const SetupService::Output onOutput = [self, attempt](const QString& text) {
+        if (self && self->isCurrent(attempt))
+            self->m_state.appendInstallationOutput(text);
+    };
+    const Result<void> result = co_await m_installer.runSetup(*tool, onStepUpdate, onOutput);
+    if (isCurrent(attempt)) {
+        setInstalling(false);
+        if (result) {
+            setComplete(true);
+        } else {
+            markUnfinishedStepsFailed();
+            m_state.setErrorMessage(result.error().errorDescription());
+        }
+    }
+    endRun();
+}
+
+void InstallationController::endRun()
+{
+    m_running = false;
+    Q_EMIT runEnded();
+}
+
+void InstallationController::updateStep(SetupStepType type, const SetupStepStatus& status,
+                                        const std::optional<QString>& details)
+{
+    QList<SetupStep> steps = m_state.setupSteps();
+    const auto step = std::find_if(steps.begin(), steps.end(),
+                                   [type](const SetupStep& candidate) { return candidate.type == type; });
+    if (step == steps.end())
+        return;
+    step->status = status;
+    if (details)
+        step->details = details;
+    m_state.setSetupSteps(steps);
+}
+
+void InstallationController::markUnfinishedStepsFailed()
+{
+    const QList<SetupStep> steps = m_state.setupSteps();
+    for (const SetupStep& step : steps) {
+        if (step.status.kind() == SetupStepStatus::inProgress)
+            updateStep(step.type, SetupStepStatus::failure(tr("Failed")), std::nullopt);
+    }
+}
+
+void InstallationController::setInstalling(bool installing)
+{
+    if (m_isInstalling == installing)
+        return;
+    m_isInstalling = installing;
+    Q_EMIT isInstallingChanged();
+}
+
+void InstallationController::setComplete(bool complete)
+{
+    if (m_installationComplete == complete)
+        return;
+    m_installationComplete = complete;
+    Q_EMIT installationCompleteChanged();
+}
+
+} // namespace qf

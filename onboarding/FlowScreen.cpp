@@ -1,0 +1,96 @@
+#include "FlowScreen.h"
+
+#include "Layout.h"
+#include "Theme.h"
+
+#include <QPainter>
+#include <QShortcut>
+
+namespace qf {
+
+FlowScreen::FlowScreen(const QString& objectName, QWidget* parent) : QWidget(parent)
+{
+    using namespace ui;
+    setObjectName(objectName);
+    auto* root = vstack(this, 0);
+    m_scroll = new ScrollView;
+    m_scroll->setObjectName(QStringLiteral("flowScroll"));
+    root->addWidget(m_scroll, 1);
+
+    auto* bar = new QWidget;
+    bar->setObjectName(QStringLiteral("bottomBar"));
+    m_bar = hstack(bar, 8, QMargins(24, 16, 24, 16));
+    root->addWidget(bar);
+
+    // Return belongs to the main button, as in a dialog: Space still presses a focused one.
+    for (const int key : {Qt::Key_Return, Qt::Key_Enter}) {
+        auto* shortcut = new QShortcut(QKeySequence(key), this);
+        shortcut->setContext(Qt::WindowShortcut);
+        connect(shortcut, &QShortcut::activated, this, &FlowScreen::pressDefaultButton);
+    }
+}
+
+QVBoxLayout* FlowScreen::makeColumn(int spacing, int topPadding)
+{
+    return ui::vstack(m_scroll->content(), spacing, QMargins(0, topPadding, 0, 0));
+}
+
+void FlowScreen::pressDefaultButton()
+{
+    if (m_default && m_default->isVisible() && m_default->isEnabled())
+        m_default->animateClick();
+}
+
+void FlowScreen::paintEvent(QPaintEvent*)
+{
+    QPainter(this).fillRect(rect(), ui::Theme::color(ui::Role::windowBackground));
+}
+
+namespace flow {
+
+ui::Button* mainButton(const QString& title, const QString& objectName)
+{
+    auto* button = new ui::Button(title, ui::Button::Style::prominent, ui::Button::Size::large);
+    button->setObjectName(objectName);
+    button->setTitleFont(ui::Theme::font(13, QFont::DemiBold));
+    return button;
+}
+
+ui::Button* backButton(ui::Button::Style style)
+{
+    auto* button = new ui::Button(FlowScreen::tr("Back"), style,
+                                  style == ui::Button::Style::plain ? ui::Button::Size::regular
+                                                                    : ui::Button::Size::large);
+    button->setObjectName(QStringLiteral("backButton"));
+    button->setLeadingSymbol(QStringLiteral("chevron.left"), 12, ui::SymbolWeight::semibold);
+    button->setSpacing(4);
+    if (style == ui::Button::Style::plain)
+        button->setContentTint(ui::Tint(ui::Role::secondary));
+    return button;
+}
+
+} // namespace flow
+
+ToolTile::ToolTile(QWidget* parent)
+    : ui::IconTile(QSize(56, 56), ui::Shape::rounded(14), ui::Tint(ui::Role::clear), parent)
+{
+    setObjectName(QStringLiteral("toolTile"));
+}
+
+void ToolTile::present(CLITool tool, Content content)
+{
+    using namespace ui;
+    m_content = content;
+    const QColor brand = tool.brandColor();
+    setFill(Tint(brand, 0.15));
+    switch (content) {
+    case Content::symbol: setSymbol(tool.iconName(), 24, Tint(brand)); break;
+    case Content::spinner: break;
+    case Content::checkmark:
+        setSymbol(QStringLiteral("checkmark"), 24, Tint(Role::green), int(SymbolWeight::bold));
+        break;
+    }
+    setShowsActivity(content == Content::spinner);
+}
+
+} // namespace qf

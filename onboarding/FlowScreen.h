@@ -1,0 +1,74 @@
+#pragma once
+
+#include "Button.h"
+#include "CLITool.h"
+#include "RoundedCard.h"
+
+#include <QPointer>
+#include <QWidget>
+
+class QBoxLayout;
+class QHBoxLayout;
+class QVBoxLayout;
+
+namespace qf {
+
+namespace ui {
+class ScrollView;
+} // namespace ui
+
+// The frame the screens of the install flow share: on the window background, content that
+// scrolls above a bottom bar that stays where it is, however small the window. Return presses
+// the screen's main button while it is shown and enabled, wherever the focus is.
+class FlowScreen : public QWidget {
+    Q_OBJECT
+
+public:
+    ui::ScrollView* scrollView() const { return m_scroll; }
+    // The button Return presses, if any.
+    ui::Button* defaultButton() const { return m_default; }
+
+protected:
+    explicit FlowScreen(const QString& objectName, QWidget* parent = nullptr);
+
+    // The scrolling column: centred content, `spacing` apart, with `topPadding` above it.
+    QVBoxLayout* makeColumn(int spacing, int topPadding);
+    // The bottom bar: 24 points from the sides, 16 above and below.
+    QHBoxLayout* bottomBar() const { return m_bar; }
+    void setDefaultButton(ui::Button* button) { m_default = button; }
+
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void pressDefaultButton();
+
+    ui::ScrollView* m_scroll;
+    QHBoxLayout* m_bar;
+    QPointer<ui::Button> m_default;
+};
+
+// The buttons of the flow's bars.
+namespace flow {
+// Filled with the accent, large, semibold title.
+ui::Button* mainButton(const QString& title, const QString& objectName);
+// "Back" with a chevron before it, in the given style.
+ui::Button* backButton(ui::Button::Style style);
+} // namespace flow
+
+// The tool's tile at the top of the system check and the installation: its symbol on its
+// brand colour, or a spinner while something runs, or a green check mark once done.
+class ToolTile : public ui::IconTile {
+    Q_OBJECT
+
+public:
+    enum class Content { symbol, spinner, checkmark };
+
+    explicit ToolTile(QWidget* parent = nullptr);
+    void present(CLITool tool, Content content);
+    Content content() const { return m_content; }
+
+private:
+    Content m_content = Content::symbol;
+};
+
+} // namespace qf

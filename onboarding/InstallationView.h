@@ -1,0 +1,96 @@
+#pragma once
+
+#include "FlowScreen.h"
+#include "SetupModel.h"
+
+namespace qf {
+
+class CopiedToastPresenter;
+class InstallationController;
+class InstallationState;
+
+namespace ui {
+class Label;
+class LogView;
+class SymbolView;
+} // namespace ui
+
+// One setup step: its status icon (an empty ring, a spinner, a check mark, an arrow or a
+// cross), its title and details, and its status in the status's colour.
+class SetupStepRow : public ui::RoundedCard {
+    Q_OBJECT
+
+public:
+    explicit SetupStepRow(const SetupStep& step, QWidget* parent = nullptr);
+
+    const SetupStep& step() const { return m_step; }
+    void setStep(const SetupStep& step);
+
+private:
+    SetupStep m_step;
+    ui::IconTile* m_icon;
+    ui::Label* m_title;
+    ui::Label* m_details;
+    ui::Label* m_status;
+};
+
+// The steps of an installation, one row each, in list order.
+class SetupProgressView : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit SetupProgressView(QWidget* parent = nullptr);
+
+    void setSteps(const QList<SetupStep>& steps);
+    QList<SetupStepRow*> rows() const;
+};
+
+// The installation: starts a run for the chosen tool as soon as it appears and shows the steps
+// with their live status, the log behind "Details" (with "Copy Log"), and at the end either
+// "Installation Complete!" with "Continue" or the error with "Try Again". The run itself
+// belongs to the controller, so leaving the screen never stops it.
+class InstallationView : public FlowScreen {
+    Q_OBJECT
+
+public:
+    InstallationView(InstallationState& state, InstallationController& controller, QWidget* parent = nullptr);
+
+    bool showDetails() const { return m_showDetails; }
+    SetupProgressView* progressView() const { return m_progress; }
+    ui::LogView* logView() const { return m_log; }
+    CopiedToastPresenter* toastPresenter() const { return m_toast; }
+
+protected:
+    void showEvent(QShowEvent* event) override;
+
+private:
+    void start();
+    void render();
+    // Brings the log up to the state's output: appends what is new, starts over when the
+    // output was cleared or replaced.
+    void syncLog();
+    void setShowDetails(bool show);
+    void copyLog();
+
+    InstallationState& m_state;
+    InstallationController& m_controller;
+    bool m_started = false;
+    bool m_showDetails = false;
+    qsizetype m_shownLength = 0;
+
+    ToolTile* m_tile = nullptr;
+    ui::Label* m_title = nullptr;
+    ui::Label* m_subtitle = nullptr;
+    SetupProgressView* m_progress;
+    QWidget* m_logSection;
+    ui::RowButton* m_detailsToggle;
+    ui::SymbolView* m_detailsChevron;
+    ui::LogView* m_log;
+    ui::RoundedCard* m_errorCard;
+    ui::Label* m_errorText;
+    ui::Button* m_back;
+    ui::Button* m_main;
+    CopiedToastPresenter* m_toast;
+};
+
+} // namespace qf

@@ -1,0 +1,273 @@
+#include "SystemCheckView.h"
+
+#include "InstallationState.h"
+#include "Services.h"
+
+#include "ActivityIndicator.h"
+#include "Expander.h"
+#include "Label.h"
+#include "Layout.h"
+#include "Symbol.h"
+
+#include <QCoro/QCoroTask>
+
+namespace qf {
+
+using namespace ui;
+
+namespace {
+
+struct SystemCheck {
+    bool toolInstalled = false;
+    std::optional<QString> version;
+    QList<RequirementStatus> requirements;
+};
+
+// Looks for the tool on the search path; when it is not there, checks what installing it needs.
+QCoro::Task<SystemCheck> checkSystem(CLITool tool, ShellRunner& shell, SystemDetector& detector)
+{
+    SystemCheck check;
+    const Result<QString> found = co_await shell.run(QStringLiteral("which ") + tool.commandName());
+    if (found) {
+        check.toolInstalled = true;
+        const std::optional<QString> version = co_await detector.getToolVersion(tool);
+        check.version = version;
+    } else {
+        const QList<RequirementStatus> requirements = co_await detector.checkAllRequirements(tool);
+        check.requirements = requirements;
+    }
+    co_return check;
+}
+
+} // namespace
+
+RequirementRow::RequirementRow(const RequirementStatus& status, const SystemWording& wording, QWidget* parent)
+    : RoundedCard(parent)
+{
+    const QString title = status.requirement.title(wording);
+    setObjectName(QStringLiteral("requirementRow.") + status.id());
+    setAccessibleName(title);
+    setCornerRadius(12);
+    setFill(Tint(Role::controlBackground));
+    const Tint mark(status.isMet ? Role::green : Role::orange);
+    auto* column = vstack(this, 0, QMargins(16, 16, 16, 16));
+
+    auto* row = hstack(12);
+    auto* circle = new IconTile(QSize(36, 36), Shape::circle(), mark.withOpacity(0.15));
+    circle->setObjectName(QStringLiteral("requirementMark"));
+    circle->setSymbol(status.isMet ? QStringLiteral("checkmark") : QStringLiteral("exclamationmark"), 14, mark,
+                      int(SymbolWeight::bold));
+    row->addWidget(circle, 0, Qt::AlignVCenter);
+    auto* text = vstack(2);
+    auto* titleLabel = new Label(title, Theme::headline());
+    titleLabel->setObjectName(QStringLiteral("requirementTitle"));
+    text->addWidget(titleLabel);
+    auto* details = new Label(status.details, Theme::caption(), Tint(Role::secondary));
+    details->setObjectName(QStringLiteral("requirementDetails"));
+    details->setWrapping(true);
+    text->addWidget(details);
+    row->addLayout(text);
+
+    m_help = new Button(QString(), Button::Style::plain);
+    m_help->setObjectName(QStringLiteral("helpButton"));
+    m_help->setAccessibleName(tr("About %1").arg(title));
+    m_help->setToolTip(tr("What is this?"));
+    m_help->setLeadingSymbol(QStringLiteral("questionmark.circle"), 10);
+    m_help->setContentTint(Tint(Role::secondary));
+    connect(m_help, &QAbstractButton::clicked, this, [this] {
+        m_showHelp = !m_showHelp;
+        render(true);
+    });
+    row->addWidget(m_help, 0, Qt::AlignVCenter);
+    row->addStretch(1);
+    auto* word = new Label(status.isMet ? tr("Ready") : tr("Will install"), Theme::caption(), mark);
+    word->setObjectName(QStringLiteral("requirementStatus"));
+    row->addWidget(word, 0, Qt::AlignVCenter);
+    column->addLayout(row);
+    setAccessibleDescription(status.details + QStringLiteral(", ") + word->text());
+
+    // The explanation, and the remedy when something has to change.
+    auto* help = new QWidget;
+    help->setObjectName(QStringLiteral("requirementHelp"));
+    auto* helpColumn = vstack(help, 6);
+    helpColumn->addWidget(divider(8));
+    auto* explanation = new Label(status.requirement.helpText(wording), Theme::caption(), Tint(Role::secondary));
+    explanation->setObjectName(QStringLiteral("requirementExplanation"));
+    explanation->setWrapping(true);
+    helpColumn->addWidget(explanation);
+    if (!status.isMet) {
+        auto* remedy = hstack(6);
+        remedy->addWidget(new SymbolView(QStringLiteral("hammer"), 10, Tint(Role::orange)), 0, Qt::AlignTop);
+        auto* fix = new Label(status.requirement.fixSuggestion(wording), Theme::caption(), Tint(Role::orange));
+        fix->setObjectName(QStringLiteral("requirementFix"));
+        fix->setWrapping(true);
+        remedy->addWidget(fix, 1);
+        helpColumn->addLayout(remedy);
+    }
+    m_helpArea = new Expander(help, motion::defaultDurationMs, motion::easeInOut());
+    column->addWidget(m_helpArea);
+    render(false);
+}
+
+void RequirementRow::render(bool animated)
+{
+    m_helpArea->setExpanded(m_showHelp, animated);
+    m_help->setAccessibleDescription(m_showHelp ? tr("Expanded") : tr("Collapsed"));
+}
+
+SystemCheckView::SystemCheckView(InstallationState& state, Services& services, QWidget* parent)
+    : FlowScreen(QStringLiteral("systemCheckView"), parent), m_state(state), m_services(services)
+{
+    QVBoxLayout* column = makeColumn(24, 32);
+    const std::optional<CLITool> tool = m_state.selectedTool();
+    if (tool) {
+        auto* header = vstack(12);
+        auto* tile = new ToolTile;
+        tile->present(*tool, ToolTile::Content::symbol);
+        header->addWidget(tile, 0, Qt::AlignHCenter);
+        auto* title = new Label(tr("System Check"), Theme::font(17, QFont::Bold));
+        title->setObjectName(QStringLiteral("systemCheckTitle"));
+        title->setAlignment(Qt::AlignHCenter);
+        header->addWidget(title);
+        auto* subtitle = new Label(tr("Checking requirements for ") + tool->displayName(), Theme::body(),
+                                   Tint(Role::secondary));
+        subtitle->setAlignment(Qt::AlignHCenter);
+        subtitle->setWrapping(true);
+        header->addWidget(subtitle);
+        column->addLayout(header);
+    }
+
+    // Checking.
+    m_checking = new QWidget;
+    m_checking->setObjectName(QStringLiteral("checkingRow"));
+    auto* checking = vstack(m_checking, 0);
+    auto* spinner = new ActivityIndicator(24);
+    auto* spinnerBox = vstack(0, QMargins(32, 32, 32, 32));
+    spinnerBox->addWidget(spinner, 0, Qt::AlignHCenter);
+    checking->addLayout(spinnerBox);
+    auto* checkingText = new Label(tr("Checking system requirements..."), Theme::body(), Tint(Role::secondary));
+    checkingText->setAlignment(Qt::AlignHCenter);
+    checking->addWidget(checkingText);
+    column->addWidget(m_checking);
+
+    // Already installed.
+    m_installed = new QWidget;
+    m_installed->setObjectName(QStringLiteral("alreadyInstalled"));
+    auto* installed = vstack(m_installed, 12, QMargins(20, 20, 20, 20));
+    installed->addWidget(new SymbolView(QStringLiteral("checkmark.circle.fill"), 40, Tint(Role::green)), 0,
+                         Qt::AlignHCenter);
+    m_installedTitle = new Label(QString(), Theme::headline());
+    m_installedTitle->setObjectName(QStringLiteral("alreadyInstalledTitle"));
+    m_installedTitle->setAlignment(Qt::AlignHCenter);
+    m_installedTitle->setWrapping(true);
+    installed->addWidget(m_installedTitle);
+    m_installedVersionLabel = new Label(QString(), Theme::body(), Tint(Role::secondary));
+    m_installedVersionLabel->setObjectName(QStringLiteral("installedVersion"));
+    m_installedVersionLabel->setAlignment(Qt::AlignHCenter);
+    installed->addWidget(m_installedVersionLabel);
+    auto* ready = new Label(tr("You're ready to use it in Terminal."), Theme::body(), Tint(Role::secondary));
+    ready->setAlignment(Qt::AlignHCenter);
+    ready->setWrapping(true);
+    installed->addWidget(ready);
+    column->addWidget(m_installed);
+
+    // The requirements, one card each, 24 points from the sides.
+    m_requirementList = new QWidget;
+    m_requirementList->setObjectName(QStringLiteral("requirementList"));
+    vstack(m_requirementList, 16, QMargins(24, 0, 24, 0));
+    column->addWidget(m_requirementList);
+    column->addStretch(1);
+
+    auto* back = flow::backButton(Button::Style::bordered);
+    connect(back, &QAbstractButton::clicked, this, [this] {
+        m_state.reset();
+        m_state.setCurrentStep(InstallationStep::home);
+    });
+    bottomBar()->addWidget(back);
+    bottomBar()->addStretch(1);
+    m_main = flow::mainButton(QString(), QStringLiteral("mainButton"));
+    connect(m_main, &QAbstractButton::clicked, this, [this] {
+        if (m_toolAlreadyInstalled)
+            m_state.setCurrentStep(InstallationStep::terminal);
+        else if (m_state.canProceed())
+            m_state.goToNextStep();
+    });
+    bottomBar()->addWidget(m_main);
+    setDefaultButton(m_main);
+
+    connect(&m_state, &InstallationState::requirementsChanged, this, [this] {
+        rebuildRequirementRows();
+        render();
+    });
+    rebuildRequirementRows();
+    render();
+}
+
+QList<RequirementRow*> SystemCheckView::requirementRows() const
+{
+    return m_requirementList->findChildren<RequirementRow*>(Qt::FindDirectChildrenOnly);
+}
+
+void SystemCheckView::showEvent(QShowEvent* event)
+{
+    FlowScreen::showEvent(event);
+    if (!m_checkStarted) {
+        m_checkStarted = true;
+        startCheck();
+    }
+}
+
+void SystemCheckView::startCheck()
+{
+    const std::optional<CLITool> tool = m_state.selectedTool();
+    if (!tool)
+        return;
+    m_isChecking = true;
+    render();
+    QCoro::connect(checkSystem(*tool, m_services.runner, m_services.detector), this, [this](const SystemCheck& check) {
+        if (check.toolInstalled) {
+            m_installedVersion = check.version;
+            m_toolAlreadyInstalled = true;
+            m_state.setToolAlreadyInstalled(true);
+        } else {
+            m_state.setRequirements(check.requirements);
+        }
+        m_isChecking = false;
+        render();
+        Q_EMIT checkFinished();
+    });
+}
+
+void SystemCheckView::rebuildRequirementRows()
+{
+    qDeleteAll(requirementRows());
+    const SystemWording& wording = m_services.platform.wording();
+    for (const RequirementStatus& status : m_state.requirements())
+        m_requirementList->layout()->addWidget(new RequirementRow(status, wording));
+}
+
+void SystemCheckView::render()
+{
+    const std::optional<CLITool> tool = m_state.selectedTool();
+    const bool installed = !m_isChecking && m_toolAlreadyInstalled;
+    m_checking->setVisible(m_isChecking);
+    m_installed->setVisible(installed);
+    m_requirementList->setVisible(!m_isChecking && !m_toolAlreadyInstalled);
+
+    m_installedTitle->setText((tool ? tool->displayName() : tr("Tool")) + tr(" is already installed!"));
+    m_installedVersionLabel->setVisible(m_installedVersion.has_value());
+    m_installedVersionLabel->setText(tr("Version: ") + m_installedVersion.value_or(QString()));
+
+    if (m_toolAlreadyInstalled) {
+        m_main->setTitle(tr("Open Terminal"));
+        m_main->setEnabled(true);
+    } else {
+        // Nothing is installed before the check has said what the machine needs.
+        const bool canProceed = m_state.canProceed();
+        m_main->setTitle(canProceed ? tr("Install") : tr("Requirements Not Met"));
+        m_main->setEnabled(canProceed && !m_isChecking);
+    }
+    m_main->setAccessibleName(m_main->title());
+}
+
+} // namespace qf

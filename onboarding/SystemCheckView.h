@@ -1,0 +1,79 @@
+#pragma once
+
+#include "FlowScreen.h"
+#include "SetupModel.h"
+
+#include <optional>
+
+namespace qf {
+
+class InstallationState;
+class Services;
+
+namespace ui {
+class Expander;
+class Label;
+} // namespace ui
+
+// One requirement and its state: a green check mark or an orange exclamation mark, the title
+// and what was found, "Ready" or "Will install", and a help button that opens an explanation
+// (with the remedy, when the requirement is not met).
+class RequirementRow : public ui::RoundedCard {
+    Q_OBJECT
+
+public:
+    RequirementRow(const RequirementStatus& status, const SystemWording& wording, QWidget* parent = nullptr);
+
+    bool showsHelp() const { return m_showHelp; }
+    ui::Button* helpButton() const { return m_help; }
+
+private:
+    void render(bool animated);
+
+    bool m_showHelp = false;
+    ui::Button* m_help;
+    ui::Expander* m_helpArea;
+};
+
+// Whether the machine is ready for the chosen tool. On appearing it looks for the tool: found,
+// it says so and offers to open it in the terminal; not found, it lists the requirements and
+// offers the installation when nothing blocks it.
+class SystemCheckView : public FlowScreen {
+    Q_OBJECT
+
+public:
+    SystemCheckView(InstallationState& state, Services& services, QWidget* parent = nullptr);
+
+    bool isChecking() const { return m_isChecking; }
+    bool toolAlreadyInstalled() const { return m_toolAlreadyInstalled; }
+    const std::optional<QString>& installedVersion() const { return m_installedVersion; }
+    QList<RequirementRow*> requirementRows() const;
+
+Q_SIGNALS:
+    // The check has finished and its result is on screen.
+    void checkFinished();
+
+protected:
+    void showEvent(QShowEvent* event) override;
+
+private:
+    void startCheck();
+    void render();
+    void rebuildRequirementRows();
+
+    InstallationState& m_state;
+    Services& m_services;
+    bool m_checkStarted = false;
+    bool m_isChecking = false;
+    bool m_toolAlreadyInstalled = false;
+    std::optional<QString> m_installedVersion;
+
+    QWidget* m_checking;
+    QWidget* m_installed;
+    ui::Label* m_installedTitle;
+    ui::Label* m_installedVersionLabel;
+    QWidget* m_requirementList;
+    ui::Button* m_main;
+};
+
+} // namespace qf

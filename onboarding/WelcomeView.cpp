@@ -1,0 +1,269 @@
+#include "WelcomeView.h"
+
+#include "InstallationState.h"
+#include "Platform.h"
+
+#include "Expander.h"
+#include "ImageView.h"
+#include "Label.h"
+#include "Layout.h"
+#include "Symbol.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+
+namespace qf {
+
+using namespace ui;
+
+namespace {
+
+// Selection and the explainer open and close with the design's spring.
+Expander* springExpander(QWidget* content) { return new Expander(content, motion::springDurationMs, motion::spring()); }
+
+} // namespace
+
+FeatureRow::FeatureRow(const QString& icon, const QString& title, const QString& description, QWidget* parent)
+    : QWidget(parent)
+{
+    setObjectName(QStringLiteral("featureRow"));
+    setAccessibleName(title);
+    setAccessibleDescription(description);
+    auto* row = hstack(this, 12);
+    auto* symbol = new SymbolView(icon, 16, Tint(Role::blue));
+    symbol->setFixedWidth(24);
+    row->addWidget(symbol, 0, Qt::AlignTop);
+    auto* column = vstack(2);
+    column->addWidget(new Label(title, Theme::font(11, QFont::Bold)));
+    auto* text = new Label(description, Theme::caption(), Tint(Role::secondary));
+    text->setWrapping(true);
+    column->addWidget(text);
+    row->addLayout(column, 1);
+}
+
+WhatIsAICodingCard::WhatIsAICodingCard(QWidget* parent) : RoundedCard(parent)
+{
+    setObjectName(QStringLiteral("whatIsAICodingCard"));
+    setCornerRadius(12);
+    setFill(Tint(Role::blue, 0.05));
+    setStroke(Tint(Role::blue, 0.2), 1);
+    auto* column = vstack(this, 0, QMargins(16, 16, 16, 16));
+
+    // The header is one plain button across the card: the question, then the chevron.
+    m_header = new RowButton;
+    m_header->setObjectName(QStringLiteral("whatIsAIHeader"));
+    m_header->setAccessibleName(tr("New to AI Coding?"));
+    m_header->addWidget(new SymbolView(QStringLiteral("questionmark.circle.fill"), 13, Tint(Role::blue)), 0,
+                        Qt::AlignVCenter);
+    m_header->addWidget(new Label(tr("New to AI Coding?"), Theme::headline()), 0, Qt::AlignVCenter);
+    m_header->addStretch(1);
+    m_chevron = new SymbolView(QStringLiteral("chevron.down"), 10, Tint(Role::secondary));
+    m_header->addWidget(m_chevron, 0, Qt::AlignVCenter);
+    connect(m_header, &QAbstractButton::clicked, this, &WhatIsAICodingCard::toggled);
+    column->addWidget(m_header);
+
+    auto* body = new QWidget;
+    body->setObjectName(QStringLiteral("whatIsAIBody"));
+    auto* bodyColumn = vstack(body, 12, QMargins(0, 12, 0, 0));
+    auto* intro = new Label(tr("AI coding assistants are tools that help you write, understand, and debug code using "
+                               "artificial intelligence."),
+                            Theme::callout(), Tint(Role::secondary));
+    intro->setWrapping(true);
+    bodyColumn->addWidget(intro);
+    struct Feature {
+        const char* icon;
+        QString title;
+        QString description;
+    };
+    const Feature features[] = {
+        {"bubble.left.and.text.bubble.right", tr("Conversational"),
+         tr("Describe what you want in plain English and the AI writes the code")},
+        {"doc.text.magnifyingglass", tr("Code Understanding"),
+         tr("Ask questions about any codebase and get clear explanations")},
+        {"wrench.and.screwdriver", tr("Debugging Help"),
+         tr("Paste error messages and get solutions, not just explanations")},
+        {"graduationcap", tr("Learning Partner"),
+         tr("Perfect for learning new languages or frameworks at your own pace")},
+    };
+    for (const Feature& feature : features)
+        bodyColumn->addWidget(new FeatureRow(QString::fromLatin1(feature.icon), feature.title, feature.description));
+    auto* reassurance = new Label(
+        tr("No prior coding experience? That's okay! AI assistants can help you learn as you build."), Theme::caption(),
+        Tint(Role::secondary));
+    reassurance->setWrapping(true);
+    reassurance->setContentsMargins(0, 4, 0, 0);
+    bodyColumn->addWidget(reassurance);
+    m_body = springExpander(body);
+    column->addWidget(m_body);
+    setExpanded(false, false);
+}
+
+bool WhatIsAICodingCard::isExpanded() const { return m_body->isExpanded(); }
+
+void WhatIsAICodingCard::setExpanded(bool expanded, bool animated)
+{
+    m_chevron->setName(expanded ? QStringLiteral("chevron.up") : QStringLiteral("chevron.down"));
+    m_header->setAccessibleDescription(expanded ? tr("Expanded") : tr("Collapsed"));
+    m_body->setExpanded(expanded, animated);
+}
+
+ToolCard::ToolCard(CLITool tool, Platform& platform, QWidget* parent)
+    : RoundedCard(parent),
+      m_tool(tool),
+      m_stroke(this, motion::springDurationMs, motion::spring(),
+               [this](qreal value) { setStroke(Tint(m_tool.brandColor(), value), 2); })
+{
+    setObjectName(QStringLiteral("toolCard.") + tool.rawValue());
+    setAccessibleName(tool.displayName());
+    setCornerRadius(12);
+    setFill(Tint(Role::controlBackground));
+    setFocusPolicy(Qt::StrongFocus);
+    setCursor(Qt::PointingHandCursor);
+    auto* column = vstack(this, 0, QMargins(16, 16, 16, 16));
+
+    auto* top = hstack(16);
+    auto* logo = new ImageView(tool.logoImageName(), 44);
+    logo->setFixedImageSize(QSize(44, 44));
+    logo->setCornerRadius(10);
+    top->addWidget(logo, 0, Qt::AlignVCenter);
+    auto* text = vstack(4);
+    auto* nameRow = hstack(8);
+    auto* name = new Label(tool.displayName(), Theme::headline());
+    name->setObjectName(QStringLiteral("toolName"));
+    nameRow->addWidget(name, 0, Qt::AlignBaseline);
+    nameRow->addWidget(new Label(tr("by ") + tool.provider(), Theme::caption(), Tint(Role::secondary)), 0,
+                       Qt::AlignBaseline);
+    nameRow->addStretch(1);
+    text->addLayout(nameRow);
+    auto* description = new Label(tool.toolDescription(), Theme::caption(), Tint(Role::secondary));
+    description->setWrapping(true, 2);
+    text->addWidget(description);
+    top->addLayout(text, 1);
+    m_check = new SymbolView(QStringLiteral("checkmark.circle.fill"), 17, Tint(tool.brandColor()));
+    m_check->setObjectName(QStringLiteral("selectedMark"));
+    top->addWidget(m_check, 0, Qt::AlignVCenter);
+    column->addLayout(top);
+
+    // What the tool does, and where to read more, while it is the chosen one.
+    auto* details = new QWidget;
+    details->setObjectName(QStringLiteral("toolDetails"));
+    auto* detailsColumn = vstack(details, 8);
+    detailsColumn->addWidget(divider(12 - 8)); // the stack's spacing makes up the rest of the 12
+    for (const QString& feature : tool.features()) {
+        auto* row = hstack(8);
+        row->addWidget(new SymbolView(QStringLiteral("checkmark.circle.fill"), 10, Tint(Role::green)), 0,
+                       Qt::AlignVCenter);
+        auto* line = new Label(feature, Theme::caption(), Tint(Role::secondary));
+        line->setWrapping(true);
+        row->addWidget(line, 1);
+        detailsColumn->addLayout(row);
+    }
+    auto* learnMore = new Button(tr("Learn more"), Button::Style::link);
+    learnMore->setObjectName(QStringLiteral("learnMoreButton"));
+    learnMore->setAccessibleName(tr("Learn more about %1").arg(tool.displayName()));
+    learnMore->setTitleFont(Theme::caption());
+    learnMore->setTrailingSymbol(QStringLiteral("arrow.up.right"), 10);
+    learnMore->setSpacing(4);
+    learnMore->setContentPadding(0, 0);
+    connect(learnMore, &QAbstractButton::clicked, this, [&platform, tool] { platform.openURL(tool.docsURL()); });
+    auto* learnRow = hstack(0, QMargins(0, 4, 0, 0));
+    learnRow->addWidget(learnMore);
+    learnRow->addStretch(1);
+    detailsColumn->addLayout(learnRow);
+    m_details = springExpander(details);
+    column->addWidget(m_details);
+
+    setSelected(false, false);
+}
+
+void ToolCard::setSelected(bool selected, bool animated)
+{
+    m_selected = selected;
+    m_check->setVisible(selected);
+    m_details->setExpanded(selected, animated);
+    m_stroke.setTarget(selected ? 1.0 : 0.0, animated);
+    setAccessibleDescription(selected ? tr("Selected") : QString());
+}
+
+void ToolCard::mousePressEvent(QMouseEvent* event)
+{
+    m_pressed = event->button() == Qt::LeftButton;
+    RoundedCard::mousePressEvent(event);
+}
+
+void ToolCard::mouseReleaseEvent(QMouseEvent* event)
+{
+    const bool click = m_pressed && event->button() == Qt::LeftButton && rect().contains(event->position().toPoint());
+    m_pressed = false;
+    if (click)
+        Q_EMIT tapped();
+    RoundedCard::mouseReleaseEvent(event);
+}
+
+void ToolCard::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Space && event->modifiers() == Qt::NoModifier) {
+        Q_EMIT tapped();
+        return;
+    }
+    RoundedCard::keyPressEvent(event);
+}
+
+WelcomeView::WelcomeView(InstallationState& state, Platform& platform, QWidget* parent)
+    : FlowScreen(QStringLiteral("welcomeView"), parent), m_state(state)
+{
+    QVBoxLayout* column = makeColumn(24, 24);
+
+    auto* header = vstack(12);
+    auto* logo = new ImageView(QStringLiteral("QuillforgeLogo"), 80);
+    logo->setObjectName(QStringLiteral("quillforgeLogo"));
+    logo->setAccessibleName(tr("Quillforge"));
+    header->addWidget(logo, 0, Qt::AlignHCenter);
+    auto* subtitle = new Label(tr("Set up AI coding assistants the easy way"), Theme::body(), Tint(Role::secondary));
+    subtitle->setAlignment(Qt::AlignHCenter);
+    subtitle->setWrapping(true);
+    header->addWidget(subtitle);
+    column->addLayout(header);
+
+    m_explainer = new WhatIsAICodingCard;
+    connect(m_explainer, &WhatIsAICodingCard::toggled, this, [this] {
+        m_showWhatIsAI = !m_showWhatIsAI;
+        render(true);
+    });
+    auto* explainerRow = vstack(0, QMargins(24, 0, 24, 0));
+    explainerRow->addWidget(m_explainer);
+    column->addLayout(explainerRow);
+
+    auto* list = vstack(12, QMargins(24, 0, 24, 24));
+    list->addWidget(new Label(tr("Choose a tool to install:"), Theme::headline()));
+    for (CLITool tool : CLITool::allCases()) {
+        auto* card = new ToolCard(tool, platform);
+        // Tapping the chosen card again keeps it chosen.
+        connect(card, &ToolCard::tapped, this, [this, tool] { m_state.setSelectedTool(tool); });
+        list->addWidget(card);
+        m_cards << card;
+    }
+    column->addLayout(list);
+    column->addStretch(1);
+
+    bottomBar()->addStretch(1);
+    m_continue = flow::mainButton(tr("Continue"), QStringLiteral("continueButton"));
+    m_continue->setLabelWidth(120);
+    connect(m_continue, &QAbstractButton::clicked, this, [this] { m_state.goToNextStep(); });
+    bottomBar()->addWidget(m_continue);
+    setDefaultButton(m_continue);
+
+    connect(&m_state, &InstallationState::selectedToolChanged, this, [this] { render(true); });
+    render(false);
+}
+
+void WelcomeView::render(bool animated)
+{
+    const std::optional<CLITool> selected = m_state.selectedTool();
+    for (ToolCard* card : std::as_const(m_cards))
+        card->setSelected(selected && *selected == card->tool(), animated);
+    m_explainer->setExpanded(m_showWhatIsAI, animated);
+    m_continue->setEnabled(selected.has_value());
+}
+
+} // namespace qf
