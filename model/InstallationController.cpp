@@ -14,7 +14,9 @@ InstallationController::InstallationController(InstallationState& state, SetupSe
 
 QCoro::Task<> InstallationController::startInstallation()
 {
-    // From here on only this attempt's reports reach the state.
+    // From here on only this attempt's reports reach the state. The controller normally lives
+    // as long as the window; should it go first, its attempts end at their next step.
+    const QPointer<InstallationController> self(this);
     const int attempt = ++m_attempt;
     const std::optional<CLITool> tool = m_state.selectedTool();
     if (!tool) {
@@ -31,12 +33,14 @@ QCoro::Task<> InstallationController::startInstallation()
     // installations at once would fight over the same files.
     while (m_running) {
         co_await qCoro(this, &InstallationController::runEnded);
-        if (!isCurrent(attempt))
+        if (!self || !isCurrent(attempt))
             co_return;
     }
 
     m_running = true;
     const QList<SetupStep> steps = co_await m_installer.setupSteps(*tool);
+    if (!self)
+        co_return;
     if (!isCurrent(attempt)) {
         endRun();
         co_return;
@@ -45,7 +49,6 @@ QCoro::Task<> InstallationController::startInstallation()
 
     // The callbacks are named before the run: GCC 12 destroys some temporaries of a co_await
     // expression twice.
-    const QPointer<InstallationController> self(this);
     const SetupService::StepUpdate onStepUpdate = [self, attempt](SetupStepType type, const SetupStepStatus& status,
                                                                   const std::optional<QString>& details) {
         if (self && self->isCurrent(attempt))
@@ -56,6 +59,8 @@ QCoro::Task<> InstallationController::startInstallation()
             self->m_state.appendInstallationOutput(text);
     };
     const Result<void> result = co_await m_installer.runSetup(*tool, onStepUpdate, onOutput);
+    if (!self)
+        co_return;
     if (isCurrent(attempt)) {
         setInstalling(false);
         if (result) {

@@ -66,7 +66,7 @@ AccountSetupStepRow::AccountSetupStepRow(int stepNumber, const QString& title, c
 }
 
 AccountSetupView::AccountSetupView(InstallationState& state, Platform& platform, QWidget* parent)
-    : FlowScreen(QStringLiteral("accountSetupView"), parent), m_state(state)
+    : FlowScreen(QStringLiteral("accountSetupView"), tr("Account"), parent), m_state(state)
 {
     QVBoxLayout* column = makeColumn(24, 24);
     const std::optional<CLITool> tool = m_state.selectedTool();

@@ -8,13 +8,15 @@
 
 namespace qf {
 
-FlowScreen::FlowScreen(const QString& objectName, QWidget* parent) : QWidget(parent)
+FlowScreen::FlowScreen(const QString& objectName, const QString& title, QWidget* parent) : QWidget(parent)
 {
     using namespace ui;
     setObjectName(objectName);
+    setAccessibleName(title);
     auto* root = vstack(this, 0);
     m_scroll = new ScrollView;
     m_scroll->setObjectName(QStringLiteral("flowScroll"));
+    m_scroll->setAccessibleName(title);
     root->addWidget(m_scroll, 1);
 
     auto* bar = new QWidget;

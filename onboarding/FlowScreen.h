@@ -29,7 +29,8 @@ public:
     ui::Button* defaultButton() const { return m_default; }
 
 protected:
-    explicit FlowScreen(const QString& objectName, QWidget* parent = nullptr);
+    // `title` names the screen for screen readers.
+    FlowScreen(const QString& objectName, const QString& title, QWidget* parent = nullptr);
 
     // The scrolling column: centred content, `spacing` apart, with `topPadding` above it.
     QVBoxLayout* makeColumn(int spacing, int topPadding);

@@ -141,7 +141,9 @@ void SetupProgressView::setSteps(const QList<SetupStep>& steps)
 }
 
 InstallationView::InstallationView(InstallationState& state, InstallationController& controller, QWidget* parent)
-    : FlowScreen(QStringLiteral("installationView"), parent), m_state(state), m_controller(controller)
+    : FlowScreen(QStringLiteral("installationView"), tr("Installation"), parent),
+      m_state(state),
+      m_controller(controller)
 {
     QVBoxLayout* column = makeColumn(24, 32);
     if (const std::optional<CLITool> tool = m_state.selectedTool()) {

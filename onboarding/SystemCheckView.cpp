@@ -64,7 +64,6 @@ RequirementRow::RequirementRow(const RequirementStatus& status, const SystemWord
     text->addWidget(titleLabel);
     auto* details = new Label(status.details, Theme::caption(), Tint(Role::secondary));
     details->setObjectName(QStringLiteral("requirementDetails"));
-    details->setWrapping(true);
     text->addWidget(details);
     row->addLayout(text);
 
@@ -116,7 +115,7 @@ void RequirementRow::render(bool animated)
 }
 
 SystemCheckView::SystemCheckView(InstallationState& state, Services& services, QWidget* parent)
-    : FlowScreen(QStringLiteral("systemCheckView"), parent), m_state(state), m_services(services)
+    : FlowScreen(QStringLiteral("systemCheckView"), tr("System Check"), parent), m_state(state), m_services(services)
 {
     QVBoxLayout* column = makeColumn(24, 32);
     const std::optional<CLITool> tool = m_state.selectedTool();

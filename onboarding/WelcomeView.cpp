@@ -10,7 +10,9 @@
 #include "Symbol.h"
 
 #include <QKeyEvent>
+
 #include <QMouseEvent>
+#include <algorithm>
 
 namespace qf {
 
@@ -111,7 +113,7 @@ ToolCard::ToolCard(CLITool tool, Platform& platform, QWidget* parent)
     : RoundedCard(parent),
       m_tool(tool),
       m_stroke(this, motion::springDurationMs, motion::spring(),
-               [this](qreal value) { setStroke(Tint(m_tool.brandColor(), value), 2); })
+               [this](qreal value) { setStroke(Tint(m_tool.brandColor(), std::clamp(value, 0.0, 1.0)), 2); })
 {
     setObjectName(QStringLiteral("toolCard.") + tool.rawValue());
     setAccessibleName(tool.displayName());
@@ -210,7 +212,7 @@ void ToolCard::keyPressEvent(QKeyEvent* event)
 }
 
 WelcomeView::WelcomeView(InstallationState& state, Platform& platform, QWidget* parent)
-    : FlowScreen(QStringLiteral("welcomeView"), parent), m_state(state)
+    : FlowScreen(QStringLiteral("welcomeView"), tr("Choose a Tool"), parent), m_state(state)
 {
     QVBoxLayout* column = makeColumn(24, 24);
 

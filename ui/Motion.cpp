@@ -6,6 +6,7 @@
 #include <QSequentialAnimationGroup>
 #include <QVariantAnimation>
 #include <QWidget>
+#include <algorithm>
 
 #include <cmath>
 #include <memory>
@@ -90,7 +91,7 @@ void applyLook(QWidget* widget, const Look& out, qreal progress)
 {
     SurfaceEffect* effect = SurfaceEffect::of(widget);
     const qreal rest = 1.0 - progress;
-    effect->setOpacity(out.opacity + (1.0 - out.opacity) * progress);
+    effect->setOpacity(std::clamp(out.opacity + (1.0 - out.opacity) * progress, 0.0, 1.0));
     effect->setOffset(out.offset * rest);
     effect->setScale(out.scale + (1.0 - out.scale) * progress);
 }

@@ -1,0 +1,356 @@
+#include "AccountSetupView.h"
+#include "ContentView.h"
+#include "InstallationState.h"
+#include "InstallationView.h"
+#include "Label.h"
+#include "Layout.h"
+#include "LogView.h"
+#include "MainWindow.h"
+#include "SharedComponents.h"
+#include "SystemCheckView.h"
+#include "TestMachine.h"
+#include "TestSupport.h"
+#include "WelcomeView.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QPlainTextEdit>
+#include <QPointer>
+#include <QScrollBar>
+#include <QTest>
+
+#include <memory>
+
+using namespace qf;
+
+namespace {
+
+// The real window with the real screens, working on a sandboxed machine with fake programs.
+class InstallFlowTest : public ::testing::Test, protected test::TestMachine {
+protected:
+    void SetUp() override { test::clearPreferences(); }
+
+    // The window on `step`, with `tool` chosen as the dashboard's "Install" does.
+    void open(InstallationStep step, std::optional<CLITool> tool, QSize size = {900, 700})
+    {
+        window.reset();
+        state.setSelectedTool(tool);
+        state.setCurrentStep(step);
+        window = std::make_unique<MainWindow>(state, services);
+        window->show();
+        window->resize(size);
+        QApplication::setActiveWindow(window.get());
+        test::settle();
+    }
+    QWidget* screen() const { return window->contentView()->currentScreen(); }
+    template <typename T>
+    T* screenAs() const
+    {
+        auto* shown = qobject_cast<T*>(screen());
+        EXPECT_NE(shown, nullptr) << "on " << screen()->objectName().toStdString();
+        return shown;
+    }
+    ui::Button* button(const char* name) const { return test::child<ui::Button>(screen(), QLatin1String(name)); }
+    void click(const char* name) const
+    {
+        ui::Button* target = button(name);
+        ASSERT_TRUE(target && target->isVisible() && target->isEnabled()) << name;
+        target->click();
+        test::settle();
+    }
+    QString text(const char* name) const { return test::child<QLabel>(screen(), QLatin1String(name))->text(); }
+
+    void waitForCheck() const
+    {
+        auto* check = screenAs<SystemCheckView>();
+        ASSERT_TRUE(QTest::qWaitFor([check] { return !check->isChecking(); }, 20000));
+    }
+    InstallationController& controller() const { return window->installationController(); }
+    void waitForInstallation() const
+    {
+        // The screen's attempt may wait for an earlier run before it starts its own.
+        ASSERT_TRUE(
+            QTest::qWaitFor([this] { return !controller().isInstalling() && !controller().isRunning(); }, 20000));
+        test::settle();
+    }
+    SetupStep step(SetupStepType type) const
+    {
+        for (SetupStepRow* row : screenAs<InstallationView>()->progressView()->rows()) {
+            if (row->step().type == type)
+                return row->step();
+        }
+        ADD_FAILURE() << "no row for " << type.rawValue().toStdString();
+        return {type};
+    }
+    static bool shows(const QWidget* widget) { return widget && widget->isVisible(); }
+
+    InstallationState state;
+    std::unique_ptr<MainWindow> window;
+};
+
+} // namespace
+
+TEST_F(InstallFlowTest, FromTheAccountScreenToACompletedInstallation)
+{
+    sandbox.installFakes({"git", "curl"});
+    open(InstallationStep::accountSetup, CLITool::claudeCode);
+    auto* account = screenAs<AccountSetupView>();
+    ASSERT_EQ(account->stepRows().size(), 4);
+    EXPECT_TRUE(shows(button("createAccountButton")));
+    button("createAccountButton")->click();
+    EXPECT_EQ(platform.openedURLs, QList<QUrl>{CLITool(CLITool::claudeCode).signUpURL()});
+    EXPECT_EQ(state.currentStep(), InstallationStep::accountSetup);
+
+    // Back to the tool choice: the chosen tool is the one expanded card.
+    click("backButton");
+    auto* welcome = screenAs<WelcomeView>();
+    const auto expanded = [welcome] {
+        QList<CLITool> open;
+        for (ToolCard* card : welcome->toolCards()) {
+            if (card->isSelected())
+                open << card->tool();
+        }
+        return open;
+    };
+    EXPECT_EQ(expanded(), QList<CLITool>{CLITool::claudeCode});
+    state.setSelectedTool(std::nullopt);
+    EXPECT_TRUE(expanded().isEmpty());
+    EXPECT_FALSE(button("continueButton")->isEnabled());
+    QTest::mouseClick(welcome->toolCards()[1], Qt::LeftButton);
+    QTest::mouseClick(welcome->toolCards()[0], Qt::LeftButton);
+    QTest::mouseClick(welcome->toolCards()[0], Qt::LeftButton); // choosing it again keeps it chosen
+    EXPECT_EQ(expanded(), QList<CLITool>{CLITool::claudeCode});
+    EXPECT_EQ(state.selectedTool(), CLITool::claudeCode);
+
+    // Return presses the main button, wherever the focus is.
+    button("continueButton")->setFocus();
+    QTest::keyClick(window.get(), Qt::Key_Return);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return state.currentStep() == InstallationStep::accountSetup; }));
+    click("haveAccountButton");
+
+    ASSERT_EQ(state.currentStep(), InstallationStep::systemCheck);
+    waitForCheck();
+    EXPECT_EQ(button("mainButton")->title(), QStringLiteral("Install"));
+    EXPECT_EQ(screenAs<SystemCheckView>()->requirementRows().size(), 2); // Claude Code needs no Node.js
+    click("mainButton");
+
+    ASSERT_EQ(state.currentStep(), InstallationStep::installation);
+    waitForInstallation();
+    EXPECT_EQ(text("installationTitle"), QStringLiteral("Installation Complete!"));
+    EXPECT_EQ(step(SetupStepType::installTool).status, SetupStepStatus(SetupStepStatus::completed));
+    EXPECT_FALSE(shows(test::child(screen(), QStringLiteral("errorCard"))));
+    EXPECT_TRUE(shows(button("backButton")));
+    EXPECT_EQ(button("mainButton")->title(), QStringLiteral("Continue"));
+    click("mainButton");
+    EXPECT_EQ(state.currentStep(), InstallationStep::completion);
+}
+
+TEST_F(InstallFlowTest, AToolAlreadyOnThePathIsOfferedInTheTerminal)
+{
+    sandbox.installFakes({"claude"});
+    open(InstallationStep::systemCheck, CLITool::claudeCode);
+    waitForCheck();
+    EXPECT_TRUE(state.toolAlreadyInstalled());
+    EXPECT_TRUE(state.requirements().isEmpty());
+    EXPECT_EQ(text("alreadyInstalledTitle"), QStringLiteral("Claude Code is already installed!"));
+    EXPECT_EQ(text("installedVersion"), QStringLiteral("Version: 1.0.42 (claude)"));
+    click("mainButton");
+    EXPECT_EQ(state.currentStep(), InstallationStep::terminal);
+
+    // Without a readable version the card says nothing about one.
+    sandbox.setEnv("FAKE_TOOL_VERSION_FAIL", "1");
+    open(InstallationStep::systemCheck, CLITool::claudeCode);
+    waitForCheck();
+    EXPECT_TRUE(shows(test::child(screen(), QStringLiteral("alreadyInstalled"))));
+    EXPECT_FALSE(shows(test::child(screen(), QStringLiteral("installedVersion"))));
+    EXPECT_EQ(button("mainButton")->title(), QStringLiteral("Open Terminal"));
+}
+
+TEST_F(InstallFlowTest, RequirementsDecideWhetherTheInstallationMayStart)
+{
+    // Node.js missing does not block: the installation brings it.
+    open(InstallationStep::systemCheck, CLITool::geminiCLI);
+    waitForCheck();
+    QList<RequirementRow*> rows = screenAs<SystemCheckView>()->requirementRows();
+    ASSERT_EQ(rows.size(), 3);
+    auto* nodeRow = test::child<RequirementRow>(screen(), QStringLiteral("requirementRow.nodeJS"));
+    auto* nodeStatus = test::child<ui::Label>(nodeRow, QStringLiteral("requirementStatus"));
+    EXPECT_EQ(nodeStatus->text(), QStringLiteral("Will install"));
+    EXPECT_EQ(nodeStatus->tint(), ui::Tint(ui::Role::orange));
+    EXPECT_EQ(button("mainButton")->title(), QStringLiteral("Install"));
+    EXPECT_TRUE(button("mainButton")->isEnabled());
+
+    // Help opens per row, and a second press closes it again.
+    rows[0]->helpButton()->click();
+    rows[2]->helpButton()->click();
+    rows[2]->helpButton()->click();
+    EXPECT_TRUE(rows[0]->showsHelp());
+    EXPECT_FALSE(rows[1]->showsHelp());
+    EXPECT_FALSE(rows[2]->showsHelp());
+    EXPECT_FALSE(shows(test::child(nodeRow, QStringLiteral("requirementFix"))));
+    rows[2]->helpButton()->click();
+    EXPECT_TRUE(shows(test::child(nodeRow, QStringLiteral("requirementFix"))));
+
+    // Too little space blocks, and Return does nothing then.
+    platform.diskSpace = DiskSpace{100 * 1024 * 1024, {}};
+    open(InstallationStep::systemCheck, CLITool::geminiCLI);
+    waitForCheck();
+    EXPECT_EQ(button("mainButton")->title(), QStringLiteral("Requirements Not Met"));
+    EXPECT_FALSE(button("mainButton")->isEnabled());
+    QTest::keyClick(window.get(), Qt::Key_Return);
+    QTest::qWait(200); // longer than a button's pressed look
+    EXPECT_EQ(state.currentStep(), InstallationStep::systemCheck);
+    click("backButton");
+    EXPECT_EQ(state.currentStep(), InstallationStep::home);
+    EXPECT_TRUE(state.requirements().isEmpty());
+}
+
+TEST_F(InstallFlowTest, MissingGitStopsTheRunAndTryAgainStartsOver)
+{
+    open(InstallationStep::installation, CLITool::claudeCode);
+    // While the run goes on, neither "Back" nor a main button is offered.
+    bool buttonWhileRunning = false;
+    QObject::connect(&state, &InstallationState::setupStepsChanged, screen(), [this, &buttonWhileRunning] {
+        if (controller().isInstalling())
+            buttonWhileRunning |= button("backButton")->isVisibleTo(screen()) ||
+                                  button("mainButton")->isVisibleTo(screen());
+    });
+    waitForInstallation();
+    EXPECT_FALSE(buttonWhileRunning);
+
+    const SetupStep git = step(SetupStepType::checkGit);
+    EXPECT_EQ(git.status, SetupStepStatus::failure(QStringLiteral("Not found")));
+    EXPECT_EQ(test::child<ui::Label>(screen()->findChild<SetupStepRow*>(QStringLiteral("setupStepRow.checkGit")),
+                                     QStringLiteral("stepStatus"))
+                  ->tint(),
+              ui::Tint(ui::Role::red));
+    EXPECT_EQ(step(SetupStepType::installTool).status, SetupStepStatus(SetupStepStatus::pending));
+    EXPECT_EQ(text("errorMessage"), errorDescription(InstallationError::gitNotFound, platform.wording()));
+    EXPECT_TRUE(state.installationOutput().endsWith(platform.wording().gitMissingLog));
+    EXPECT_EQ(button("mainButton")->title(), QStringLiteral("Try Again"));
+
+    // With git there, "Try Again" runs every step again from a clean log.
+    sandbox.installFakes({"git", "curl"});
+    bool startedClean = false;
+    QObject::connect(&state, &InstallationState::setupStepsChanged, screen(), [&] {
+        if (!startedClean && controller().isInstalling())
+            startedClean = state.installationOutput().isEmpty() && !state.errorMessage() &&
+                           step(SetupStepType::checkGit).status == SetupStepStatus(SetupStepStatus::pending);
+    });
+    click("mainButton");
+    EXPECT_TRUE(startedClean);
+    waitForInstallation();
+    EXPECT_EQ(step(SetupStepType::checkGit).status, SetupStepStatus(SetupStepStatus::completed));
+    EXPECT_FALSE(state.installationOutput().contains(platform.wording().gitMissingLog));
+    EXPECT_FALSE(shows(test::child(screen(), QStringLiteral("errorCard"))));
+    EXPECT_EQ(button("mainButton")->title(), QStringLiteral("Continue"));
+}
+
+TEST_F(InstallFlowTest, FailingCommandsEndInTheErrorCard)
+{
+    sandbox.installFakes({"git", "npm", "node"});
+    sandbox.setEnv("FAKE_NPM_FAIL", "1");
+    open(InstallationStep::installation, CLITool::geminiCLI);
+    waitForInstallation();
+    EXPECT_EQ(step(SetupStepType::installNode).status, SetupStepStatus(SetupStepStatus::skipped));
+    EXPECT_EQ(step(SetupStepType::installTool).status.kind(), SetupStepStatus::failed);
+    // The command's own words are in the log; the card says that it failed.
+    EXPECT_TRUE(state.installationOutput().contains(QStringLiteral("404 Not Found")));
+    EXPECT_EQ(text("errorMessage"), ShellError::failed(1, QStringLiteral("Command failed")).errorDescription());
+
+    // npm reports success but the command never appears.
+    sandbox.setEnv("FAKE_NPM_FAIL", "");
+    sandbox.setEnv("FAKE_NPM_SKIP_BIN", "1");
+    click("mainButton");
+    waitForInstallation();
+    EXPECT_EQ(step(SetupStepType::installTool).status, SetupStepStatus::failure(QStringLiteral("Verification failed")));
+    EXPECT_EQ(text("errorMessage"), errorDescription(InstallationError::verificationFailed, platform.wording()));
+}
+
+TEST_F(InstallFlowTest, LeavingDuringARunAndComingBackIsSafe)
+{
+    sandbox.installFakes({"git", "npm", "node"});
+    sandbox.setEnv("FAKE_NPM_DELAY", "0.5");
+    open(InstallationStep::installation, CLITool::codex);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return state.installationOutput().contains(QStringLiteral("Installing")); }));
+    QPointer<QWidget> first = screen();
+    state.setCurrentStep(InstallationStep::home);
+    test::settle();
+    EXPECT_TRUE(first.isNull());
+    EXPECT_TRUE(controller().isRunning()); // the run goes on without its screen
+
+    state.setCurrentStep(InstallationStep::installation);
+    test::settle();
+    waitForInstallation();
+    EXPECT_TRUE(controller().installationComplete());
+    EXPECT_EQ(text("installationTitle"), QStringLiteral("Installation Complete!"));
+    // The log on screen is the new attempt's, whole.
+    EXPECT_EQ(screenAs<InstallationView>()->logView()->text(), state.installationOutput());
+    EXPECT_EQ(state.installationOutput().count(QStringLiteral("Installing Codex")), 1);
+}
+
+TEST_F(InstallFlowTest, TheLogShowsEveryByteAndCanBeCopied)
+{
+    sandbox.installFakes({"git", "npm", "node"});
+    // A euro sign split across two reads, an invalid byte, then many lines.
+    sandbox.setEnv("FAKE_NPM_SCRIPT", "printf 'price \\342\\202'; sleep 0.2; printf '\\254 \\377 ok\\n'; seq 1 400");
+    open(InstallationStep::installation, CLITool::geminiCLI);
+    auto* view = screenAs<InstallationView>();
+    ui::LogView* log = view->logView();
+    EXPECT_FALSE(shows(test::child(screen(), QStringLiteral("logSection")))); // nothing to show yet
+    QTest::mouseClick(test::child<QWidget>(screen(), QStringLiteral("detailsButton")), Qt::LeftButton);
+    EXPECT_TRUE(view->showDetails());
+    waitForInstallation();
+
+    EXPECT_TRUE(state.installationOutput().contains(QStringLiteral("price \u20AC \uFFFD ok\n1\n2\n")));
+    EXPECT_EQ(log->text(), state.installationOutput());
+    EXPECT_TRUE(log->isFollowing());
+
+    // A reader who scrolled up stays where they are while more arrives.
+    QScrollBar* bar = log->textView()->verticalScrollBar();
+    ASSERT_GT(bar->maximum(), 0);
+    bar->setValue(3);
+    state.appendInstallationOutput(QStringLiteral("more\nand more\n"));
+    EXPECT_EQ(bar->value(), 3);
+    EXPECT_FALSE(log->isFollowing());
+    // Closing and opening the log again shows the newest line.
+    QTest::mouseClick(test::child<QWidget>(screen(), QStringLiteral("detailsButton")), Qt::LeftButton);
+    QTest::mouseClick(test::child<QWidget>(screen(), QStringLiteral("detailsButton")), Qt::LeftButton);
+    test::settle();
+    EXPECT_TRUE(log->isFollowing());
+    EXPECT_EQ(bar->value(), bar->maximum());
+
+    click("copyLogButton");
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), state.installationOutput());
+    EXPECT_TRUE(view->toastPresenter()->isShowing());
+    EXPECT_TRUE(QTest::qWaitFor([view] { return !view->toastPresenter()->isShowing(); }, 5000));
+}
+
+TEST_F(InstallFlowTest, EveryScreenFitsTheSmallestWindowAndNamesItsControls)
+{
+    sandbox.installFakes({"git", "npm", "node"});
+    const QSize smallest(MainWindow::minimumWidth, MainWindow::minimumHeight);
+    const InstallationStep steps[] = {InstallationStep::welcome, InstallationStep::accountSetup,
+                                      InstallationStep::systemCheck, InstallationStep::installation};
+    for (InstallationStep flowStep : steps) {
+        open(flowStep, CLITool::codex, smallest);
+        if (flowStep == InstallationStep::systemCheck)
+            waitForCheck();
+        if (flowStep == InstallationStep::installation) {
+            waitForInstallation();
+            QTest::mouseClick(test::child<QWidget>(screen(), QStringLiteral("detailsButton")), Qt::LeftButton);
+        }
+        if (flowStep == InstallationStep::welcome)
+            test::child<QAbstractButton>(screen(), QStringLiteral("whatIsAIHeader"))->click();
+        test::settle();
+        // The bar stays whole at the bottom; the rest scrolls.
+        const QWidget* bar = test::child(screen(), QStringLiteral("bottomBar"));
+        EXPECT_EQ(bar->geometry().bottom(), screen()->rect().bottom()) << caseName(flowStep).toStdString();
+        EXPECT_GE(bar->height(), bar->sizeHint().height());
+        for (QWidget* control : test::focusableControls(screen())) {
+            EXPECT_FALSE(control->accessibleName().trimmed().isEmpty())
+                << caseName(flowStep).toStdString() << ": " << control->metaObject()->className() << " "
+                << control->objectName().toStdString();
+        }
+    }
+}
