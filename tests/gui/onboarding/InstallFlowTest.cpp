@@ -53,7 +53,7 @@ protected:
     ui::Button* button(const char* name) const { return test::child<ui::Button>(screen(), QLatin1String(name)); }
     void click(const char* name) const
     {
-        ui::Button* target = button(name);
+        auto* target = test::child<QAbstractButton>(screen(), QLatin1String(name));
         ASSERT_TRUE(target && target->isVisible() && target->isEnabled()) << name;
         target->click();
         test::settle();
@@ -107,7 +107,7 @@ TEST_F(InstallFlowTest, FromTheAccountScreenToACompletedInstallation)
     const auto expanded = [welcome] {
         QList<CLITool> open;
         for (ToolCard* card : welcome->toolCards()) {
-            if (card->isSelected())
+            if (test::child(card, QStringLiteral("toolDetails"))->isVisible())
                 open << card->tool();
         }
         return open;
@@ -121,6 +121,13 @@ TEST_F(InstallFlowTest, FromTheAccountScreenToACompletedInstallation)
     QTest::mouseClick(welcome->toolCards()[0], Qt::LeftButton); // choosing it again keeps it chosen
     EXPECT_EQ(expanded(), QList<CLITool>{CLITool::claudeCode});
     EXPECT_EQ(state.selectedTool(), CLITool::claudeCode);
+    // The explainer for newcomers opens and closes.
+    QWidget* explainer = test::child(screen(), QStringLiteral("whatIsAIBody"));
+    EXPECT_FALSE(explainer->isVisible());
+    click("whatIsAIHeader");
+    EXPECT_TRUE(explainer->isVisible());
+    click("whatIsAIHeader");
+    EXPECT_FALSE(explainer->isVisible());
 
     // Return presses the main button, wherever the focus is.
     button("continueButton")->setFocus();
