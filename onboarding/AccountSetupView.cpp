@@ -106,15 +106,11 @@ void AccountSetupView::buildContent(CLITool tool, Platform& platform, QVBoxLayou
     SurfaceEffect::of(logo)->setShadow(ShadowStyle{Tint(brand, 0.3), 10, {0, 5}}, Shape::rounded(14));
     header->addWidget(logo, 0, Qt::AlignHCenter);
     auto* titles = vstack(8);
-    auto* title = new Label(tr("Before you install ") + tool.displayName(), Theme::font(17, QFont::Bold));
+    auto* title = flow::centredText(tr("Before you install ") + tool.displayName(), Theme::font(17, QFont::Bold));
     title->setObjectName(QStringLiteral("accountTitle"));
-    title->setAlignment(Qt::AlignHCenter);
-    title->setWrapping(true);
     titles->addWidget(title);
-    auto* requirement = new Label(tool.accountRequirement(), Theme::subheadline(), Tint(Role::secondary));
+    auto* requirement = flow::centredText(tool.accountRequirement(), Theme::subheadline(), Tint(Role::secondary));
     requirement->setObjectName(QStringLiteral("accountRequirement"));
-    requirement->setAlignment(Qt::AlignHCenter);
-    requirement->setWrapping(true);
     titles->addWidget(requirement);
     header->addLayout(titles);
     column->addLayout(header);
@@ -146,11 +142,8 @@ void AccountSetupView::buildContent(CLITool tool, Platform& platform, QVBoxLayou
     column->addLayout(pricing);
 }
 
-void AccountSetupView::showEvent(QShowEvent* event)
+void AccountSetupView::appeared()
 {
-    FlowScreen::showEvent(event);
-    if (m_animateSteps)
-        return;
     m_animateSteps = true;
     // One row after another: each eases out over 0.4 s, 0.1 s after the one before.
     for (qsizetype i = 0; i < m_rows.size(); ++i) {

@@ -49,7 +49,7 @@ public:
     static constexpr int stepDelayMs = 100;
 
 protected:
-    void showEvent(QShowEvent* event) override;
+    void appeared() override;
 
 private:
     void buildContent(CLITool tool, Platform& platform, QVBoxLayout* column);

@@ -1,5 +1,7 @@
 #include "FlowScreen.h"
 
+#include "InstallationState.h"
+#include "Label.h"
 #include "Layout.h"
 #include "Theme.h"
 
@@ -37,10 +39,31 @@ QVBoxLayout* FlowScreen::makeColumn(int spacing, int topPadding)
     return ui::vstack(m_scroll->content(), spacing, QMargins(0, topPadding, 0, 0));
 }
 
+ui::Button* FlowScreen::addBackToHome(InstallationState& state)
+{
+    ui::Button* back = flow::backButton(ui::Button::Style::bordered);
+    connect(back, &QAbstractButton::clicked, this, [&state] {
+        state.reset();
+        state.setCurrentStep(InstallationStep::home);
+    });
+    m_bar->addWidget(back);
+    m_bar->addStretch(1);
+    return back;
+}
+
 void FlowScreen::pressDefaultButton()
 {
     if (m_default && m_default->isVisible() && m_default->isEnabled())
         m_default->animateClick();
+}
+
+void FlowScreen::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    if (!m_appeared) {
+        m_appeared = true;
+        appeared();
+    }
 }
 
 void FlowScreen::paintEvent(QPaintEvent*)
@@ -69,6 +92,14 @@ ui::Button* backButton(ui::Button::Style style)
     if (style == ui::Button::Style::plain)
         button->setContentTint(ui::Tint(ui::Role::secondary));
     return button;
+}
+
+ui::Label* centredText(const QString& text, const QFont& font, const ui::Tint& tint)
+{
+    auto* label = new ui::Label(text, font, tint);
+    label->setAlignment(Qt::AlignHCenter);
+    label->setWrapping(true);
+    return label;
 }
 
 } // namespace flow

@@ -13,7 +13,10 @@ class QVBoxLayout;
 
 namespace qf {
 
+class InstallationState;
+
 namespace ui {
+class Label;
 class ScrollView;
 } // namespace ui
 
@@ -37,7 +40,13 @@ protected:
     // The bottom bar: 24 points from the sides, 16 above and below.
     QHBoxLayout* bottomBar() const { return m_bar; }
     void setDefaultButton(ui::Button* button) { m_default = button; }
+    // A bordered "Back" at the start of the bottom bar that ends the attempt and returns to
+    // the dashboard, then the space that pushes what follows to the end.
+    ui::Button* addBackToHome(InstallationState& state);
+    // Called once, when the screen is first shown: where a screen starts its work.
+    virtual void appeared() {}
 
+    void showEvent(QShowEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
@@ -46,6 +55,7 @@ private:
     ui::ScrollView* m_scroll;
     QHBoxLayout* m_bar;
     QPointer<ui::Button> m_default;
+    bool m_appeared = false;
 };
 
 // The buttons of the flow's bars.
@@ -54,6 +64,8 @@ namespace flow {
 ui::Button* mainButton(const QString& title, const QString& objectName);
 // "Back" with a chevron before it, in the given style.
 ui::Button* backButton(ui::Button::Style style);
+// Centred text that wraps onto as many lines as it needs.
+ui::Label* centredText(const QString& text, const QFont& font, const ui::Tint& tint = ui::Tint(ui::Role::primary));
 } // namespace flow
 
 // The tool's tile at the top of the system check and the installation: its symbol on its

@@ -150,15 +150,12 @@ InstallationView::InstallationView(InstallationState& state, InstallationControl
         auto* header = vstack(12, QMargins(24, 0, 24, 0));
         m_tile = new ToolTile;
         header->addWidget(m_tile, 0, Qt::AlignHCenter);
-        m_title = new Label(QString(), Theme::font(17, QFont::Bold));
+        m_title = flow::centredText(QString(), Theme::font(17, QFont::Bold));
         m_title->setObjectName(QStringLiteral("installationTitle"));
-        m_title->setAlignment(Qt::AlignHCenter);
-        m_title->setWrapping(true);
         header->addWidget(m_title);
-        m_subtitle = new Label(tr("Preparing your development environment..."), Theme::body(), Tint(Role::secondary));
+        m_subtitle = flow::centredText(tr("Preparing your development environment..."), Theme::body(),
+                                       Tint(Role::secondary));
         m_subtitle->setObjectName(QStringLiteral("installationSubtitle"));
-        m_subtitle->setAlignment(Qt::AlignHCenter);
-        m_subtitle->setWrapping(true);
         header->addWidget(m_subtitle);
         column->addLayout(header);
     }
@@ -210,13 +207,10 @@ InstallationView::InstallationView(InstallationState& state, InstallationControl
     auto* errorColumn = vstack(m_errorCard, 12, QMargins(20, 20, 20, 20));
     errorColumn->addWidget(new SymbolView(QStringLiteral("exclamationmark.triangle.fill"), 22, Tint(Role::red)), 0,
                            Qt::AlignHCenter);
-    auto* errorTitle = new Label(tr("Installation Failed"), Theme::headline());
-    errorTitle->setAlignment(Qt::AlignHCenter);
+    auto* errorTitle = flow::centredText(tr("Installation Failed"), Theme::headline());
     errorColumn->addWidget(errorTitle);
-    m_errorText = new Label(QString(), Theme::caption());
+    m_errorText = flow::centredText(QString(), Theme::caption());
     m_errorText->setObjectName(QStringLiteral("errorMessage"));
-    m_errorText->setAlignment(Qt::AlignHCenter);
-    m_errorText->setWrapping(true);
     m_errorText->setTextInteractionFlags(Qt::TextSelectableByMouse);
     errorColumn->addWidget(m_errorText);
     auto* errorRow = vstack(0, QMargins(24, 0, 24, 0));
@@ -224,13 +218,7 @@ InstallationView::InstallationView(InstallationState& state, InstallationControl
     column->addLayout(errorRow);
     column->addStretch(1);
 
-    m_back = flow::backButton(Button::Style::bordered);
-    connect(m_back, &QAbstractButton::clicked, this, [this] {
-        m_state.reset();
-        m_state.setCurrentStep(InstallationStep::home);
-    });
-    bottomBar()->addWidget(m_back);
-    bottomBar()->addStretch(1);
+    m_back = addBackToHome(m_state);
     m_main = flow::mainButton(QString(), QStringLiteral("mainButton"));
     connect(m_main, &QAbstractButton::clicked, this, [this] {
         if (m_controller.installationComplete())
@@ -254,15 +242,6 @@ InstallationView::InstallationView(InstallationState& state, InstallationControl
     connect(&m_controller, &InstallationController::installationCompleteChanged, this, rerender);
     syncLog();
     render();
-}
-
-void InstallationView::showEvent(QShowEvent* event)
-{
-    FlowScreen::showEvent(event);
-    if (!m_started) {
-        m_started = true;
-        start();
-    }
 }
 
 void InstallationView::start()

@@ -61,7 +61,7 @@ public:
     CopiedToastPresenter* toastPresenter() const { return m_toast; }
 
 protected:
-    void showEvent(QShowEvent* event) override;
+    void appeared() override { start(); }
 
 private:
     void start();
@@ -74,7 +74,6 @@ private:
 
     InstallationState& m_state;
     InstallationController& m_controller;
-    bool m_started = false;
     bool m_showDetails = false;
     qsizetype m_shownLength = 0;
 

@@ -124,14 +124,11 @@ SystemCheckView::SystemCheckView(InstallationState& state, Services& services, Q
         auto* tile = new ToolTile;
         tile->present(*tool, ToolTile::Content::symbol);
         header->addWidget(tile, 0, Qt::AlignHCenter);
-        auto* title = new Label(tr("System Check"), Theme::font(17, QFont::Bold));
+        auto* title = flow::centredText(tr("System Check"), Theme::font(17, QFont::Bold));
         title->setObjectName(QStringLiteral("systemCheckTitle"));
-        title->setAlignment(Qt::AlignHCenter);
         header->addWidget(title);
-        auto* subtitle = new Label(tr("Checking requirements for ") + tool->displayName(), Theme::body(),
-                                   Tint(Role::secondary));
-        subtitle->setAlignment(Qt::AlignHCenter);
-        subtitle->setWrapping(true);
+        auto* subtitle = flow::centredText(tr("Checking requirements for ") + tool->displayName(), Theme::body(),
+                                           Tint(Role::secondary));
         header->addWidget(subtitle);
         column->addLayout(header);
     }
@@ -144,8 +141,7 @@ SystemCheckView::SystemCheckView(InstallationState& state, Services& services, Q
     auto* spinnerBox = vstack(0, QMargins(32, 32, 32, 32));
     spinnerBox->addWidget(spinner, 0, Qt::AlignHCenter);
     checking->addLayout(spinnerBox);
-    auto* checkingText = new Label(tr("Checking system requirements..."), Theme::body(), Tint(Role::secondary));
-    checkingText->setAlignment(Qt::AlignHCenter);
+    auto* checkingText = flow::centredText(tr("Checking system requirements..."), Theme::body(), Tint(Role::secondary));
     checking->addWidget(checkingText);
     column->addWidget(m_checking);
 
@@ -155,18 +151,13 @@ SystemCheckView::SystemCheckView(InstallationState& state, Services& services, Q
     auto* installed = vstack(m_installed, 12, QMargins(20, 20, 20, 20));
     installed->addWidget(new SymbolView(QStringLiteral("checkmark.circle.fill"), 40, Tint(Role::green)), 0,
                          Qt::AlignHCenter);
-    m_installedTitle = new Label(QString(), Theme::headline());
+    m_installedTitle = flow::centredText(QString(), Theme::headline());
     m_installedTitle->setObjectName(QStringLiteral("alreadyInstalledTitle"));
-    m_installedTitle->setAlignment(Qt::AlignHCenter);
-    m_installedTitle->setWrapping(true);
     installed->addWidget(m_installedTitle);
-    m_installedVersionLabel = new Label(QString(), Theme::body(), Tint(Role::secondary));
+    m_installedVersionLabel = flow::centredText(QString(), Theme::body(), Tint(Role::secondary));
     m_installedVersionLabel->setObjectName(QStringLiteral("installedVersion"));
-    m_installedVersionLabel->setAlignment(Qt::AlignHCenter);
     installed->addWidget(m_installedVersionLabel);
-    auto* ready = new Label(tr("You're ready to use it in Terminal."), Theme::body(), Tint(Role::secondary));
-    ready->setAlignment(Qt::AlignHCenter);
-    ready->setWrapping(true);
+    auto* ready = flow::centredText(tr("You're ready to use it in Terminal."), Theme::body(), Tint(Role::secondary));
     installed->addWidget(ready);
     column->addWidget(m_installed);
 
@@ -177,13 +168,7 @@ SystemCheckView::SystemCheckView(InstallationState& state, Services& services, Q
     column->addWidget(m_requirementList);
     column->addStretch(1);
 
-    auto* back = flow::backButton(Button::Style::bordered);
-    connect(back, &QAbstractButton::clicked, this, [this] {
-        m_state.reset();
-        m_state.setCurrentStep(InstallationStep::home);
-    });
-    bottomBar()->addWidget(back);
-    bottomBar()->addStretch(1);
+    addBackToHome(m_state);
     m_main = flow::mainButton(QString(), QStringLiteral("mainButton"));
     connect(m_main, &QAbstractButton::clicked, this, [this] {
         if (m_toolAlreadyInstalled)
@@ -205,15 +190,6 @@ SystemCheckView::SystemCheckView(InstallationState& state, Services& services, Q
 QList<RequirementRow*> SystemCheckView::requirementRows() const
 {
     return m_requirementList->findChildren<RequirementRow*>(Qt::FindDirectChildrenOnly);
-}
-
-void SystemCheckView::showEvent(QShowEvent* event)
-{
-    FlowScreen::showEvent(event);
-    if (!m_checkStarted) {
-        m_checkStarted = true;
-        startCheck();
-    }
 }
 
 void SystemCheckView::startCheck()

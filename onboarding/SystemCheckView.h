@@ -54,7 +54,7 @@ Q_SIGNALS:
     void checkFinished();
 
 protected:
-    void showEvent(QShowEvent* event) override;
+    void appeared() override { startCheck(); }
 
 private:
     void startCheck();
@@ -63,7 +63,6 @@ private:
 
     InstallationState& m_state;
     Services& m_services;
-    bool m_checkStarted = false;
     bool m_isChecking = false;
     bool m_toolAlreadyInstalled = false;
     std::optional<QString> m_installedVersion;

@@ -221,9 +221,8 @@ WelcomeView::WelcomeView(InstallationState& state, Platform& platform, QWidget* 
     logo->setObjectName(QStringLiteral("quillforgeLogo"));
     logo->setAccessibleName(tr("Quillforge"));
     header->addWidget(logo, 0, Qt::AlignHCenter);
-    auto* subtitle = new Label(tr("Set up AI coding assistants the easy way"), Theme::body(), Tint(Role::secondary));
-    subtitle->setAlignment(Qt::AlignHCenter);
-    subtitle->setWrapping(true);
+    auto* subtitle = flow::centredText(tr("Set up AI coding assistants the easy way"), Theme::body(),
+                                       Tint(Role::secondary));
     header->addWidget(subtitle);
     column->addLayout(header);
 
