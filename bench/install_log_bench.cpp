@@ -118,13 +118,14 @@ Measurement measureBare(const QStringList& chunks)
     QElapsedTimer clock;
     clock.start();
     bool done = false;
-    QCoro::connect(pour(chunks,
-                        [&edit](const QString& chunk) {
-                            QTextCursor cursor(edit.document());
-                            cursor.movePosition(QTextCursor::End);
-                            cursor.insertText(chunk);
-                        },
-                        nullptr),
+    QCoro::connect(pour(
+                       chunks,
+                       [&edit](const QString& chunk) {
+                           QTextCursor cursor(edit.document());
+                           cursor.movePosition(QTextCursor::End);
+                           cursor.insertText(chunk);
+                       },
+                       nullptr),
                    &edit, [&done] { done = true; });
     runUntil([&done] { return done; });
     result.totalMs = clock.nsecsElapsed() / 1.0e6;
@@ -135,7 +136,8 @@ Measurement measureBare(const QStringList& chunks)
 // An installer whose one run is a chatty install: the chunks, then success.
 class ChattySetup : public qf::SetupService {
 public:
-    explicit ChattySetup(QStringList chunks, std::vector<long>* samples) : m_chunks(std::move(chunks)), m_samples(samples)
+    explicit ChattySetup(QStringList chunks, std::vector<long>* samples)
+        : m_chunks(std::move(chunks)), m_samples(samples)
     {
     }
     QCoro::Task<QList<qf::SetupStep>> setupSteps(qf::CLITool) override
@@ -226,8 +228,8 @@ int main(int argc, char* argv[])
             bare();
             screen();
         }
-        std::printf("run %d: bare %.0f ms (stall %.1f ms), screen %.0f ms (stall %.1f ms)\n", run + 1,
-                    bareTotal.back(), bareStall.back(), screenTotal.back(), screenStall.back());
+        std::printf("run %d: bare %.0f ms (stall %.1f ms), screen %.0f ms (stall %.1f ms)\n", run + 1, bareTotal.back(),
+                    bareStall.back(), screenTotal.back(), screenStall.back());
     }
 
     const double ratio = median(screenTotal) / median(bareTotal);
