@@ -146,15 +146,12 @@ void AccountSetupView::appeared()
 {
     m_animateSteps = true;
     // One row after another: each eases out over 0.4 s, 0.1 s after the one before.
+    // Each animation belongs to its row and ends with it.
     for (qsizetype i = 0; i < m_rows.size(); ++i) {
-        QPointer<QWidget> row = m_rows[i];
+        QWidget* row = m_rows[i];
         motion::animate(
             row, stepDurationMs, motion::easeOut(),
-            [row](qreal progress) {
-                if (row)
-                    motion::applyLook(row, kStepOut, progress);
-            },
-            int(i) * stepDelayMs);
+            [row](qreal progress) { motion::applyLook(row, kStepOut, progress); }, int(i) * stepDelayMs);
     }
 }
 

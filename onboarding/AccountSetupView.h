@@ -2,10 +2,6 @@
 
 #include "FlowScreen.h"
 
-#include <QPointer>
-
-class QAbstractAnimation;
-
 namespace qf {
 
 class InstallationState;

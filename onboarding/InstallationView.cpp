@@ -201,6 +201,7 @@ InstallationView::InstallationView(InstallationState& state, InstallationControl
     // What went wrong.
     m_errorCard = new RoundedCard;
     m_errorCard->setObjectName(QStringLiteral("errorCard"));
+    m_errorCard->setAccessibleName(tr("Installation Failed"));
     m_errorCard->setCornerRadius(12);
     m_errorCard->setFill(Tint(Role::red, 0.08));
     m_errorCard->setStroke(Tint(Role::red, 0.2), 1);
@@ -273,13 +274,11 @@ void InstallationView::render()
 
     m_errorCard->setVisible(error.has_value());
     m_errorText->setText(error.value_or(QString()));
-    m_errorCard->setAccessibleName(tr("Installation Failed"));
     m_errorCard->setAccessibleDescription(error.value_or(QString()));
 
     m_back->setVisible(!installing);
     m_main->setVisible(complete || error.has_value());
     m_main->setTitle(complete ? tr("Continue") : tr("Try Again"));
-    m_main->setAccessibleName(m_main->title());
 }
 
 void InstallationView::syncLog()

@@ -242,7 +242,6 @@ void SystemCheckView::render()
         m_main->setTitle(canProceed ? tr("Install") : tr("Requirements Not Met"));
         m_main->setEnabled(canProceed && !m_isChecking);
     }
-    m_main->setAccessibleName(m_main->title());
 }
 
 } // namespace qf

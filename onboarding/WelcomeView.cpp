@@ -12,7 +12,6 @@
 #include <QKeyEvent>
 
 #include <QMouseEvent>
-#include <algorithm>
 
 namespace qf {
 
@@ -49,10 +48,14 @@ WhatIsAICodingCard::WhatIsAICodingCard(QWidget* parent) : RoundedCard(parent)
     setCornerRadius(12);
     setFill(Tint(Role::blue, 0.05));
     setStroke(Tint(Role::blue, 0.2), 1);
-    auto* column = vstack(this, 0, QMargins(16, 16, 16, 16));
+    // The header keeps 4 points of room around its content for the focus ring; the card's
+    // padding gives those points back, so everything sits 16 points from the edges.
+    constexpr int ring = 4;
+    auto* column = vstack(this, 0, QMargins(16 - ring, 16 - ring, 16 - ring, 16));
 
     // The header is one plain button across the card: the question, then the chevron.
     m_header = new RowButton;
+    m_header->setPadding(QMargins(ring, ring, ring, ring));
     m_header->setObjectName(QStringLiteral("whatIsAIHeader"));
     m_header->setAccessibleName(tr("New to AI Coding?"));
     m_header->addWidget(new SymbolView(QStringLiteral("questionmark.circle.fill"), 13, Tint(Role::blue)), 0,
@@ -66,7 +69,7 @@ WhatIsAICodingCard::WhatIsAICodingCard(QWidget* parent) : RoundedCard(parent)
 
     auto* body = new QWidget;
     body->setObjectName(QStringLiteral("whatIsAIBody"));
-    auto* bodyColumn = vstack(body, 12, QMargins(0, 12, 0, 0));
+    auto* bodyColumn = vstack(body, 12, QMargins(ring, 12 - ring, ring, 0));
     auto* intro = new Label(tr("AI coding assistants are tools that help you write, understand, and debug code using "
                                "artificial intelligence."),
                             Theme::callout(), Tint(Role::secondary));
@@ -113,7 +116,7 @@ ToolCard::ToolCard(CLITool tool, Platform& platform, QWidget* parent)
     : RoundedCard(parent),
       m_tool(tool),
       m_stroke(this, motion::springDurationMs, motion::spring(),
-               [this](qreal value) { setStroke(Tint(m_tool.brandColor(), std::clamp(value, 0.0, 1.0)), 2); })
+               [this](qreal value) { setStroke(Tint(m_tool.brandColor(), value), 2); })
 {
     setObjectName(QStringLiteral("toolCard.") + tool.rawValue());
     setAccessibleName(tool.displayName());

@@ -254,12 +254,9 @@ void Button::paintEvent(QPaintEvent*)
         }
     }
 
-    const bool keyboardFocus = hasFocus() && window() && window()->testAttribute(Qt::WA_KeyboardFocusChange);
-    if (keyboardFocus) {
-        QPen ring(Tint(Role::accent, 0.55).resolve(), 2.5);
-        painter.setPen(ring);
-        painter.setBrush(Qt::NoBrush);
-        painter.drawPath(continuousRoundedRect(bounds.adjusted(1.25, 1.25, -1.25, -1.25), isFilled() ? radius - 1 : 4));
+    if (showsFocusRing(this)) {
+        const qreal in = focusRingInset;
+        drawFocusRing(painter, continuousRoundedRect(bounds.adjusted(in, in, -in, -in), isFilled() ? radius - 1 : 4));
     }
 
     // Content, centred.
@@ -348,12 +345,12 @@ QSize RowButton::minimumSizeHint() const { return m_row->minimumSize(); }
 
 void RowButton::paintEvent(QPaintEvent*)
 {
-    if (!hasFocus() || !window() || !window()->testAttribute(Qt::WA_KeyboardFocusChange))
+    if (!showsFocusRing(this))
         return;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(Tint(Role::accent, 0.55).resolve(), 2.5));
-    painter.drawPath(continuousRoundedRect(QRectF(rect()).adjusted(1.25, 1.25, -1.25, -1.25), 4));
+    const qreal in = focusRingInset;
+    drawFocusRing(painter, continuousRoundedRect(QRectF(rect()).adjusted(in, in, -in, -in), 4));
 }
 
 } // namespace qf::ui

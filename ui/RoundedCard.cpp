@@ -110,8 +110,8 @@ void RoundedCard::paintEvent(QPaintEvent*)
     };
     if (m_strokeWidth > 0 && !m_stroke.isClear())
         painter.strokePath(inset(m_strokeWidth / 2.0), QPen(m_stroke.brush(bounds), m_strokeWidth));
-    if (hasFocus() && window() && window()->testAttribute(Qt::WA_KeyboardFocusChange))
-        painter.strokePath(inset(1.25), QPen(Tint(Role::accent, 0.55).resolve(), 2.5));
+    if (showsFocusRing(this))
+        drawFocusRing(painter, inset(focusRingInset));
 }
 
 // MARK: IconTile

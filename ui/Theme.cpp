@@ -1,5 +1,7 @@
 #include "Theme.h"
 
+#include <algorithm>
+
 #include <QApplication>
 #include <QFontDatabase>
 #include <QGuiApplication>
@@ -42,8 +44,9 @@ QStringList& standardFamilies()
 QColor Tint::resolve() const
 {
     QColor base = fixed ? *fixed : Theme::color(role);
+    // Springs overshoot: an opacity a little below 0 or above 1 is the nearest end.
     if (opacity < 1.0)
-        base.setAlphaF(float(base.alphaF() * opacity));
+        base.setAlphaF(float(base.alphaF() * std::max<qreal>(opacity, 0.0)));
     return base;
 }
 

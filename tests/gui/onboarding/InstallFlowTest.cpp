@@ -3,7 +3,6 @@
 #include "InstallationState.h"
 #include "InstallationView.h"
 #include "Label.h"
-#include "Layout.h"
 #include "LogView.h"
 #include "MainWindow.h"
 #include "SharedComponents.h"
