@@ -39,7 +39,7 @@ private:
     bool m_configured = false;
 };
 
-// The screen of each step (placeholders for the ones not built yet).
+// The screen of each step, built fresh each time the step is entered.
 QWidget* makeScreen(InstallationStep step, InstallationState& state, Services& services,
                     InstallationController& installation);
 

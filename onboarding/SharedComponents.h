@@ -5,7 +5,15 @@
 
 #include <functional>
 
+class QEasingCurve;
+class QVBoxLayout;
+
 namespace qf {
+
+namespace ui {
+class Expander;
+class SymbolView;
+} // namespace ui
 
 // Copies a text to the clipboard and then calls `onCopy`. Icon only ("doc.on.clipboard");
 // the small style draws a smaller glyph, and only the bordered style draws button chrome.
@@ -66,6 +74,33 @@ private:
     CopiedToast* m_toast;
     bool m_showing = false;
     ui::motion::Transition m_presence;
+};
+
+// A card that opens and closes: its header is one plain button across the card (a symbol, a
+// title, then a chevron pointing up while open and down while closed) and its body shows below
+// it only while open. Pressing the header emits `toggled`; the owner decides what it does.
+class DisclosureCard : public ui::RoundedCard {
+    Q_OBJECT
+
+public:
+    DisclosureCard(const QString& symbol, const ui::Tint& symbolTint, const QString& title, QWidget* parent = nullptr);
+
+    bool isExpanded() const;
+    void setExpanded(bool expanded, bool animated = true);
+    ui::RowButton* header() const { return m_header; }
+
+Q_SIGNALS:
+    void toggled();
+
+protected:
+    // Sets the body, `spacing` points below the header, opening and closing along `curve`.
+    // Call once, from the constructor.
+    void setBody(QWidget* body, int spacing, int durationMs, const QEasingCurve& curve);
+
+private:
+    ui::RowButton* m_header;
+    ui::SymbolView* m_chevron;
+    ui::Expander* m_body = nullptr;
 };
 
 // The titled icon header of a dashboard section.

@@ -42,34 +42,17 @@ FeatureRow::FeatureRow(const QString& icon, const QString& title, const QString&
     row->addLayout(column, 1);
 }
 
-WhatIsAICodingCard::WhatIsAICodingCard(QWidget* parent) : RoundedCard(parent)
+WhatIsAICodingCard::WhatIsAICodingCard(QWidget* parent)
+    : DisclosureCard(QStringLiteral("questionmark.circle.fill"), Tint(Role::blue), tr("New to AI Coding?"), parent)
 {
     setObjectName(QStringLiteral("whatIsAICodingCard"));
-    setCornerRadius(12);
     setFill(Tint(Role::blue, 0.05));
     setStroke(Tint(Role::blue, 0.2), 1);
-    // The header keeps 4 points of room around its content for the focus ring; the card's
-    // padding gives those points back, so everything sits 16 points from the edges.
-    constexpr int ring = 4;
-    auto* column = vstack(this, 0, QMargins(16 - ring, 16 - ring, 16 - ring, 16));
-
-    // The header is one plain button across the card: the question, then the chevron.
-    m_header = new RowButton;
-    m_header->setPadding(QMargins(ring, ring, ring, ring));
-    m_header->setObjectName(QStringLiteral("whatIsAIHeader"));
-    m_header->setAccessibleName(tr("New to AI Coding?"));
-    m_header->addWidget(new SymbolView(QStringLiteral("questionmark.circle.fill"), 13, Tint(Role::blue)), 0,
-                        Qt::AlignVCenter);
-    m_header->addWidget(new Label(tr("New to AI Coding?"), Theme::headline()), 0, Qt::AlignVCenter);
-    m_header->addStretch(1);
-    m_chevron = new SymbolView(QStringLiteral("chevron.down"), 10, Tint(Role::secondary));
-    m_header->addWidget(m_chevron, 0, Qt::AlignVCenter);
-    connect(m_header, &QAbstractButton::clicked, this, &WhatIsAICodingCard::toggled);
-    column->addWidget(m_header);
+    header()->setObjectName(QStringLiteral("whatIsAIHeader"));
 
     auto* body = new QWidget;
     body->setObjectName(QStringLiteral("whatIsAIBody"));
-    auto* bodyColumn = vstack(body, 12, QMargins(ring, 12 - ring, ring, 0));
+    auto* bodyColumn = vstack(body, 12);
     auto* intro = new Label(tr("AI coding assistants are tools that help you write, understand, and debug code using "
                                "artificial intelligence."),
                             Theme::callout(), Tint(Role::secondary));
@@ -98,18 +81,7 @@ WhatIsAICodingCard::WhatIsAICodingCard(QWidget* parent) : RoundedCard(parent)
     reassurance->setWrapping(true);
     reassurance->setContentsMargins(0, 4, 0, 0);
     bodyColumn->addWidget(reassurance);
-    m_body = springExpander(body);
-    column->addWidget(m_body);
-    setExpanded(false, false);
-}
-
-bool WhatIsAICodingCard::isExpanded() const { return m_body->isExpanded(); }
-
-void WhatIsAICodingCard::setExpanded(bool expanded, bool animated)
-{
-    m_chevron->setName(expanded ? QStringLiteral("chevron.up") : QStringLiteral("chevron.down"));
-    m_header->setAccessibleDescription(expanded ? tr("Expanded") : tr("Collapsed"));
-    m_body->setExpanded(expanded, animated);
+    setBody(body, 12, motion::springDurationMs, motion::spring());
 }
 
 ToolCard::ToolCard(CLITool tool, Platform& platform, QWidget* parent)

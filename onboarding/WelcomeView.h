@@ -3,6 +3,7 @@
 #include "CLITool.h"
 #include "FlowScreen.h"
 #include "RoundedCard.h"
+#include "SharedComponents.h"
 
 #include "Motion.h"
 
@@ -28,22 +29,11 @@ public:
 
 // "New to AI Coding?": a header that opens and closes a short explanation with four feature
 // rows. The screen owns whether it is open; the header asks it to change with `toggled()`.
-class WhatIsAICodingCard : public ui::RoundedCard {
+class WhatIsAICodingCard : public DisclosureCard {
     Q_OBJECT
 
 public:
     explicit WhatIsAICodingCard(QWidget* parent = nullptr);
-
-    bool isExpanded() const;
-    void setExpanded(bool expanded, bool animated = true);
-
-Q_SIGNALS:
-    void toggled();
-
-private:
-    ui::RowButton* m_header;
-    ui::SymbolView* m_chevron;
-    ui::Expander* m_body;
 };
 
 // A tool to choose: logo, name, vendor and description; selected, it shows a check mark, a

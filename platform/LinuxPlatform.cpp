@@ -102,6 +102,8 @@ SystemWording LinuxPlatform::wordingFor(const QMap<QString, QString>& osRelease)
                                                            "running: %1")
                                .arg(packageInstallLine(osRelease)),
         .developerFolderNote = translated("SystemTool", "Open your file manager to manage this folder"),
+        .toolLaunchedTitle = translated("TerminalLaunchedView", "%1 launched in a new terminal window"),
+        .switchToTerminal = translated("TerminalLaunchedView", "Switch to the terminal window to start using %1"),
     };
 }
 
@@ -288,12 +290,17 @@ QStringList LinuxPlatform::terminalCommandLine(const QString& emulator, const QS
     return QStringList{emulator, QStringLiteral("-e")} + inner;
 }
 
-void LinuxPlatform::openTerminal(const QString& command, const QString& directory)
+void LinuxPlatform::openTerminal(const QString& command, const QString& directory, TerminalOutcome outcome)
 {
+    const auto report = [&outcome](bool opened) {
+        if (outcome)
+            outcome(opened);
+    };
     const std::optional<QString> emulator = findTerminalEmulator(qEnvironmentVariable("PATH"));
     if (!emulator) {
         printDiagnostic(QStringLiteral("Terminal error: no terminal emulator found (looked for ") +
                         terminalEmulators().join(QStringLiteral(", ")) + QLatin1Char(')'));
+        report(false);
         return;
     }
     const QString home = QDir::homePath();
@@ -309,7 +316,10 @@ void LinuxPlatform::openTerminal(const QString& command, const QString& director
         if (reason.isEmpty() || process.error() == QProcess::UnknownError)
             reason = QStringLiteral("could not start ") + *emulator;
         printDiagnostic(QStringLiteral("Terminal error: ") + reason);
+        report(false);
+        return;
     }
+    report(true);
 }
 
 QString LinuxPlatform::terminalDescription() const
@@ -339,7 +349,7 @@ DeveloperToolsItem LinuxPlatform::gitToolsItem()
 
 void LinuxPlatform::startDeveloperToolsInstaller()
 {
-    openTerminal(packageInstallLine(m_osRelease), QStringLiteral("~"));
+    openTerminal(packageInstallLine(m_osRelease), QStringLiteral("~"), {});
 }
 
 QString LinuxPlatform::officialNodeInstallCommand() const

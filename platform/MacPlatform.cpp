@@ -26,8 +26,9 @@ QString translated(const char* context, const char* text) { return QCoreApplicat
 
 // Runs `script` through osascript without waiting for it. The process owns itself: it is
 // deleted once it has finished or failed to start, never while it runs. With `reportErrors`
-// a failure becomes one "AppleScript error: " line on standard output.
-void runAppleScript(const QString& script, bool reportErrors)
+// a failure becomes one "AppleScript error: " line on standard output. `outcome`, when given,
+// learns whether the script ran to its end.
+void runAppleScript(const QString& script, bool reportErrors, const TerminalOutcome& outcome = {})
 {
     auto* process = new QProcess;
     process->setProgram(kOsascript);
@@ -36,17 +37,21 @@ void runAppleScript(const QString& script, bool reportErrors)
     // `do script` answers with the new tab's name; nobody reads it.
     process->setStandardOutputFile(QProcess::nullDevice());
 
-    QObject::connect(process, &QProcess::errorOccurred, process, [process, reportErrors](QProcess::ProcessError error) {
-        // Every other error is followed by finished(), which reports it.
-        if (error != QProcess::FailedToStart)
-            return;
-        if (reportErrors)
-            printAppleScriptError(process->errorString());
-        process->deleteLater();
-    });
+    QObject::connect(process, &QProcess::errorOccurred, process,
+                     [process, reportErrors, outcome](QProcess::ProcessError error) {
+                         // Every other error is followed by finished(), which reports it.
+                         if (error != QProcess::FailedToStart)
+                             return;
+                         if (reportErrors)
+                             printAppleScriptError(process->errorString());
+                         if (outcome)
+                             outcome(false);
+                         process->deleteLater();
+                     });
     QObject::connect(process, &QProcess::finished, process,
-                     [process, reportErrors](int exitCode, QProcess::ExitStatus exitStatus) {
-                         if (reportErrors && (exitStatus != QProcess::NormalExit || exitCode != 0)) {
+                     [process, reportErrors, outcome](int exitCode, QProcess::ExitStatus exitStatus) {
+                         const bool succeeded = exitStatus == QProcess::NormalExit && exitCode == 0;
+                         if (reportErrors && !succeeded) {
                              QString message = QString::fromUtf8(process->readAllStandardError()).trimmed();
                              if (message.isEmpty())
                                  message = exitStatus == QProcess::NormalExit
@@ -54,6 +59,8 @@ void runAppleScript(const QString& script, bool reportErrors)
                                                : process->errorString();
                              printAppleScriptError(message);
                          }
+                         if (outcome)
+                             outcome(succeeded);
                          process->deleteLater();
                      });
     process->start();
@@ -83,6 +90,8 @@ const SystemWording& MacPlatform::standardWording()
         .gitMissingError = translated("InstallationError", "Git is required but not found. Please install Xcode "
                                                            "Command Line Tools by running: xcode-select --install"),
         .developerFolderNote = translated("SystemTool", "Open Finder to manage this folder"),
+        .toolLaunchedTitle = translated("TerminalLaunchedView", "%1 launched in Terminal"),
+        .switchToTerminal = translated("TerminalLaunchedView", "Switch to Terminal.app to start using %1"),
     };
     return wording;
 }
@@ -130,9 +139,9 @@ QStringList MacPlatform::osascriptArguments(const QString& script)
     return arguments;
 }
 
-void MacPlatform::openTerminal(const QString& command, const QString& directory)
+void MacPlatform::openTerminal(const QString& command, const QString& directory, TerminalOutcome outcome)
 {
-    runAppleScript(terminalScript(command, directory), true);
+    runAppleScript(terminalScript(command, directory), true, outcome);
 }
 
 QString MacPlatform::terminalDescription() const { return QStringLiteral("Terminal.app (through AppleScript)"); }

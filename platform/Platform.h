@@ -5,6 +5,7 @@
 #include <QUrl>
 #include <qnamespace.h>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -37,6 +38,9 @@ struct SystemWording {
     QString gitMissingError;
     // Why the projects folder is not removed from the dashboard.
     QString developerFolderNote;
+    // The terminal screen: its title and the line under it, "%1" standing for the tool's name.
+    QString toolLaunchedTitle;
+    QString switchToTerminal;
 };
 
 // The dashboard's developer-tools item: on macOS the Xcode Command Line Tools, on Linux git
@@ -71,6 +75,10 @@ struct DiskSpace {
     QString error;
 };
 
+// Told once what became of a terminal launch: true when a window was opened, false when none
+// could be (the reason went to standard output).
+using TerminalOutcome = std::function<void(bool opened)>;
+
 // The only place that knows which operating system Quillforge runs on: the application makes
 // one at start (`createNativePlatform()`) and hands it on; tests use a fake.
 class Platform {
@@ -99,9 +107,10 @@ public:
     virtual QStringList globalNpmPrograms() const = 0;
 
     // Brings a terminal to the front with one new window that changes to `directory` (a
-    // leading "~/" is expanded by the shell there) and runs `command`. Failures are reported
-    // as one diagnostic line on standard output and nowhere else.
-    virtual void openTerminal(const QString& command, const QString& directory) = 0;
+    // leading "~/" is expanded by the shell there) and runs `command`. A failure is one
+    // diagnostic line on standard output; `outcome` (when given) learns whether a window
+    // opened, right away or once the system has answered.
+    virtual void openTerminal(const QString& command, const QString& directory, TerminalOutcome outcome) = 0;
     // Which terminal `openTerminal` would use, in words (for the support probe).
     virtual QString terminalDescription() const = 0;
 

@@ -19,7 +19,7 @@ public:
     OperatingSystemCheck checkOperatingSystem() const override;
     QStringList programDirectories() const override;
     QStringList globalNpmPrograms() const override;
-    void openTerminal(const QString& command, const QString& directory) override;
+    void openTerminal(const QString& command, const QString& directory, TerminalOutcome outcome) override;
     QString terminalDescription() const override;
     DeveloperToolsItem developerToolsItem() const override;
     void startDeveloperToolsInstaller() override;
@@ -52,7 +52,7 @@ public:
     OperatingSystemCheck checkOperatingSystem() const override;
     QStringList programDirectories() const override;
     QStringList globalNpmPrograms() const override;
-    void openTerminal(const QString& command, const QString& directory) override;
+    void openTerminal(const QString& command, const QString& directory, TerminalOutcome outcome) override;
     QString terminalDescription() const override;
     DeveloperToolsItem developerToolsItem() const override;
     void startDeveloperToolsInstaller() override;

@@ -4,9 +4,9 @@
 
 namespace qf {
 
-void TerminalLauncher::openInTerminal(const QString& command, const QString& directory)
+void TerminalLauncher::openInTerminal(const QString& command, const QString& directory, TerminalOutcome outcome)
 {
-    m_platform.openTerminal(command, directory);
+    m_platform.openTerminal(command, directory, std::move(outcome));
 }
 
 } // namespace qf

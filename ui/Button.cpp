@@ -1,5 +1,6 @@
 #include "Button.h"
 
+#include "ActivityIndicator.h"
 #include "Surface.h"
 
 #include <QBoxLayout>
@@ -259,6 +260,9 @@ void Button::paintEvent(QPaintEvent*)
         drawFocusRing(painter, continuousRoundedRect(bounds.adjusted(in, in, -in, -in), isFilled() ? radius - 1 : 4));
     }
 
+    if (showsActivity())
+        return;
+
     // Content, centred.
     QColor content = contentColor();
     if ((m_style == Style::plain || m_style == Style::borderless || m_style == Style::link) && isDown())
@@ -298,6 +302,31 @@ void Button::keyPressEvent(QKeyEvent* event)
         return;
     }
     QAbstractButton::keyPressEvent(event);
+}
+
+void Button::setShowsActivity(bool shows)
+{
+    if (shows == showsActivity())
+        return;
+    if (shows && !m_activity) {
+        m_activity = new ActivityIndicator(m_size == Size::large ? 14 : 11, Tint(Role::secondary), this);
+        m_activity->setAttribute(Qt::WA_TransparentForMouseEvents);
+    }
+    if (m_activity) {
+        m_activity->resize(m_activity->sizeHint());
+        m_activity->move((width() - m_activity->width()) / 2, (height() - m_activity->height()) / 2);
+        m_activity->setVisible(shows);
+    }
+    update();
+}
+
+bool Button::showsActivity() const { return m_activity && !m_activity->isHidden(); }
+
+void Button::resizeEvent(QResizeEvent* event)
+{
+    QAbstractButton::resizeEvent(event);
+    if (m_activity)
+        m_activity->move((width() - m_activity->width()) / 2, (height() - m_activity->height()) / 2);
 }
 
 bool Button::event(QEvent* event)

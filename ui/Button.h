@@ -10,6 +10,8 @@ class QHBoxLayout;
 
 namespace qf::ui {
 
+class ActivityIndicator;
+
 // The push button of the design, drawn the same on every platform:
 //  - prominent: filled with the tint (the accent by default), white content;
 //  - tinted: the tint at 10% behind content in the tint, 18% while the pointer is over it;
@@ -47,6 +49,9 @@ public:
     void setContentPadding(int horizontal, int vertical);
     // Corner radius of the filled styles (by default 8 for large buttons, 6 otherwise).
     void setCornerRadius(qreal radius);
+    // A small spinning indicator in place of the content, the button keeping its size.
+    void setShowsActivity(bool shows);
+    bool showsActivity() const;
     // Draws the whole button at this opacity (for fading it in and out).
     void setOpacity(qreal opacity);
     qreal opacity() const { return m_opacity; }
@@ -58,6 +63,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     struct SymbolPart {
@@ -92,6 +98,7 @@ private:
     int m_vPadding = -1;
     qreal m_cornerRadius = -1;
     qreal m_opacity = 1.0;
+    ActivityIndicator* m_activity = nullptr;
     // The pointer's presence, eased in and out for the tinted style.
     motion::Transition m_hover;
 };

@@ -6,6 +6,7 @@
 #include <QPair>
 
 #include <optional>
+#include <utility>
 
 namespace qf::test {
 
@@ -24,9 +25,22 @@ public:
     }
     QStringList programDirectories() const override { return directories; }
     QStringList globalNpmPrograms() const override { return npmPrograms; }
-    void openTerminal(const QString& command, const QString& directory) override
+    void openTerminal(const QString& command, const QString& directory, TerminalOutcome outcome) override
     {
         terminals.append({command, directory});
+        if (!outcome)
+            return;
+        if (holdTerminalOutcomes)
+            heldOutcomes.append({std::move(outcome), terminalOpens});
+        else
+            outcome(terminalOpens);
+    }
+    // Answers the held launches, oldest first, as a Mac does once osascript has ended.
+    void releaseTerminalOutcomes()
+    {
+        const auto held = std::exchange(heldOutcomes, {});
+        for (const auto& [outcome, opened] : held)
+            outcome(opened);
     }
     QString terminalDescription() const override { return QStringLiteral("fake terminal"); }
     void revealFolder(const QString& path) override { revealed.append(path); }
@@ -43,10 +57,14 @@ public:
     QStringList npmPrograms;
     DeveloperToolsItem developerTools = MacPlatform::commandLineToolsItem();
     QString nodeInstallCommand = QStringLiteral("fake-node-installer");
+    // Whether a terminal window opens; whether the answer waits for `releaseTerminalOutcomes`.
+    bool terminalOpens = true;
+    bool holdTerminalOutcomes = false;
 
     int windowsConfigured = 0;
     int installersStarted = 0;
     QList<QPair<QString, QString>> terminals;
+    QList<QPair<TerminalOutcome, bool>> heldOutcomes;
     QStringList revealed;
     QList<QUrl> openedURLs;
 };

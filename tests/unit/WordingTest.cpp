@@ -14,7 +14,7 @@ using namespace qf;
 
 namespace {
 
-const QRegularExpression kMacWords(QStringLiteral("\\b(Mac|macOS|Xcode|Finder|Apple)\\b"));
+const QRegularExpression kMacWords(QStringLiteral("\\b(Mac|macOS|Xcode|Finder|Apple|Terminal\\.app)\\b"));
 
 QMap<QString, QString> debian()
 {
@@ -28,7 +28,8 @@ QStringList readableTexts(const Platform& platform)
     const SystemWording& wording = platform.wording();
     QStringList texts = {wording.osRequirementTitle, wording.osRequirementHelp, wording.osRequirementFix,
                          wording.diskSpaceHelp,      wording.nodeFixSuggestion, wording.toolInstallStep,
-                         wording.gitMissingLog,      wording.gitMissingError,   wording.developerFolderNote};
+                         wording.gitMissingLog,      wording.gitMissingError,   wording.developerFolderNote,
+                         wording.toolLaunchedTitle,  wording.switchToTerminal};
     for (SystemRequirement requirement : SystemRequirement::allCases())
         texts << requirement.title(wording) << requirement.helpText(wording) << requirement.fixSuggestion(wording);
     for (CLITool tool : CLITool::allCases()) {

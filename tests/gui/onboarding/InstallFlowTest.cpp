@@ -1,5 +1,6 @@
 #include "AccountSetupView.h"
 #include "ContentView.h"
+#include "FlowWindowTest.h"
 #include "InstallationState.h"
 #include "InstallationView.h"
 #include "Label.h"
@@ -7,7 +8,6 @@
 #include "MainWindow.h"
 #include "SharedComponents.h"
 #include "SystemCheckView.h"
-#include "TestMachine.h"
 #include "TestSupport.h"
 #include "WelcomeView.h"
 
@@ -24,68 +24,7 @@ using namespace qf;
 
 namespace {
 
-// The real window with the real screens, working on a sandboxed machine with fake programs.
-class InstallFlowTest : public ::testing::Test, protected test::TestMachine {
-protected:
-    void SetUp() override { test::clearPreferences(); }
-
-    // The window on `step`, with `tool` chosen as the dashboard's "Install" does.
-    void open(InstallationStep step, std::optional<CLITool> tool, QSize size = {900, 700})
-    {
-        window.reset();
-        state.setSelectedTool(tool);
-        state.setCurrentStep(step);
-        window = std::make_unique<MainWindow>(state, services);
-        window->show();
-        window->resize(size);
-        QApplication::setActiveWindow(window.get());
-        test::settle();
-    }
-    QWidget* screen() const { return window->contentView()->currentScreen(); }
-    template <typename T>
-    T* screenAs() const
-    {
-        auto* shown = qobject_cast<T*>(screen());
-        EXPECT_NE(shown, nullptr) << "on " << screen()->objectName().toStdString();
-        return shown;
-    }
-    ui::Button* button(const char* name) const { return test::child<ui::Button>(screen(), QLatin1String(name)); }
-    void click(const char* name) const
-    {
-        auto* target = test::child<QAbstractButton>(screen(), QLatin1String(name));
-        ASSERT_TRUE(target && target->isVisible() && target->isEnabled()) << name;
-        target->click();
-        test::settle();
-    }
-    QString text(const char* name) const { return test::child<QLabel>(screen(), QLatin1String(name))->text(); }
-
-    void waitForCheck() const
-    {
-        auto* check = screenAs<SystemCheckView>();
-        ASSERT_TRUE(QTest::qWaitFor([check] { return !check->isChecking(); }, 20000));
-    }
-    InstallationController& controller() const { return window->installationController(); }
-    void waitForInstallation() const
-    {
-        // The screen's attempt may wait for an earlier run before it starts its own.
-        ASSERT_TRUE(
-            QTest::qWaitFor([this] { return !controller().isInstalling() && !controller().isRunning(); }, 20000));
-        test::settle();
-    }
-    SetupStep step(SetupStepType type) const
-    {
-        for (SetupStepRow* row : screenAs<InstallationView>()->progressView()->rows()) {
-            if (row->step().type == type)
-                return row->step();
-        }
-        ADD_FAILURE() << "no row for " << type.rawValue().toStdString();
-        return {type};
-    }
-    static bool shows(const QWidget* widget) { return widget && widget->isVisible(); }
-
-    InstallationState state;
-    std::unique_ptr<MainWindow> window;
-};
+class InstallFlowTest : public test::FlowWindowTest {};
 
 } // namespace
 
@@ -303,7 +242,6 @@ TEST_F(InstallFlowTest, TheLogShowsEveryByteAndCanBeCopied)
     open(InstallationStep::installation, CLITool::geminiCLI);
     auto* view = screenAs<InstallationView>();
     ui::LogView* log = view->logView();
-    EXPECT_FALSE(shows(test::child(screen(), QStringLiteral("logSection")))); // nothing to show yet
     QTest::mouseClick(test::child<QWidget>(screen(), QStringLiteral("detailsButton")), Qt::LeftButton);
     EXPECT_TRUE(view->showDetails());
     waitForInstallation();

@@ -258,7 +258,10 @@ TEST_P(LinuxPlatformOpenTerminal, RunsTheLineInTheDirectoryAndEndsInTheShell)
     EXPECT_EQ(platform.terminalDescription(),
               emulatorName + QStringLiteral(" (") + bin + QLatin1Char('/') + emulatorName + QLatin1Char(')'));
     qf::test::StdoutCapture capture;
-    platform.openTerminal(QStringLiteral("pwd > ") + qf::shellQuote(pwdFile), QStringLiteral("~/") + relative);
+    std::optional<bool> opened;
+    platform.openTerminal(QStringLiteral("pwd > ") + qf::shellQuote(pwdFile), QStringLiteral("~/") + relative,
+                          [&opened](bool answer) { opened = answer; });
+    EXPECT_EQ(opened, true);
     const auto read = [](const QString& path) {
         QFile file(path);
         return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QStringLiteral("<missing>");
@@ -303,9 +306,12 @@ TEST(LinuxPlatformOpenTerminalFailures, NoEmulatorIsOneDiagnosticLine)
     LinuxPlatform platform;
     EXPECT_EQ(platform.terminalDescription(), QStringLiteral("no terminal emulator found"));
     qf::test::StdoutCapture capture;
-    platform.openTerminal(QStringLiteral("claude"), QStringLiteral("~/Developer"));
+    std::optional<bool> opened;
+    platform.openTerminal(QStringLiteral("claude"), QStringLiteral("~/Developer"),
+                          [&opened](bool answer) { opened = answer; });
     const QString printed = capture.text();
     capture.restore();
+    EXPECT_EQ(opened, false);
     EXPECT_EQ(printed, QStringLiteral("Terminal error: no terminal emulator found (looked for xdg-terminal-exec, "
                                       "x-terminal-emulator, gnome-terminal, konsole, xfce4-terminal, xterm)\n"));
 }
@@ -318,9 +324,12 @@ TEST(LinuxPlatformOpenTerminalFailures, EmulatorThatCannotStartIsOneDiagnosticLi
     qf::test::ScopedEnv pathEnv("PATH", bin.path().toUtf8());
 
     qf::test::StdoutCapture capture;
-    LinuxPlatform().openTerminal(QStringLiteral("claude"), QStringLiteral("~/Developer"));
+    std::optional<bool> opened;
+    LinuxPlatform().openTerminal(QStringLiteral("claude"), QStringLiteral("~/Developer"),
+                                 [&opened](bool answer) { opened = answer; });
     const QString printed = capture.text();
     capture.restore();
+    EXPECT_EQ(opened, false);
     EXPECT_TRUE(printed.startsWith(QStringLiteral("Terminal error: "))) << printed.toStdString();
     EXPECT_GT(printed.trimmed().size(), QStringLiteral("Terminal error:").size()) << "the reason is missing";
     EXPECT_EQ(printed.count(QLatin1Char('\n')), 1) << printed.toStdString();

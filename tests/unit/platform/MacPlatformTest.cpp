@@ -81,8 +81,10 @@ TEST(MacPlatformTerminal, LaunchFailureIsOneDiagnosticLine)
         GTEST_SKIP() << "osascript is present; opening Terminal is not hermetic";
 
     qf::test::StdoutCapture capture;
-    MacPlatform().openTerminal(QStringLiteral("claude"), QStringLiteral("~/Developer"));
-    const bool reported = QTest::qWaitFor([&] { return capture.text().contains(QLatin1Char('\n')); }, 20000);
+    std::optional<bool> opened;
+    MacPlatform().openTerminal(QStringLiteral("claude"), QStringLiteral("~/Developer"),
+                               [&opened](bool answer) { opened = answer; });
+    const bool reported = QTest::qWaitFor([&] { return opened && capture.text().contains(QLatin1Char('\n')); }, 20000);
     // Lets the failed process be deleted and anything else it might print come out.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QCoreApplication::processEvents();
@@ -90,6 +92,7 @@ TEST(MacPlatformTerminal, LaunchFailureIsOneDiagnosticLine)
     capture.restore();
 
     ASSERT_TRUE(reported) << text.toStdString();
+    EXPECT_EQ(opened, false);
     EXPECT_TRUE(text.startsWith(QStringLiteral("AppleScript error: "))) << text.toStdString();
     EXPECT_GT(text.trimmed().size(), QStringLiteral("AppleScript error:").size()) << "the reason is missing";
     EXPECT_EQ(text.count(QLatin1Char('\n')), 1) << text.toStdString();

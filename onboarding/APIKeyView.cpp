@@ -1,0 +1,183 @@
+#include "APIKeyView.h"
+
+#include "InstallationState.h"
+#include "Services.h"
+
+#include "Label.h"
+#include "Layout.h"
+#include "Symbol.h"
+#include "TextField.h"
+
+#include <QCoro/QCoroTask>
+#include <QDir>
+
+namespace qf {
+
+using namespace ui;
+
+namespace {
+
+// A card of the screen: a rounded panel on the control background with its content inside.
+QVBoxLayout* card(QVBoxLayout* column, const QString& objectName)
+{
+    auto* panel = new RoundedCard;
+    panel->setObjectName(objectName);
+    panel->setCornerRadius(12);
+    panel->setFill(Tint(Role::controlBackground));
+    column->addWidget(panel);
+    return vstack(panel, 12, QMargins(16, 16, 16, 16));
+}
+
+} // namespace
+
+QString APIKeyView::displayedPath(const QString& path, const QString& home)
+{
+    if (!home.isEmpty() && home != QLatin1String("/") && path.startsWith(home + QLatin1Char('/')))
+        return QLatin1Char('~') + path.sliced(home.size());
+    return path;
+}
+
+APIKeyView::APIKeyView(InstallationState& state, Services& services, QWidget* parent)
+    : FlowScreen(QStringLiteral("apiKeyView"), tr("Set Up API Key"), parent),
+      m_state(state),
+      m_installer(services.installer)
+{
+    QVBoxLayout* column = makeColumn(20, 32);
+    if (const std::optional<CLITool> tool = m_state.selectedTool())
+        buildContent(*tool, services.platform, services.detector.shellProfilePath(), column);
+    column->addStretch(1);
+
+    m_skip = new Button(tr("Skip for Now"), Button::Style::bordered, Button::Size::large);
+    m_skip->setObjectName(QStringLiteral("skipButton"));
+    connect(m_skip, &QAbstractButton::clicked, this, [this] { m_state.goToNextStep(); });
+    bottomBar()->addWidget(m_skip);
+    bottomBar()->addStretch(1);
+    m_save = flow::mainButton(tr("Save & Continue"), QStringLiteral("saveButton"));
+    connect(m_save, &QAbstractButton::clicked, this, &APIKeyView::save);
+    bottomBar()->addWidget(m_save);
+    setDefaultButton(m_save);
+    render();
+}
+
+void APIKeyView::buildContent(CLITool tool, Platform& platform, const QString& profile, QVBoxLayout* column)
+{
+    const QColor brand = tool.brandColor();
+
+    auto* header = vstack(12, QMargins(24, 0, 24, 0));
+    auto* badge = new IconTile(QSize(56, 56), Shape::rounded(14), Tint(brand, 0.15));
+    badge->setSymbol(QStringLiteral("key.fill"), 24, Tint(brand));
+    header->addWidget(badge, 0, Qt::AlignHCenter);
+    auto* title = flow::centredText(tr("Set Up API Key"), Theme::font(22, QFont::Bold));
+    title->setObjectName(QStringLiteral("apiKeyTitle"));
+    header->addWidget(title);
+    header->addWidget(flow::centredText(tr("Get your API key to start using ") + tool.displayName(), Theme::body(),
+                                        Tint(Role::secondary)));
+    column->addLayout(header);
+
+    auto* cards = vstack(16, QMargins(24, 0, 24, 0));
+
+    // Step 1: where the key comes from.
+    QVBoxLayout* first = card(cards, QStringLiteral("getKeyCard"));
+    first->addWidget(new Label(tr("Step 1: Get your API key"), Theme::headline()));
+    auto* explanation = new Label(tr("Click the button below to open %1's console where you can create or copy your "
+                                     "API key.")
+                                      .arg(tool.provider()),
+                                  Theme::callout());
+    explanation->setWrapping(true);
+    first->addWidget(explanation);
+    auto* console = new Button(tr("Open %1 Console").arg(tool.provider()), Button::Style::bordered);
+    console->setObjectName(QStringLiteral("openConsoleButton"));
+    console->setTrailingSymbol(QStringLiteral("arrow.up.right.square"), 12);
+    connect(console, &QAbstractButton::clicked, this, [&platform, tool] { platform.openURL(tool.apiKeyURL()); });
+    first->addWidget(console, 0, Qt::AlignLeft);
+
+    // Step 2: the key itself.
+    QVBoxLayout* second = card(cards, QStringLiteral("pasteKeyCard"));
+    second->addWidget(new Label(tr("Step 2: Paste your API key"), Theme::headline()));
+    auto* fieldRow = hstack(8);
+    m_field = new TextField(tr("Paste your API key here"));
+    m_field->setObjectName(QStringLiteral("apiKeyField"));
+    m_field->setAccessibleName(tr("API key"));
+    m_field->setSecure(true);
+    connect(m_field, &QLineEdit::textChanged, this, [this] {
+        m_saveError.reset();
+        render();
+    });
+    fieldRow->addWidget(m_field, 1);
+    m_eye = new Button(QString(), Button::Style::borderless);
+    m_eye->setObjectName(QStringLiteral("showKeyButton"));
+    m_eye->setContentTint(Tint(Role::secondary));
+    connect(m_eye, &QAbstractButton::clicked, this, [this] {
+        m_showKey = !m_showKey;
+        render();
+    });
+    fieldRow->addWidget(m_eye, 0, Qt::AlignVCenter);
+    second->addLayout(fieldRow);
+
+    // Why the last save failed, until the key is edited.
+    m_errorRow = new QWidget;
+    m_errorRow->setObjectName(QStringLiteral("saveErrorRow"));
+    auto* errorLine = hstack(m_errorRow, 6);
+    errorLine->addWidget(new SymbolView(QStringLiteral("exclamationmark.triangle.fill"), 10, Tint(Role::red)), 0,
+                         Qt::AlignTop);
+    m_errorText = new Label(QString(), Theme::caption(), Tint(Role::red));
+    m_errorText->setObjectName(QStringLiteral("saveError"));
+    m_errorText->setWrapping(true);
+    m_errorText->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    errorLine->addWidget(m_errorText, 1);
+    second->addWidget(m_errorRow);
+
+    auto* caption = new Label(tr("This will be saved to your shell profile (%1) as %2")
+                                  .arg(displayedPath(profile, QDir::homePath()), tool.apiKeyEnvVar()),
+                              Theme::caption(), Tint(Role::secondary));
+    caption->setObjectName(QStringLiteral("profileCaption"));
+    caption->setWrapping(true);
+    second->addWidget(caption);
+    column->addLayout(cards);
+}
+
+void APIKeyView::save()
+{
+    const std::optional<CLITool> tool = m_state.selectedTool();
+    if (!tool || !m_field || m_isSaving)
+        return;
+    // Blanks are a key like any other; only an empty field has nothing to save.
+    const QString key = m_field->text();
+    if (key.isEmpty())
+        return;
+    m_isSaving = true;
+    m_saveError.reset();
+    render();
+    QCoro::connect(m_installer.saveAPIKey(key, *tool), this, [this, key](const Result<void>& saved) {
+        m_isSaving = false;
+        if (saved) {
+            m_state.setApiKey(key);
+            m_state.goToNextStep();
+            return;
+        }
+        const QString reason = saved.error().errorDescription();
+        m_state.setErrorMessage(reason);
+        m_saveError = reason;
+        render();
+    });
+}
+
+void APIKeyView::render()
+{
+    const bool hasField = m_field != nullptr;
+    if (hasField) {
+        m_field->setSecure(!m_showKey);
+        m_field->setReadOnly(m_isSaving);
+        m_eye->setLeadingSymbol(m_showKey ? QStringLiteral("eye.slash") : QStringLiteral("eye"), 13);
+        m_eye->setAccessibleName(m_showKey ? tr("Hide key") : tr("Show key"));
+        m_eye->setToolTip(m_eye->accessibleName());
+        m_errorRow->setVisible(m_saveError.has_value());
+        m_errorText->setText(m_saveError.value_or(QString()));
+    }
+    m_save->setEnabled(hasField && !m_field->text().isEmpty() && !m_isSaving);
+    m_save->setShowsActivity(m_isSaving);
+    m_save->setAccessibleDescription(m_isSaving ? tr("Saving") : QString());
+    m_skip->setEnabled(!m_isSaving);
+}
+
+} // namespace qf

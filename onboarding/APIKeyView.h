@@ -1,0 +1,55 @@
+#pragma once
+
+#include "FlowScreen.h"
+
+#include <optional>
+
+namespace qf {
+
+class InstallationState;
+class Platform;
+class Services;
+class ToolInstaller;
+
+namespace ui {
+class Label;
+class TextField;
+} // namespace ui
+
+// Stores the chosen tool's API key in the user's shell profile: where to get a key (the maker's
+// console), a field to paste it into (masked unless the eye button shows it) and "Save &
+// Continue", or "Skip for Now". Both lead on to the completion screen. A save that fails
+// stays here with its reason under the field; editing the key clears it.
+class APIKeyView : public FlowScreen {
+    Q_OBJECT
+
+public:
+    APIKeyView(InstallationState& state, Services& services, QWidget* parent = nullptr);
+
+    bool isSaving() const { return m_isSaving; }
+    bool showKey() const { return m_showKey; }
+    ui::TextField* keyField() const { return m_field; }
+
+    // "~/.zshrc" for a profile in the home folder; other paths as they are.
+    static QString displayedPath(const QString& path, const QString& home);
+
+private:
+    void buildContent(CLITool tool, Platform& platform, const QString& profile, QVBoxLayout* column);
+    void save();
+    void render();
+
+    InstallationState& m_state;
+    ToolInstaller& m_installer;
+    bool m_isSaving = false;
+    bool m_showKey = false;
+    std::optional<QString> m_saveError;
+
+    ui::TextField* m_field = nullptr;
+    ui::Button* m_eye = nullptr;
+    QWidget* m_errorRow = nullptr;
+    ui::Label* m_errorText = nullptr;
+    ui::Button* m_skip;
+    ui::Button* m_save;
+};
+
+} // namespace qf

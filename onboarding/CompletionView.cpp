@@ -1,0 +1,291 @@
+#include "CompletionView.h"
+
+#include "FlowScreen.h"
+#include "InstallationState.h"
+#include "Services.h"
+#include "TerminalFallback.h"
+
+#include "ImageView.h"
+#include "Label.h"
+#include "Layout.h"
+#include "Surface.h"
+#include "Symbol.h"
+
+#include <QPainter>
+#include <QScrollBar>
+
+namespace qf {
+
+using namespace ui;
+
+namespace {
+
+// Code in a box on the text background: commands to copy.
+RoundedCard* codeBox(const QString& code, const QFont& font, QMargins padding, qreal radius)
+{
+    auto* box = new RoundedCard;
+    box->setCornerRadius(radius);
+    box->setFill(Tint(Role::textBackground));
+    box->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
+    auto* text = new Label(code, font);
+    text->setObjectName(QStringLiteral("code"));
+    text->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    // As wide as the command on one line; a long one wraps rather than widening the screen
+    // past a small window.
+    text->setWrapping(true, 4);
+    hstack(box, 0, padding)->addWidget(text);
+    return box;
+}
+
+// A card's place in the column: full width, 24 points in from the sides.
+QHBoxLayout* inset(QWidget* card)
+{
+    auto* row = hstack(0, QMargins(24, 0, 24, 0));
+    row->addWidget(card);
+    return row;
+}
+
+} // namespace
+
+CommandRow::CommandRow(const QString& command, const QString& description, std::function<void()> onCopy,
+                       QWidget* parent)
+    : QWidget(parent), m_command(command)
+{
+    setObjectName(QStringLiteral("commandRow"));
+    auto* column = vstack(this, 4, QMargins(0, 4, 0, 4));
+    auto* row = hstack(6);
+    row->addWidget(codeBox(command, Theme::font(10, QFont::Normal, FontDesign::monospaced), QMargins(8, 4, 8, 4), 4));
+    row->addStretch(1);
+    auto* copy = new CopyButton(command, CopyButton::CopyButtonStyle::small, std::move(onCopy));
+    copy->setAccessibleName(tr("Copy %1").arg(command));
+    row->addWidget(copy, 0, Qt::AlignVCenter);
+    column->addLayout(row);
+    auto* text = new Label(description, Theme::caption(), Tint(Role::secondary));
+    text->setObjectName(QStringLiteral("commandDescription"));
+    text->setWrapping(true);
+    column->addWidget(text);
+}
+
+CommonCommandsCard::CommonCommandsCard(CLITool tool, const std::function<void()>& onCopy, QWidget* parent)
+    : DisclosureCard(QStringLiteral("command.square.fill"), Tint(Role::purple), tr("Common Commands"), parent)
+{
+    setObjectName(QStringLiteral("commonCommandsCard"));
+    setFill(Tint(Role::controlBackground));
+    header()->setObjectName(QStringLiteral("commonCommandsHeader"));
+    auto* body = new QWidget;
+    auto* list = vstack(body, 8);
+    for (const ExampleCommand& example : tool.exampleCommands())
+        list->addWidget(new CommandRow(example.command, example.description, onCopy));
+    setBody(body, 12, motion::defaultDurationMs, motion::easeInOut());
+    connect(this, &DisclosureCard::toggled, this, [this] { setExpanded(!isExpanded()); });
+}
+
+QList<CommandRow*> CommonCommandsCard::rows() const { return findChildren<CommandRow*>(); }
+
+StepRow::StepRow(int number, const QString& title, const std::optional<QString>& command, std::function<void()> onCopy,
+                 QWidget* parent)
+    : QWidget(parent), m_number(number), m_command(command)
+{
+    setObjectName(QStringLiteral("stepRow.%1").arg(number));
+    auto* row = hstack(this, 12);
+    auto* badge = new IconTile(QSize(24, 24), Shape::circle(), Tint(Role::accent, 0.15));
+    badge->setText(QString::number(number), Theme::font(10, QFont::Bold), Tint(Role::accent));
+    row->addWidget(badge, 0, Qt::AlignTop);
+    auto* column = vstack(4);
+    auto* heading = new Label(title, Theme::font(11, QFont::Bold));
+    heading->setObjectName(QStringLiteral("stepTitle"));
+    heading->setWrapping(true);
+    column->addWidget(heading);
+    if (command) {
+        auto* commandRow = hstack(6);
+        commandRow->addWidget(
+            codeBox(*command, Theme::font(10, QFont::Normal, FontDesign::monospaced), QMargins(6, 3, 6, 3), 4), 1);
+        auto* copy = new CopyButton(*command, CopyButton::CopyButtonStyle::small, std::move(onCopy));
+        copy->setAccessibleName(tr("Copy %1").arg(*command));
+        commandRow->addWidget(copy, 0, Qt::AlignVCenter);
+        commandRow->addStretch(0);
+        column->addLayout(commandRow);
+    }
+    row->addLayout(column, 1);
+}
+
+FirstProjectTipsCard::FirstProjectTipsCard(const std::function<void()>& onCopy, QWidget* parent)
+    : DisclosureCard(QStringLiteral("star.fill"), Tint(Role::yellow), tr("Your First Project"), parent)
+{
+    setObjectName(QStringLiteral("firstProjectCard"));
+    setFill(Tint(Role::yellow, 0.05));
+    setStroke(Tint(Role::yellow, 0.2), 1);
+    header()->setObjectName(QStringLiteral("firstProjectHeader"));
+    auto* body = new QWidget;
+    auto* list = vstack(body, 16);
+    list->addWidget(new StepRow(
+        1, tr("Create a project folder"),
+        QStringLiteral("mkdir -p ~/Developer/my-first-project && cd ~/Developer/my-first-project"), onCopy));
+    list->addWidget(
+        new StepRow(2, tr("Initialize git (optional but recommended)"), QStringLiteral("git init"), onCopy));
+    list->addWidget(new StepRow(3, tr("Start your AI assistant"), std::nullopt, onCopy));
+    auto* ask = new Label(tr("Try asking: \"Help me build a simple todo list app\""), Theme::caption(),
+                          Tint(Role::secondary));
+    ask->setObjectName(QStringLiteral("tryAsking"));
+    ask->setWrapping(true);
+    // Lined up with the steps' titles, after the badge and its gap.
+    ask->setContentsMargins(32, 0, 0, 0);
+    list->addWidget(ask);
+    setBody(body, 12, motion::defaultDurationMs, motion::easeInOut());
+    setExpanded(true, false);
+    connect(this, &DisclosureCard::toggled, this, [this] { setExpanded(!isExpanded()); });
+}
+
+QList<StepRow*> FirstProjectTipsCard::steps() const { return findChildren<StepRow*>(); }
+
+CompletionView::CompletionView(InstallationState& state, Services& services, QWidget* parent)
+    : QWidget(parent), m_state(state)
+{
+    setObjectName(QStringLiteral("completionView"));
+    const std::optional<CLITool> tool = m_state.selectedTool();
+    setAccessibleName(tr("Ready to use"));
+    auto* root = vstack(this, 0);
+
+    // The bar at the top: back to the dashboard, and the tool in a terminal window.
+    auto* bar = new RoundedCard;
+    bar->setObjectName(QStringLiteral("topBar"));
+    bar->setShape(Shape::rounded(0));
+    bar->setFill(Tint(Role::controlBackground));
+    auto* barColumn = vstack(bar, 0);
+    auto* barRow = hstack(16, QMargins(24, 16, 24, 16));
+    auto* home = new Button(tr("Home"), Button::Style::bordered, Button::Size::large);
+    home->setObjectName(QStringLiteral("homeButton"));
+    home->setLeadingSymbol(QStringLiteral("chevron.left"), 12, SymbolWeight::semibold);
+    home->setSpacing(6);
+    home->setLabelWidth(80);
+    connect(home, &QAbstractButton::clicked, this, [this] {
+        m_state.reset();
+        m_state.setCurrentStep(InstallationStep::home);
+    });
+    barRow->addWidget(home);
+    barRow->addStretch(1);
+    if (tool) {
+        m_launch = new ToolLaunch(services.terminal, tool->commandName(), this);
+        auto* open = new Button(tr("Open in Terminal"), Button::Style::prominent, Button::Size::large);
+        open->setObjectName(QStringLiteral("openInTerminalButton"));
+        open->setTint(Tint(tool->brandColor()));
+        open->setLeadingSymbol(QStringLiteral("terminal.fill"), 13);
+        open->setSpacing(8);
+        open->setMinimumLabelWidth(160);
+        connect(open, &QAbstractButton::clicked, m_launch, &ToolLaunch::open);
+        barRow->addWidget(open);
+    }
+    barColumn->addLayout(barRow);
+    barColumn->addWidget(divider());
+    root->addWidget(bar);
+
+    m_scroll = new ScrollView;
+    m_scroll->setObjectName(QStringLiteral("completionScroll"));
+    m_scroll->setAccessibleName(accessibleName());
+    auto* column = vstack(m_scroll->content(), 24, QMargins(0, 0, 0, 24));
+    if (tool) {
+        // Shown when a terminal window could not be opened, where the button that tried is.
+        m_fallback = new TerminalFallbackRow(m_launch->typedLine(), [this] { m_toast->present(); });
+        auto* fallbackRow = hstack(0, QMargins(24, 16, 24, 0));
+        fallbackRow->addWidget(m_fallback);
+        column->addLayout(fallbackRow);
+        buildContent(*tool, column);
+        connect(m_launch, &ToolLaunch::failedChanged, this, [this] {
+            render();
+            if (m_launch->failed())
+                m_scroll->verticalScrollBar()->setValue(0);
+        });
+    }
+    column->addStretch(1);
+    root->addWidget(m_scroll, 1);
+
+    m_toast = new CopiedToastPresenter(this, 32);
+    render();
+}
+
+void CompletionView::buildContent(CLITool tool, QVBoxLayout* column)
+{
+    const QColor brand = tool.brandColor();
+    const auto onCopy = [this] { m_toast->present(); };
+
+    // The tool's logo and the good news.
+    auto* header = vstack(16, QMargins(24, 24, 24, 0));
+    auto* logo = new ImageView(tool.logoImageName(), 72);
+    logo->setObjectName(QStringLiteral("toolLogo"));
+    logo->setAccessibleName(tool.displayName());
+    logo->setFixedImageSize(QSize(72, 72));
+    logo->setCornerRadius(16);
+    SurfaceEffect::of(logo)->setShadow(ShadowStyle{Tint(brand, 0.3), 12, {0, 6}}, Shape::rounded(16));
+    header->addWidget(logo, 0, Qt::AlignHCenter);
+    auto* titles = vstack(6);
+    const bool opened = m_state.isOpeningExistingTool();
+    auto* title = flow::centredText(opened ? tool.displayName() : tr("You're All Set!"), Theme::font(22, QFont::Bold));
+    title->setObjectName(QStringLiteral("completionTitle"));
+    titles->addWidget(title);
+    auto* subtitle = flow::centredText(opened ? tr("Ready to use")
+                                              : tool.displayName() + tr(" is installed and ready to use"),
+                                       Theme::body(), Tint(Role::secondary));
+    subtitle->setObjectName(QStringLiteral("completionSubtitle"));
+    titles->addWidget(subtitle);
+    header->addLayout(titles);
+    column->addLayout(header);
+
+    // Quick start: the command to try, and how signing in works.
+    auto* quickStart = new RoundedCard;
+    quickStart->setObjectName(QStringLiteral("quickStartCard"));
+    quickStart->setCornerRadius(12);
+    quickStart->setFill(Tint(Role::controlBackground));
+    auto* quick = vstack(quickStart, 12, QMargins(16, 16, 16, 16));
+    quick->addWidget(new Label(tr("Quick Start"), Theme::headline()));
+    auto* tryColumn = vstack(8);
+    tryColumn->addWidget(new Label(tr("Open Terminal and try:"), Theme::callout(), Tint(Role::secondary)));
+    auto* tryBox = new RoundedCard;
+    tryBox->setObjectName(QStringLiteral("tryCommandBox"));
+    tryBox->setCornerRadius(8);
+    tryBox->setFill(Tint(Role::textBackground));
+    auto* tryRow = hstack(tryBox, 8, QMargins(12, 12, 12, 12));
+    auto* tryText = new Label(tool.tryCommand(), Theme::font(13, QFont::Normal, FontDesign::monospaced));
+    tryText->setObjectName(QStringLiteral("tryCommand"));
+    tryText->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    tryRow->addWidget(tryText, 1);
+    auto* copyTry = new CopyButton(tool.tryCommand(), CopyButton::CopyButtonStyle::regular, onCopy);
+    copyTry->setObjectName(QStringLiteral("copyTryCommand"));
+    copyTry->setAccessibleName(tr("Copy %1").arg(tool.tryCommand()));
+    tryRow->addWidget(copyTry, 0, Qt::AlignVCenter);
+    tryColumn->addWidget(tryBox);
+    quick->addLayout(tryColumn);
+
+    auto* signIn = new RoundedCard;
+    signIn->setObjectName(QStringLiteral("signInRow"));
+    signIn->setCornerRadius(8);
+    signIn->setFill(Tint(brand, 0.1));
+    auto* signInRow = hstack(signIn, 8, QMargins(12, 12, 12, 12));
+    signInRow->addWidget(new SymbolView(QStringLiteral("person.circle.fill"), 13, Tint(brand)), 0, Qt::AlignTop);
+    auto* note = new Label(tool.signInNote(), Theme::callout(), Tint(Role::secondary));
+    note->setWrapping(true);
+    signInRow->addWidget(note, 1);
+    quick->addWidget(signIn);
+
+    // Where a key is stored instead of signing in.
+    auto* useKey = new Button(tr("Use an API Key Instead"), Button::Style::link);
+    useKey->setObjectName(QStringLiteral("useAPIKeyButton"));
+    useKey->setTitleFont(Theme::callout());
+    useKey->setTrailingSymbol(QStringLiteral("chevron.right"), 9, SymbolWeight::semibold);
+    useKey->setSpacing(3);
+    connect(useKey, &QAbstractButton::clicked, this, [this] { m_state.setCurrentStep(InstallationStep::apiKey); });
+    quick->addWidget(useKey, 0, Qt::AlignLeft);
+    column->addLayout(inset(quickStart));
+
+    column->addLayout(inset(new CommonCommandsCard(tool, onCopy)));
+    column->addLayout(inset(new FirstProjectTipsCard(onCopy)));
+}
+
+void CompletionView::render()
+{
+    if (m_fallback)
+        m_fallback->setVisible(m_launch->failed());
+}
+
+void CompletionView::paintEvent(QPaintEvent*) { QPainter(this).fillRect(rect(), Theme::color(Role::windowBackground)); }
+
+} // namespace qf

@@ -1,0 +1,71 @@
+#include "TerminalFallback.h"
+
+#include "SharedComponents.h"
+#include "TerminalLauncher.h"
+
+#include "Label.h"
+#include "Layout.h"
+#include "Symbol.h"
+
+#include <QPointer>
+
+namespace qf {
+
+using namespace ui;
+
+ToolLaunch::ToolLaunch(TerminalLauncher& launcher, const QString& command, QObject* parent)
+    : QObject(parent), m_launcher(launcher), m_command(command)
+{
+}
+
+void ToolLaunch::open()
+{
+    const int launch = ++m_launches;
+    QPointer<ToolLaunch> self(this);
+    m_launcher.openInTerminal(m_command, TerminalLauncher::projectsDirectory(), [self, launch](bool opened) {
+        if (!self || launch != self->m_launches || self->m_failed == !opened)
+            return;
+        self->m_failed = !opened;
+        Q_EMIT self->failedChanged();
+    });
+}
+
+QString ToolLaunch::typedLine() const { return TerminalLauncher::typedLine(m_command); }
+
+TerminalFallbackRow::TerminalFallbackRow(const QString& line, std::function<void()> onCopy, QWidget* parent)
+    : RoundedCard(parent)
+{
+    setObjectName(QStringLiteral("terminalFallback"));
+    setCornerRadius(10);
+    setFill(Tint(Role::orange, 0.08));
+    setStroke(Tint(Role::orange, 0.3), 1);
+    const QString title = tr("No terminal window could be opened");
+    setAccessibleName(title);
+    setAccessibleDescription(line);
+
+    auto* row = hstack(this, 12, QMargins(14, 12, 14, 12));
+    row->addWidget(new SymbolView(QStringLiteral("exclamationmark.triangle.fill"), 15, Tint(Role::orange)), 0,
+                   Qt::AlignTop);
+    auto* column = vstack(6);
+    column->addWidget(new Label(title, Theme::font(12, QFont::DemiBold)));
+    auto* hint = new Label(tr("Open a terminal yourself and type this line:"), Theme::caption(), Tint(Role::secondary));
+    hint->setWrapping(true);
+    column->addWidget(hint);
+
+    auto* codeRow = hstack(8);
+    auto* code = new RoundedCard;
+    code->setCornerRadius(6);
+    code->setFill(Tint(Role::textBackground));
+    auto* text = new Label(line, Theme::font(12, QFont::Normal, FontDesign::monospaced));
+    text->setObjectName(QStringLiteral("terminalFallbackLine"));
+    text->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    text->setWrapping(true);
+    hstack(code, 0, QMargins(8, 4, 8, 4))->addWidget(text);
+    codeRow->addWidget(code, 1);
+    codeRow->addWidget(new CopyButton(line, CopyButton::CopyButtonStyle::regular, std::move(onCopy)), 0,
+                       Qt::AlignVCenter);
+    column->addLayout(codeRow);
+    row->addLayout(column, 1);
+}
+
+} // namespace qf

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "RoundedCard.h"
+
+#include <QObject>
+
+#include <functional>
+
+namespace qf {
+
+class TerminalLauncher;
+
+// Starts a tool in a new terminal window in the projects folder, one window per `open()`, and
+// knows whether the most recent launch failed. The answer to a launch may come later (a Mac
+// answers once its script has run); an answer to a launch that a newer one replaced changes
+// nothing, and none reaches an owner that is gone.
+class ToolLaunch : public QObject {
+    Q_OBJECT
+
+public:
+    ToolLaunch(TerminalLauncher& launcher, const QString& command, QObject* parent);
+
+    void open();
+    int launches() const { return m_launches; }
+    bool failed() const { return m_failed; }
+    // What to type instead: "cd ~/Developer && " and the command.
+    QString typedLine() const;
+
+Q_SIGNALS:
+    void failedChanged();
+
+private:
+    TerminalLauncher& m_launcher;
+    QString m_command;
+    int m_launches = 0;
+    bool m_failed = false;
+};
+
+// Says that no terminal window could be opened and shows the line to type in one, with a
+// button that copies it.
+class TerminalFallbackRow : public ui::RoundedCard {
+    Q_OBJECT
+
+public:
+    TerminalFallbackRow(const QString& line, std::function<void()> onCopy, QWidget* parent = nullptr);
+};
+
+} // namespace qf

@@ -1,0 +1,157 @@
+#include "TerminalScreenView.h"
+
+#include "FlowScreen.h"
+#include "InstallationState.h"
+#include "Services.h"
+#include "SharedComponents.h"
+#include "TerminalFallback.h"
+
+#include "Label.h"
+#include "Layout.h"
+#include "Symbol.h"
+
+#include <QPainter>
+
+namespace qf {
+
+using namespace ui;
+
+namespace {
+
+constexpr int kCardWidth = 400;
+
+Button* backToHomeButton(InstallationState& state, QWidget* context)
+{
+    auto* back = new Button(TerminalScreenView::tr("Back to Home"), Button::Style::prominent, Button::Size::large);
+    back->setObjectName(QStringLiteral("backToHomeButton"));
+    QObject::connect(back, &QAbstractButton::clicked, context, [&state] {
+        state.reset();
+        state.setCurrentStep(InstallationStep::home);
+    });
+    return back;
+}
+
+// At most `width` points wide, centred in its row.
+QHBoxLayout* centredAtMost(QWidget* widget, int width)
+{
+    widget->setMaximumWidth(width);
+    auto* row = hstack(0, QMargins(24, 0, 24, 0));
+    row->addStretch(1);
+    row->addWidget(widget, 100);
+    row->addStretch(1);
+    return row;
+}
+
+} // namespace
+
+TerminalLaunchedView::TerminalLaunchedView(InstallationState& state, CLITool tool, ToolLaunch& launch,
+                                           const SystemWording& wording, QWidget* parent)
+    : QWidget(parent), m_tool(tool), m_launch(launch), m_wording(wording)
+{
+    setObjectName(QStringLiteral("terminalLaunchedView"));
+    auto* root = vstack(this, 0);
+    m_scroll = new ScrollView;
+    root->addWidget(m_scroll);
+    auto* column = vstack(m_scroll->content(), 12, QMargins(0, 24, 0, 24));
+    column->addStretch(1);
+
+    column->addWidget(new SymbolView(QStringLiteral("terminal.fill"), 48, Tint(tool.brandColor())), 0,
+                      Qt::AlignHCenter);
+    column->addSpacing(4);
+    m_title = flow::centredText(QString(), Theme::font(17, QFont::DemiBold));
+    m_title->setObjectName(QStringLiteral("terminalTitle"));
+    m_title->setContentsMargins(24, 0, 24, 0);
+    column->addWidget(m_title);
+    m_subtitle = flow::centredText(wording.switchToTerminal.arg(tool.displayName()), Theme::body(),
+                                   Tint(Role::secondary));
+    m_subtitle->setObjectName(QStringLiteral("terminalSubtitle"));
+    m_subtitle->setContentsMargins(24, 0, 24, 0);
+    column->addWidget(m_subtitle);
+
+    m_fallback = new TerminalFallbackRow(launch.typedLine(), [this] { m_toast->present(); });
+    column->addLayout(centredAtMost(m_fallback, kCardWidth));
+
+    column->addSpacing(8);
+    auto* buttons = hstack(12);
+    buttons->addStretch(1);
+    auto* again = new Button(tr("Open Terminal Again"), Button::Style::bordered, Button::Size::large);
+    again->setObjectName(QStringLiteral("openAgainButton"));
+    connect(again, &QAbstractButton::clicked, &launch, &ToolLaunch::open);
+    buttons->addWidget(again);
+    buttons->addWidget(backToHomeButton(state, this));
+    buttons->addStretch(1);
+    column->addLayout(buttons);
+    column->addSpacing(12);
+
+    // The first three example commands.
+    auto* tips = new RoundedCard;
+    tips->setObjectName(QStringLiteral("quickTipsCard"));
+    tips->setCornerRadius(8);
+    tips->setFill(Tint(Role::controlBackground));
+    auto* tipsColumn = vstack(tips, 10, QMargins(16, 14, 16, 16));
+    tipsColumn->addWidget(new Label(tr("Quick Tips"), Theme::headline()));
+    const QList<ExampleCommand>& examples = tool.exampleCommands();
+    for (qsizetype i = 0; i < std::min<qsizetype>(3, examples.size()); ++i) {
+        auto* row = hstack(8);
+        row->addWidget(new SymbolView(QStringLiteral("chevron.right"), 10, Tint(Role::secondary)), 0, Qt::AlignVCenter);
+        auto* command = new Label(examples[i].command, Theme::font(13, QFont::Normal, FontDesign::monospaced));
+        command->setObjectName(QStringLiteral("tipCommand"));
+        command->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        command->setWrapping(true);
+        row->addWidget(command, 1);
+        tipsColumn->addLayout(row);
+    }
+    column->addLayout(centredAtMost(tips, kCardWidth));
+    column->addStretch(1);
+
+    m_toast = new CopiedToastPresenter(this, 32);
+    connect(&launch, &ToolLaunch::failedChanged, this, &TerminalLaunchedView::render);
+    render();
+}
+
+void TerminalLaunchedView::render()
+{
+    const bool failed = m_launch.failed();
+    // Without a window the title does not claim one.
+    m_title->setText(failed ? tr("Start %1 in a terminal").arg(m_tool.displayName())
+                            : m_wording.toolLaunchedTitle.arg(m_tool.displayName()));
+    m_subtitle->setVisible(!failed);
+    m_fallback->setVisible(failed);
+    setAccessibleName(m_title->text());
+    m_scroll->setAccessibleName(m_title->text());
+}
+
+TerminalScreenView::TerminalScreenView(InstallationState& state, Services& services, QWidget* parent) : QWidget(parent)
+{
+    setObjectName(QStringLiteral("terminalScreenView"));
+    auto* root = vstack(this, 0);
+    if (const std::optional<CLITool> tool = state.selectedTool()) {
+        m_launch = new ToolLaunch(services.terminal, tool->commandName(), this);
+        root->addWidget(new TerminalLaunchedView(state, *tool, *m_launch, services.platform.wording()));
+        return;
+    }
+    setAccessibleName(tr("No tool selected"));
+    root->addStretch(1);
+    auto* none = flow::centredText(tr("No tool selected"), Theme::font(17, QFont::DemiBold));
+    none->setObjectName(QStringLiteral("noToolTitle"));
+    root->addWidget(none);
+    root->addSpacing(16);
+    root->addWidget(backToHomeButton(state, this), 0, Qt::AlignHCenter);
+    root->addStretch(1);
+}
+
+void TerminalScreenView::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    if (m_launch && !m_hasLaunched) {
+        m_hasLaunched = true;
+        m_launch->open();
+    }
+}
+
+void TerminalScreenView::paintEvent(QPaintEvent*)
+{
+    QPainter(this).fillRect(rect(), Theme::color(Role::windowBackground));
+}
+
+} // namespace qf

@@ -1,0 +1,384 @@
+// The screens after an installation: the completion screen, the terminal screen and the API
+// key screen, in the real window with a fake platform and a sandboxed home folder.
+#include "APIKeyView.h"
+#include "CompletionView.h"
+#include "FlowWindowTest.h"
+#include "Layout.h"
+#include "SharedComponents.h"
+#include "TerminalFallback.h"
+#include "TerminalScreenView.h"
+#include "TextField.h"
+
+#include <QAccessible>
+#include <QClipboard>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QGuiApplication>
+
+#include <algorithm>
+
+using namespace qf;
+
+namespace {
+
+const QString kKey = QStringLiteral("sk-ant-api03-Secret_Key.123");
+
+class AfterInstallTest : public test::FlowWindowTest {
+protected:
+    void SetUp() override
+    {
+        FlowWindowTest::SetUp();
+        // Every test starts without a profile and without the keys in the environment.
+        for (const char* name : {"/.zshrc", "/.bash_profile", "/.bashrc"}) {
+            const QString path = QDir::homePath() + QLatin1String(name);
+            QFile::remove(path);
+            QDir(path).removeRecursively();
+        }
+        for (CLITool tool : CLITool::allCases())
+            qunsetenv(tool.apiKeyEnvVar().toUtf8().constData());
+    }
+
+    static QString profileText(const char* name)
+    {
+        QFile file(QDir::homePath() + QLatin1String(name));
+        return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+    }
+    bool showsChild(const char* name) const { return shows(test::child<QWidget>(screen(), QLatin1String(name))); }
+    ui::TextField* keyField() const { return screenAs<APIKeyView>()->keyField(); }
+    void typeKey(const QString& key) const
+    {
+        keyField()->setFocus();
+        QTest::keyClicks(keyField(), key);
+    }
+    void saveAndWait() const
+    {
+        click("saveButton");
+        ASSERT_TRUE(QTest::qWaitFor(
+            [this] {
+                auto* view = qobject_cast<APIKeyView*>(screen());
+                return !view || !view->isSaving();
+            },
+            10000));
+        test::settle();
+    }
+};
+
+TEST_F(AfterInstallTest, CompletionTellsAFreshInstallFromAnOpenedTool)
+{
+    open(InstallationStep::completion, CLITool::claudeCode);
+    EXPECT_EQ(text("completionTitle"), QStringLiteral("You're All Set!"));
+    EXPECT_EQ(text("completionSubtitle"), QStringLiteral("Claude Code is installed and ready to use"));
+    EXPECT_EQ(text("tryCommand"), CLITool(CLITool::claudeCode).tryCommand());
+
+    // The commands start closed, the first project open.
+    auto* commands = test::child<CommonCommandsCard>(screen(), QStringLiteral("commonCommandsCard"));
+    auto* tips = test::child<FirstProjectTipsCard>(screen(), QStringLiteral("firstProjectCard"));
+    EXPECT_FALSE(commands->isExpanded());
+    EXPECT_TRUE(tips->isExpanded());
+    ASSERT_EQ(commands->rows().size(), 4);
+    EXPECT_FALSE(shows(commands->rows().first()));
+    click("commonCommandsHeader");
+    EXPECT_TRUE(commands->isExpanded());
+    QStringList shown;
+    for (CommandRow* row : commands->rows()) {
+        EXPECT_TRUE(shows(row));
+        shown << row->command();
+    }
+    QStringList catalogue;
+    for (const ExampleCommand& example : CLITool(CLITool::claudeCode).exampleCommands())
+        catalogue << example.command;
+    EXPECT_EQ(shown, catalogue);
+    click("firstProjectHeader");
+    EXPECT_FALSE(tips->isExpanded());
+
+    // Step 3 is a title alone: no code box, no copy button.
+    ASSERT_EQ(tips->steps().size(), 3);
+    StepRow* third = tips->steps().last();
+    EXPECT_EQ(third->number(), 3);
+    EXPECT_FALSE(third->command().has_value());
+    EXPECT_TRUE(third->findChildren<CopyButton*>().isEmpty());
+    EXPECT_EQ(third->findChild<QLabel*>(QStringLiteral("code")), nullptr);
+    EXPECT_EQ(tips->steps().first()->command(),
+              QStringLiteral("mkdir -p ~/Developer/my-first-project && cd ~/Developer/my-first-project"));
+
+    state.setIsOpeningExistingTool(true);
+    for (CLITool tool : {CLITool(CLITool::geminiCLI), CLITool(CLITool::codex)}) {
+        open(InstallationStep::completion, tool);
+        EXPECT_EQ(text("completionTitle"), tool.displayName());
+        EXPECT_EQ(text("completionSubtitle"), QStringLiteral("Ready to use"));
+        EXPECT_EQ(test::child<CommonCommandsCard>(screen(), QStringLiteral("commonCommandsCard"))->rows().size(), 3);
+    }
+}
+
+TEST_F(AfterInstallTest, EveryCopyPutsItsTextOnTheClipboardUnderOneToast)
+{
+    open(InstallationStep::completion, CLITool::codex);
+    auto* view = screenAs<CompletionView>();
+    click("commonCommandsHeader");
+    QElapsedTimer sinceFirst;
+    click("copyTryCommand");
+    sinceFirst.start();
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), CLITool(CLITool::codex).tryCommand());
+    EXPECT_TRUE(view->toastPresenter()->isShowing());
+
+    // Later copies while it shows change what is copied, not when the toast leaves.
+    QTest::qWait(900);
+    auto* commands = test::child<CommonCommandsCard>(screen(), QStringLiteral("commonCommandsCard"));
+    commands->rows()[1]->findChild<CopyButton*>()->click();
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), CLITool(CLITool::codex).exampleCommands()[1].command);
+    auto* tips = test::child<FirstProjectTipsCard>(screen(), QStringLiteral("firstProjectCard"));
+    tips->steps()[1]->findChild<CopyButton*>()->click();
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("git init"));
+    ASSERT_TRUE(QTest::qWaitFor([view] { return !view->toastPresenter()->isShowing(); }, 5000));
+    // Restarted by the second copy it would stay until 2.4 s at the earliest.
+    EXPECT_GE(sinceFirst.elapsed(), CopiedToastPresenter::visibleMs - 50);
+    EXPECT_LT(sinceFirst.elapsed(), 900 + CopiedToastPresenter::visibleMs);
+}
+
+TEST_F(AfterInstallTest, CompletionWithoutAToolOffersOnlyTheWayHome)
+{
+    state.setIsOpeningExistingTool(true);
+    open(InstallationStep::completion, std::nullopt);
+    EXPECT_EQ(screen()->findChild<QWidget*>(QStringLiteral("openInTerminalButton")), nullptr);
+    EXPECT_EQ(screen()->findChild<QWidget*>(QStringLiteral("quickStartCard")), nullptr);
+    EXPECT_EQ(screen()->findChild<QWidget*>(QStringLiteral("commonCommandsCard")), nullptr);
+    click("homeButton");
+    EXPECT_EQ(state.currentStep(), InstallationStep::home);
+    EXPECT_FALSE(state.isOpeningExistingTool());
+    EXPECT_FALSE(state.selectedTool().has_value());
+    EXPECT_TRUE(platform.terminals.isEmpty());
+}
+
+TEST_F(AfterInstallTest, OpenInTerminalSaysWhatToTypeWhenNoWindowOpens)
+{
+    open(InstallationStep::completion, CLITool::geminiCLI);
+    const QPair<QString, QString> launch{QStringLiteral("gemini"), QStringLiteral("~/Developer")};
+    click("openInTerminalButton");
+    EXPECT_EQ(platform.terminals, (QList{launch}));
+    EXPECT_FALSE(showsChild("terminalFallback"));
+    EXPECT_EQ(state.currentStep(), InstallationStep::completion);
+
+    platform.terminalOpens = false;
+    click("openInTerminalButton");
+    EXPECT_EQ(platform.terminals, (QList{launch, launch}));
+    EXPECT_TRUE(showsChild("terminalFallback"));
+    EXPECT_EQ(text("terminalFallbackLine"), QStringLiteral("cd ~/Developer && gemini"));
+    test::child<CopyButton>(test::child(screen(), QStringLiteral("terminalFallback")), QStringLiteral("copyButton"))
+        ->click();
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("cd ~/Developer && gemini"));
+    EXPECT_TRUE(screenAs<CompletionView>()->toastPresenter()->isShowing());
+
+    // Answers that come late (as on a Mac) and in any order: only the newest launch counts.
+    platform.holdTerminalOutcomes = true;
+    click("openInTerminalButton"); // fails
+    platform.terminalOpens = true;
+    click("openInTerminalButton"); // opens
+    std::reverse(platform.heldOutcomes.begin(), platform.heldOutcomes.end());
+    platform.releaseTerminalOutcomes();
+    test::settle();
+    EXPECT_FALSE(showsChild("terminalFallback"));
+}
+
+TEST_F(AfterInstallTest, TheAPIKeyDetourReturnsToTheSameCompletion)
+{
+    for (const bool opening : {false, true}) {
+        state.setIsOpeningExistingTool(opening);
+        open(InstallationStep::completion, CLITool::claudeCode);
+        const QString title = text("completionTitle");
+        click("useAPIKeyButton");
+        EXPECT_EQ(state.currentStep(), InstallationStep::apiKey);
+        click("skipButton");
+        EXPECT_EQ(state.currentStep(), InstallationStep::completion);
+        EXPECT_EQ(text("completionTitle"), title);
+        EXPECT_EQ(title, opening ? QStringLiteral("Claude Code") : QStringLiteral("You're All Set!"));
+    }
+    // Skipping wrote nothing anywhere.
+    EXPECT_FALSE(QFile::exists(QDir::homePath() + QStringLiteral("/.zshrc")));
+    EXPECT_FALSE(qEnvironmentVariableIsSet("ANTHROPIC_API_KEY"));
+    EXPECT_TRUE(state.apiKey().isEmpty());
+}
+
+TEST_F(AfterInstallTest, TheTerminalScreenLaunchesOncePerArrival)
+{
+    open(InstallationStep::terminal, CLITool::codex);
+    const QPair<QString, QString> launch{QStringLiteral("codex"), QStringLiteral("~/Developer")};
+    // Drawn, hidden and shown again: still the one launch of this arrival.
+    for (int i = 0; i < 3; ++i) {
+        screen()->repaint();
+        screen()->hide();
+        screen()->show();
+        test::settle();
+    }
+    EXPECT_EQ(platform.terminals, (QList{launch}));
+    EXPECT_EQ(text("terminalTitle"), QStringLiteral("Codex launched in Terminal"));
+    EXPECT_EQ(text("terminalSubtitle"), QStringLiteral("Switch to Terminal.app to start using Codex"));
+    QStringList tips;
+    for (QLabel* tip : screen()->findChildren<QLabel*>(QStringLiteral("tipCommand")))
+        tips << tip->text();
+    EXPECT_EQ(tips, (QStringList{QStringLiteral("codex"), QStringLiteral("codex \"write a unit test\""),
+                                 QStringLiteral("codex --help")}));
+
+    click("openAgainButton");
+    click("openAgainButton");
+    EXPECT_EQ(platform.terminals.size(), 3);
+
+    // Arriving again is a new arrival.
+    open(InstallationStep::terminal, CLITool::claudeCode);
+    EXPECT_EQ(platform.terminals.size(), 4);
+    EXPECT_EQ(platform.terminals.last().first, QStringLiteral("claude"));
+    EXPECT_EQ(screen()->findChildren<QLabel*>(QStringLiteral("tipCommand")).size(), 3);
+    click("backToHomeButton");
+    EXPECT_EQ(state.currentStep(), InstallationStep::home);
+    EXPECT_FALSE(state.selectedTool().has_value());
+}
+
+TEST_F(AfterInstallTest, TheTerminalScreenWithoutAToolLaunchesNothing)
+{
+    open(InstallationStep::terminal, std::nullopt);
+    EXPECT_EQ(text("noToolTitle"), QStringLiteral("No tool selected"));
+    EXPECT_EQ(test::focusableControls(screen()).size(), 1);
+    click("backToHomeButton");
+    EXPECT_EQ(state.currentStep(), InstallationStep::home);
+    EXPECT_TRUE(platform.terminals.isEmpty());
+}
+
+TEST_F(AfterInstallTest, AFailedLaunchDoesNotClaimTheToolRuns)
+{
+    // The system answers late, as a Mac does once its script has run.
+    platform.holdTerminalOutcomes = true;
+    platform.terminalOpens = false;
+    open(InstallationStep::terminal, CLITool::codex);
+    EXPECT_EQ(text("terminalTitle"), QStringLiteral("Codex launched in Terminal"));
+    EXPECT_FALSE(showsChild("terminalFallback"));
+    platform.releaseTerminalOutcomes();
+    test::settle();
+    EXPECT_EQ(text("terminalTitle"), QStringLiteral("Start Codex in a terminal"));
+    EXPECT_FALSE(showsChild("terminalSubtitle"));
+    EXPECT_TRUE(showsChild("terminalFallback"));
+    EXPECT_EQ(text("terminalFallbackLine"), QStringLiteral("cd ~/Developer && codex"));
+
+    // A window that opens on the next try puts the screen right again.
+    platform.holdTerminalOutcomes = false;
+    platform.terminalOpens = true;
+    click("openAgainButton");
+    EXPECT_EQ(text("terminalTitle"), QStringLiteral("Codex launched in Terminal"));
+    EXPECT_FALSE(showsChild("terminalFallback"));
+}
+
+TEST_F(AfterInstallTest, TheKeyFieldEditsOneTextThatStaysSecretWhileMasked)
+{
+    open(InstallationStep::apiKey, CLITool::claudeCode);
+    EXPECT_FALSE(button("saveButton")->isEnabled());
+    EXPECT_EQ(text("profileCaption"),
+              QStringLiteral("This will be saved to your shell profile (~/.zshrc) as ANTHROPIC_API_KEY"));
+    button("openConsoleButton")->click();
+    EXPECT_EQ(platform.openedURLs, QList<QUrl>{CLITool(CLITool::claudeCode).apiKeyURL()});
+
+    typeKey(kKey);
+    EXPECT_TRUE(button("saveButton")->isEnabled());
+    ui::TextField* field = keyField();
+    EXPECT_TRUE(field->isSecure());
+    EXPECT_EQ(button("showKeyButton")->accessibleName(), QStringLiteral("Show key"));
+    EXPECT_EQ(button("showKeyButton")->leadingSymbol(), QStringLiteral("eye"));
+
+    // What assistive technology can read of a masked key: nothing of the key.
+    QAccessibleInterface* readable = QAccessible::queryAccessibleInterface(field);
+    ASSERT_NE(readable, nullptr);
+    EXPECT_FALSE(readable->text(QAccessible::Value).contains(QStringLiteral("Secret")));
+    if (QAccessibleTextInterface* textual = readable->textInterface()) {
+        EXPECT_FALSE(textual->text(0, textual->characterCount()).contains(QStringLiteral("Secret")));
+    }
+
+    click("showKeyButton");
+    EXPECT_FALSE(field->isSecure());
+    EXPECT_EQ(field->text(), kKey);
+    EXPECT_EQ(button("showKeyButton")->leadingSymbol(), QStringLiteral("eye.slash"));
+    QTest::keyClicks(field, QStringLiteral("9"));
+    click("showKeyButton");
+    EXPECT_TRUE(field->isSecure());
+    EXPECT_EQ(field->text(), kKey + QLatin1Char('9'));
+
+    field->clear();
+    EXPECT_FALSE(button("saveButton")->isEnabled());
+    QTest::keyClick(field, Qt::Key_Return);
+    test::settle();
+    EXPECT_EQ(state.currentStep(), InstallationStep::apiKey);
+}
+
+TEST_F(AfterInstallTest, ASavedKeyLandsInTheProfileTheCaptionNames)
+{
+    // Only ~/.bashrc: that is the profile written, and the one the caption names.
+    {
+        QFile bashrc(QDir::homePath() + QStringLiteral("/.bashrc"));
+        ASSERT_TRUE(bashrc.open(QIODevice::WriteOnly));
+        bashrc.write("alias ll='ls -l'\n");
+    }
+    open(InstallationStep::apiKey, CLITool::codex);
+    EXPECT_EQ(text("profileCaption"),
+              QStringLiteral("This will be saved to your shell profile (~/.bashrc) as OPENAI_API_KEY"));
+    typeKey(kKey);
+    saveAndWait();
+
+    EXPECT_EQ(state.currentStep(), InstallationStep::completion);
+    EXPECT_EQ(state.apiKey(), kKey);
+    EXPECT_EQ(qgetenv("OPENAI_API_KEY"), kKey.toUtf8());
+    EXPECT_EQ(profileText("/.bashrc"), QStringLiteral("alias ll='ls -l'\n\n# Codex API Key\nexport OPENAI_API_KEY=\"") +
+                                           kKey + QStringLiteral("\"\n"));
+    EXPECT_FALSE(QFile::exists(QDir::homePath() + QStringLiteral("/.zshrc")));
+
+    // A key of blanks is a key.
+    open(InstallationStep::apiKey, CLITool::geminiCLI);
+    typeKey(QStringLiteral("   "));
+    EXPECT_TRUE(button("saveButton")->isEnabled());
+    saveAndWait();
+    EXPECT_EQ(state.currentStep(), InstallationStep::completion);
+    EXPECT_EQ(qgetenv("GEMINI_API_KEY"), QByteArray("   "));
+}
+
+TEST_F(AfterInstallTest, AFailedSaveStaysWithItsReasonUntilTheKeyChanges)
+{
+    // A profile that cannot be written, even by an administrator: a folder in its place.
+    ASSERT_TRUE(QDir().mkpath(QDir::homePath() + QStringLiteral("/.zshrc")));
+    open(InstallationStep::apiKey, CLITool::claudeCode);
+    EXPECT_FALSE(showsChild("saveErrorRow"));
+    typeKey(kKey);
+    saveAndWait();
+
+    EXPECT_EQ(state.currentStep(), InstallationStep::apiKey);
+    ASSERT_TRUE(state.errorMessage().has_value());
+    EXPECT_TRUE(showsChild("saveErrorRow"));
+    EXPECT_EQ(text("saveError"), *state.errorMessage());
+    EXPECT_FALSE(text("saveError").isEmpty());
+    EXPECT_FALSE(text("saveError").contains(QStringLiteral("Secret"))) << "the key is shown in an error";
+    EXPECT_TRUE(button("saveButton")->isEnabled());
+    EXPECT_FALSE(button("saveButton")->showsActivity());
+    EXPECT_FALSE(qEnvironmentVariableIsSet("ANTHROPIC_API_KEY"));
+    EXPECT_TRUE(state.apiKey().isEmpty());
+
+    QTest::keyClick(keyField(), Qt::Key_Backspace);
+    EXPECT_FALSE(showsChild("saveErrorRow"));
+}
+
+TEST_F(AfterInstallTest, TheScreensFitTheSmallestWindowAndNameTheirControls)
+{
+    platform.terminalOpens = false;
+    const QSize smallest(MainWindow::minimumWidth, MainWindow::minimumHeight);
+    for (InstallationStep step : {InstallationStep::completion, InstallationStep::terminal, InstallationStep::apiKey}) {
+        open(step, CLITool::claudeCode, smallest);
+        if (step == InstallationStep::completion) {
+            click("commonCommandsHeader");
+            click("openInTerminalButton");
+        }
+        const std::string name = caseName(step).toStdString();
+        // Nothing is wider than the window: long commands wrap.
+        for (ui::ScrollView* scroll : screen()->findChildren<ui::ScrollView*>())
+            EXPECT_LE(scroll->content()->minimumSizeHint().width(), scroll->viewport()->width()) << name;
+        for (QWidget* control : test::focusableControls(screen())) {
+            EXPECT_FALSE(control->accessibleName().trimmed().isEmpty())
+                << name << ": " << control->metaObject()->className() << " " << control->objectName().toStdString();
+        }
+    }
+}
+
+} // namespace
