@@ -63,7 +63,14 @@ DashboardCard::DashboardCard(QWidget* parent)
 {
     setFocusPolicy(Qt::TabFocus);
     setAttribute(Qt::WA_Hover);
-    connect(qApp, &QApplication::focusChanged, this, [this] { focusMoved(); });
+    m_focusWatch = connect(qApp, &QApplication::focusChanged, this, [this] { focusMoved(); });
+}
+
+DashboardCard::~DashboardCard()
+{
+    // Destroying the card's children moves the focus away from them; by then the card is no
+    // longer a card, so it must not hear of it.
+    disconnect(m_focusWatch);
 }
 
 void DashboardCard::setHovered(bool hovered)

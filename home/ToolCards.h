@@ -48,6 +48,8 @@ class DashboardCard : public ui::RoundedCard {
     Q_OBJECT
 
 public:
+    ~DashboardCard() override;
+
     // Called with true when the pointer enters the card and false when it leaves.
     std::function<void(bool)> onHoverChanged;
 
@@ -78,6 +80,7 @@ private:
 
     bool m_hovered = false;
     bool m_focusWithin = false;
+    QMetaObject::Connection m_focusWatch;
     ui::Button* m_remove = nullptr;
     ui::motion::Transition m_hover;
     ui::motion::Transition m_removeOpacity;

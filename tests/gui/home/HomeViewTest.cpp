@@ -177,6 +177,26 @@ TEST_F(HomeTest, RemoveButtonsShowWhileHoveredOrFocused)
     EXPECT_EQ(QApplication::focusWidget(), claude);
 }
 
+TEST_F(HomeTest, TheDashboardGoesAwayQuietlyWithTheFocusOnACardsButton)
+{
+    // As in the window when "Install" moves on: the dashboard is deleted inside the window
+    // while the button keeps the focus. The focus leaves as the cards' children go, and no
+    // card half torn down may hear of it.
+    QWidget window;
+    window.resize(900, 1400);
+    auto* view = new HomeView(state, services, &window);
+    view->resize(window.size());
+    window.show();
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    waitForLoad(*view);
+    auto* install = test::child<QWidget>(card(*view, CLITool::codex), QStringLiteral("installButton"));
+    install->setFocus(Qt::MouseFocusReason);
+    ASSERT_TRUE(install->hasFocus());
+    delete view;
+    EXPECT_EQ(QApplication::focusWidget(), nullptr);
+}
+
 TEST_F(HomeTest, CardActionsMoveTheFlow)
 {
     sandbox.installFakes({"claude"});
