@@ -136,6 +136,12 @@ void APIKeyView::buildContent(CLITool tool, Platform& platform, const QString& p
     column->addLayout(cards);
 }
 
+void APIKeyView::appeared()
+{
+    if (m_field)
+        m_field->setFocus(Qt::OtherFocusReason);
+}
+
 void APIKeyView::save()
 {
     const std::optional<CLITool> tool = m_state.selectedTool();

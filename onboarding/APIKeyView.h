@@ -33,6 +33,10 @@ public:
     // "~/.zshrc" for a profile in the home folder; other paths as they are.
     static QString displayedPath(const QString& path, const QString& home);
 
+protected:
+    // The field is ready for the paste.
+    void appeared() override;
+
 private:
     void buildContent(CLITool tool, Platform& platform, const QString& profile, QVBoxLayout* column);
     void save();

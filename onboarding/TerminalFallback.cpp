@@ -59,11 +59,14 @@ TerminalFallbackRow::TerminalFallbackRow(const QString& line, std::function<void
     auto* text = new Label(line, Theme::font(12, QFont::Normal, FontDesign::monospaced));
     text->setObjectName(QStringLiteral("terminalFallbackLine"));
     text->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    text->setWrapping(true);
+    // As wide as the line, wrapping only where the window is too narrow for it.
+    text->setWrapping(true, 4);
     hstack(code, 0, QMargins(8, 4, 8, 4))->addWidget(text);
+    code->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
     codeRow->addWidget(code, 1);
     codeRow->addWidget(new CopyButton(line, CopyButton::CopyButtonStyle::regular, std::move(onCopy)), 0,
                        Qt::AlignVCenter);
+    codeRow->addStretch(0);
     column->addLayout(codeRow);
     row->addLayout(column, 1);
 }

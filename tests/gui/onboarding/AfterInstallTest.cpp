@@ -269,6 +269,7 @@ TEST_F(AfterInstallTest, AFailedLaunchDoesNotClaimTheToolRuns)
 TEST_F(AfterInstallTest, TheKeyFieldEditsOneTextThatStaysSecretWhileMasked)
 {
     open(InstallationStep::apiKey, CLITool::claudeCode);
+    EXPECT_TRUE(keyField()->hasFocus()) << "the field is ready for the paste";
     EXPECT_FALSE(button("saveButton")->isEnabled());
     EXPECT_EQ(text("profileCaption"),
               QStringLiteral("This will be saved to your shell profile (~/.zshrc) as ANTHROPIC_API_KEY"));
