@@ -20,10 +20,7 @@ namespace {
 // A card of the screen: a rounded panel on the control background with its content inside.
 QVBoxLayout* card(QVBoxLayout* column, const QString& objectName)
 {
-    auto* panel = new RoundedCard;
-    panel->setObjectName(objectName);
-    panel->setCornerRadius(12);
-    panel->setFill(Tint(Role::controlBackground));
+    auto* panel = roundedCard(objectName, 12);
     column->addWidget(panel);
     return vstack(panel, 12, QMargins(16, 16, 16, 16));
 }

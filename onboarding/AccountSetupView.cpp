@@ -116,10 +116,7 @@ void AccountSetupView::buildContent(CLITool tool, Platform& platform, QVBoxLayou
     column->addLayout(header);
 
     // The steps card. Each row fades and rises on its own, inside the card's padding.
-    auto* card = new RoundedCard;
-    card->setObjectName(QStringLiteral("accountStepsCard"));
-    card->setCornerRadius(16);
-    card->setFill(Tint(Role::controlBackground));
+    auto* card = roundedCard(QStringLiteral("accountStepsCard"), 16);
     auto* steps = vstack(card, 0, QMargins(20, 20, 20, 20));
     const QList<AccountSetupStep>& entries = tool.accountSetupSteps(platform.wording());
     for (qsizetype i = 0; i < entries.size(); ++i) {

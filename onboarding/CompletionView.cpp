@@ -23,9 +23,7 @@ namespace {
 // Code in a box on the text background: commands to copy.
 RoundedCard* codeBox(const QString& code, const QFont& font, QMargins padding, qreal radius)
 {
-    auto* box = new RoundedCard;
-    box->setCornerRadius(radius);
-    box->setFill(Tint(Role::textBackground));
+    auto* box = roundedCard(QStringLiteral("codeBox"), radius, Tint(Role::textBackground));
     box->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
     auto* text = new Label(code, font);
     text->setObjectName(QStringLiteral("code"));
@@ -231,18 +229,12 @@ void CompletionView::buildContent(CLITool tool, QVBoxLayout* column)
     column->addLayout(header);
 
     // Quick start: the command to try, and how signing in works.
-    auto* quickStart = new RoundedCard;
-    quickStart->setObjectName(QStringLiteral("quickStartCard"));
-    quickStart->setCornerRadius(12);
-    quickStart->setFill(Tint(Role::controlBackground));
+    auto* quickStart = roundedCard(QStringLiteral("quickStartCard"), 12);
     auto* quick = vstack(quickStart, 12, QMargins(16, 16, 16, 16));
     quick->addWidget(new Label(tr("Quick Start"), Theme::headline()));
     auto* tryColumn = vstack(8);
     tryColumn->addWidget(new Label(tr("Open Terminal and try:"), Theme::callout(), Tint(Role::secondary)));
-    auto* tryBox = new RoundedCard;
-    tryBox->setObjectName(QStringLiteral("tryCommandBox"));
-    tryBox->setCornerRadius(8);
-    tryBox->setFill(Tint(Role::textBackground));
+    auto* tryBox = roundedCard(QStringLiteral("tryCommandBox"), 8, Tint(Role::textBackground));
     auto* tryRow = hstack(tryBox, 8, QMargins(12, 12, 12, 12));
     auto* tryText = new Label(tool.tryCommand(), Theme::font(13, QFont::Normal, FontDesign::monospaced));
     tryText->setObjectName(QStringLiteral("tryCommand"));
@@ -255,10 +247,7 @@ void CompletionView::buildContent(CLITool tool, QVBoxLayout* column)
     tryColumn->addWidget(tryBox);
     quick->addLayout(tryColumn);
 
-    auto* signIn = new RoundedCard;
-    signIn->setObjectName(QStringLiteral("signInRow"));
-    signIn->setCornerRadius(8);
-    signIn->setFill(Tint(brand, 0.1));
+    auto* signIn = roundedCard(QStringLiteral("signInRow"), 8, Tint(brand, 0.1));
     auto* signInRow = hstack(signIn, 8, QMargins(12, 12, 12, 12));
     signInRow->addWidget(new SymbolView(QStringLiteral("person.circle.fill"), 13, Tint(brand)), 0, Qt::AlignTop);
     auto* note = new Label(tool.signInNote(), Theme::callout(), Tint(Role::secondary));

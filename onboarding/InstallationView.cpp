@@ -199,11 +199,8 @@ InstallationView::InstallationView(InstallationState& state, InstallationControl
     column->addWidget(m_logSection);
 
     // What went wrong.
-    m_errorCard = new RoundedCard;
-    m_errorCard->setObjectName(QStringLiteral("errorCard"));
+    m_errorCard = roundedCard(QStringLiteral("errorCard"), 12, Tint(Role::red, 0.08));
     m_errorCard->setAccessibleName(tr("Installation Failed"));
-    m_errorCard->setCornerRadius(12);
-    m_errorCard->setFill(Tint(Role::red, 0.08));
     m_errorCard->setStroke(Tint(Role::red, 0.2), 1);
     auto* errorColumn = vstack(m_errorCard, 12, QMargins(20, 20, 20, 20));
     errorColumn->addWidget(new SymbolView(QStringLiteral("exclamationmark.triangle.fill"), 22, Tint(Role::red)), 0,

@@ -53,9 +53,7 @@ TerminalFallbackRow::TerminalFallbackRow(const QString& line, std::function<void
     column->addWidget(hint);
 
     auto* codeRow = hstack(8);
-    auto* code = new RoundedCard;
-    code->setCornerRadius(6);
-    code->setFill(Tint(Role::textBackground));
+    auto* code = roundedCard(QStringLiteral("codeBox"), 6, Tint(Role::textBackground));
     auto* text = new Label(line, Theme::font(12, QFont::Normal, FontDesign::monospaced));
     text->setObjectName(QStringLiteral("terminalFallbackLine"));
     text->setTextInteractionFlags(Qt::TextSelectableByMouse);

@@ -84,10 +84,7 @@ TerminalLaunchedView::TerminalLaunchedView(InstallationState& state, CLITool too
     column->addSpacing(12);
 
     // The first three example commands.
-    auto* tips = new RoundedCard;
-    tips->setObjectName(QStringLiteral("quickTipsCard"));
-    tips->setCornerRadius(8);
-    tips->setFill(Tint(Role::controlBackground));
+    auto* tips = roundedCard(QStringLiteral("quickTipsCard"), 8);
     auto* tipsColumn = vstack(tips, 10, QMargins(16, 14, 16, 16));
     tipsColumn->addWidget(new Label(tr("Quick Tips"), Theme::headline()));
     const QList<ExampleCommand>& examples = tool.exampleCommands();

@@ -31,6 +31,15 @@ QBrush Paint::brush(const QRectF& bounds) const
 
 RoundedCard::RoundedCard(QWidget* parent) : QWidget(parent) {}
 
+RoundedCard* roundedCard(const QString& objectName, qreal radius, const Tint& fill)
+{
+    auto* card = new RoundedCard;
+    card->setObjectName(objectName);
+    card->setCornerRadius(radius);
+    card->setFill(fill);
+    return card;
+}
+
 void RoundedCard::setShape(const Shape& shape)
 {
     m_shape = shape;

@@ -76,6 +76,9 @@ private:
     QList<ChildShadow> m_childShadows;
 };
 
+// A card named `objectName`, its corners rounded by `radius`, filled with `fill`.
+RoundedCard* roundedCard(const QString& objectName, qreal radius, const Tint& fill = Tint(Role::controlBackground));
+
 // A tinted tile or circle with a symbol or a short text centred on it: feature icons, step
 // numbers, section-header icons.
 class IconTile : public QWidget {

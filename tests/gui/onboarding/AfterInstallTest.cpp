@@ -54,6 +54,10 @@ protected:
     void saveAndWait() const
     {
         click("saveButton");
+        waitForSave();
+    }
+    void waitForSave() const
+    {
         ASSERT_TRUE(QTest::qWaitFor(
             [this] {
                 auto* view = qobject_cast<APIKeyView*>(screen());
@@ -344,7 +348,12 @@ TEST_F(AfterInstallTest, AFailedSaveStaysWithItsReasonUntilTheKeyChanges)
     open(InstallationStep::apiKey, CLITool::claudeCode);
     EXPECT_FALSE(showsChild("saveErrorRow"));
     typeKey(kKey);
-    saveAndWait();
+    button("saveButton")->click();
+    // While it runs: a spinner in place of the words, and no second save.
+    EXPECT_TRUE(screenAs<APIKeyView>()->isSaving());
+    EXPECT_TRUE(button("saveButton")->showsActivity());
+    EXPECT_FALSE(button("saveButton")->isEnabled());
+    waitForSave();
 
     EXPECT_EQ(state.currentStep(), InstallationStep::apiKey);
     ASSERT_TRUE(state.errorMessage().has_value());
