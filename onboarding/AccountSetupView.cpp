@@ -3,7 +3,6 @@
 #include "InstallationState.h"
 #include "Platform.h"
 
-#include "ImageView.h"
 #include "Label.h"
 #include "Layout.h"
 #include "Motion.h"
@@ -98,13 +97,7 @@ void AccountSetupView::buildContent(CLITool tool, Platform& platform, QVBoxLayou
     const QColor brand = tool.brandColor();
 
     auto* header = vstack(16, QMargins(24, 0, 24, 0));
-    auto* logo = new ImageView(tool.logoImageName(), 64);
-    logo->setObjectName(QStringLiteral("toolLogo"));
-    logo->setAccessibleName(tool.displayName());
-    logo->setFixedImageSize(QSize(64, 64));
-    logo->setCornerRadius(14);
-    SurfaceEffect::of(logo)->setShadow(ShadowStyle{Tint(brand, 0.3), 10, {0, 5}}, Shape::rounded(14));
-    header->addWidget(logo, 0, Qt::AlignHCenter);
+    header->addWidget(flow::toolLogo(tool, 64, 14, 10, 5), 0, Qt::AlignHCenter);
     auto* titles = vstack(8);
     auto* title = flow::centredText(tr("Before you install ") + tool.displayName(), Theme::font(17, QFont::Bold));
     title->setObjectName(QStringLiteral("accountTitle"));

@@ -5,7 +5,6 @@
 #include "Services.h"
 #include "TerminalFallback.h"
 
-#include "ImageView.h"
 #include "Label.h"
 #include "Layout.h"
 #include "Surface.h"
@@ -208,13 +207,7 @@ void CompletionView::buildContent(CLITool tool, QVBoxLayout* column)
 
     // The tool's logo and the good news.
     auto* header = vstack(16, QMargins(24, 24, 24, 0));
-    auto* logo = new ImageView(tool.logoImageName(), 72);
-    logo->setObjectName(QStringLiteral("toolLogo"));
-    logo->setAccessibleName(tool.displayName());
-    logo->setFixedImageSize(QSize(72, 72));
-    logo->setCornerRadius(16);
-    SurfaceEffect::of(logo)->setShadow(ShadowStyle{Tint(brand, 0.3), 12, {0, 6}}, Shape::rounded(16));
-    header->addWidget(logo, 0, Qt::AlignHCenter);
+    header->addWidget(flow::toolLogo(tool, 72, 16, 12, 6), 0, Qt::AlignHCenter);
     auto* titles = vstack(6);
     const bool opened = m_state.isOpeningExistingTool();
     auto* title = flow::centredText(opened ? tool.displayName() : tr("You're All Set!"), Theme::font(22, QFont::Bold));

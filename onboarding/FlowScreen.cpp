@@ -1,8 +1,10 @@
 #include "FlowScreen.h"
 
+#include "ImageView.h"
 #include "InstallationState.h"
 #include "Label.h"
 #include "Layout.h"
+#include "Surface.h"
 #include "Theme.h"
 
 #include <QPainter>
@@ -92,6 +94,19 @@ ui::Button* backButton(ui::Button::Style style)
     if (style == ui::Button::Style::plain)
         button->setContentTint(ui::Tint(ui::Role::secondary));
     return button;
+}
+
+QWidget* toolLogo(CLITool tool, int side, qreal cornerRadius, qreal shadowRadius, qreal shadowDrop)
+{
+    using namespace ui;
+    auto* logo = new ImageView(tool.logoImageName(), side);
+    logo->setObjectName(QStringLiteral("toolLogo"));
+    logo->setAccessibleName(tool.displayName());
+    logo->setFixedImageSize(QSize(side, side));
+    logo->setCornerRadius(cornerRadius);
+    SurfaceEffect::of(logo)->setShadow(ShadowStyle{Tint(tool.brandColor(), 0.3), shadowRadius, {0, shadowDrop}},
+                                       Shape::rounded(cornerRadius));
+    return logo;
 }
 
 ui::Label* centredText(const QString& text, const QFont& font, const ui::Tint& tint)

@@ -64,6 +64,9 @@ namespace flow {
 ui::Button* mainButton(const QString& title, const QString& objectName);
 // "Back" with a chevron before it, in the given style.
 ui::Button* backButton(ui::Button::Style style);
+// The tool's logo, `side` points square with rounded corners, casting a shadow in its brand
+// colour at 30% that reaches `shadowRadius` points and falls `shadowDrop` points.
+QWidget* toolLogo(CLITool tool, int side, qreal cornerRadius, qreal shadowRadius, qreal shadowDrop);
 // Centred text that wraps onto as many lines as it needs.
 ui::Label* centredText(const QString& text, const QFont& font, const ui::Tint& tint = ui::Tint(ui::Role::primary));
 } // namespace flow
