@@ -10,6 +10,7 @@
 
 #include <QCoro/QCoroTask>
 #include <QDir>
+#include <QTimer>
 
 namespace qf {
 
@@ -162,6 +163,11 @@ void APIKeyView::save()
         m_state.setErrorMessage(reason);
         m_saveError = reason;
         render();
+        // In a small window the reason may lie below what shows: bring it into view once laid out.
+        QTimer::singleShot(0, this, [this] {
+            if (m_errorRow->isVisible())
+                scrollView()->ensureWidgetVisible(m_errorRow, 0, 24);
+        });
     });
 }
 

@@ -345,7 +345,7 @@ TEST_F(AfterInstallTest, AFailedSaveStaysWithItsReasonUntilTheKeyChanges)
 {
     // A profile that cannot be written, even by an administrator: a folder in its place.
     ASSERT_TRUE(QDir().mkpath(QDir::homePath() + QStringLiteral("/.zshrc")));
-    open(InstallationStep::apiKey, CLITool::claudeCode);
+    open(InstallationStep::apiKey, CLITool::claudeCode, QSize(MainWindow::minimumWidth, MainWindow::minimumHeight));
     EXPECT_FALSE(showsChild("saveErrorRow"));
     typeKey(kKey);
     button("saveButton")->click();
@@ -359,6 +359,10 @@ TEST_F(AfterInstallTest, AFailedSaveStaysWithItsReasonUntilTheKeyChanges)
     ASSERT_TRUE(state.errorMessage().has_value());
     EXPECT_TRUE(showsChild("saveErrorRow"));
     EXPECT_EQ(text("saveError"), *state.errorMessage());
+    // Even in the smallest window the reason is in view.
+    const QWidget* viewport = screenAs<APIKeyView>()->scrollView()->viewport();
+    const QWidget* row = test::child(screen(), QStringLiteral("saveErrorRow"));
+    EXPECT_TRUE(viewport->rect().contains(QRect(row->mapTo(viewport, QPoint()), row->size())));
     EXPECT_FALSE(text("saveError").isEmpty());
     EXPECT_FALSE(text("saveError").contains(QStringLiteral("Secret"))) << "the key is shown in an error";
     EXPECT_TRUE(button("saveButton")->isEnabled());
