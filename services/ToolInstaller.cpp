@@ -1,9 +1,7 @@
 #include "ToolInstaller.h"
 
 #include "ProfileWriter.h"
-#include "Utf8Stream.h"
 
-#include <QFile>
 
 namespace qf {
 
@@ -178,33 +176,16 @@ QCoro::Task<Result<void>> ToolInstaller::uninstall(CLITool tool, Output log)
 
 QCoro::Task<Result<void>> ToolInstaller::saveAPIKey(QString key, CLITool tool)
 {
-    // Checked before any file is touched; the key itself is never written to a log.
+    // Checked before any file or the environment is touched; the key itself is never written
+    // to a log, and no command is started for the save.
     if (const std::optional<QString> reason = ProfileWriter::rejectionReason(key))
         co_return ServiceError::message(*reason);
 
-    const QString profile = m_detector.shellProfilePath();
     const QString variable = tool.apiKeyEnvVar();
-    const QString line = ProfileWriter::exportLine(variable, key);
-
-    std::optional<QString> text;
-    QFile file(profile);
-    if (file.open(QIODevice::ReadOnly))
-        text = decodeUtf8Strictly(file.readAll());
-    file.close();
-
-    if (text && text->contains(variable)) {
-        const QString rewritten = ProfileWriter::rewrite(*text, variable, line);
-        if (rewritten != *text) {
-            const Result<void> written = ProfileWriter::replaceFileContents(profile, rewritten);
-            if (!written)
-                co_return written;
-        }
-    } else {
-        const Result<QString> appended =
-            co_await m_shell.run(ProfileWriter::appendCommand(tool.displayName(), line, profile));
-        if (!appended)
-            co_return appended.error();
-    }
+    const Result<void> stored = ProfileWriter::store(m_detector.shellProfilePath(), variable, tool.displayName(),
+                                                     ProfileWriter::exportLine(variable, key));
+    if (!stored)
+        co_return stored;
     qputenv(variable.toUtf8().constData(), key.toUtf8());
     co_return Result<void>();
 }

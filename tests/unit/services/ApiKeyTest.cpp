@@ -4,8 +4,10 @@
 #include "ToolInstaller.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QProcess>
+#include <QRandomGenerator>
 
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -62,41 +64,44 @@ TEST(ProfileWriter, ExportLines)
     EXPECT_FALSE(ProfileWriter::rejectionReason(QStringLiteral("   ")).has_value());
 }
 
-TEST(ProfileWriter, RewriteTouchesOnlyTheExportLines)
+TEST(ProfileWriter, RewriteReplacesOnlyAnExportOfThatNameAndItsValue)
 {
     const QString line = QStringLiteral("export OPENAI_API_KEY=\"new\"");
-    const QString text = QStringLiteral("# my settings\r\n"
-                                        "export OPENAI_API_KEY=\"old\"\r\n"
-                                        "#export OPENAI_API_KEY=older\n"
-                                        "export OPENAI_API_KEY_2=keep\n"
-                                        "export MY_OPENAI_API_KEY=keep\n"
-                                        "# OPENAI_API_KEY is set above\n"
-                                        "alias x=y");
-    EXPECT_EQ(ProfileWriter::rewrite(text, QStringLiteral("OPENAI_API_KEY"), line),
-              QStringLiteral("# my settings\r\n"
-                             "export OPENAI_API_KEY=\"new\"\r\n"
-                             "#export OPENAI_API_KEY=\"new\"\n"
-                             "export OPENAI_API_KEY_2=keep\n"
-                             "export MY_OPENAI_API_KEY=keep\n"
-                             "# OPENAI_API_KEY is set above\n"
-                             "alias x=y"));
+    const auto rewritten = [&line](const QByteArray& profile) {
+        return ProfileWriter::rewrite(profile, QStringLiteral("OPENAI_API_KEY"), line);
+    };
+    EXPECT_EQ(rewritten("# my settings\r\n"
+                        "export OPENAI_API_KEY=\"old\"\r\n"
+                        "#export OPENAI_API_KEY=older\n"
+                        "export OPENAI_API_KEY_2=keep\n"
+                        "export AZURE_OPENAI_API_KEY=keep\n"
+                        "alias x=y"),
+              QByteArray("# my settings\r\n"
+                         "export OPENAI_API_KEY=\"new\"\r\n"
+                         "#export OPENAI_API_KEY=\"new\"\n"
+                         "export OPENAI_API_KEY_2=keep\n"
+                         "export AZURE_OPENAI_API_KEY=keep\n"
+                         "alias x=y"));
+    // Only the export and its value: what follows on the line stays.
+    EXPECT_EQ(rewritten("export ANTHROPIC_API_KEY=\"a\"; export OPENAI_API_KEY=\"o\\\"d\" # note; x=1\n"),
+              QByteArray("export ANTHROPIC_API_KEY=\"a\"; export OPENAI_API_KEY=\"new\" # note; x=1\n"));
+    EXPECT_EQ(rewritten("export OPENAI_API_KEY='o;d' && echo hi\n"),
+              QByteArray("export OPENAI_API_KEY=\"new\" && echo hi\n"));
+    EXPECT_EQ(rewritten("[ -n x ] && export OPENAI_API_KEY=old\\ er\"q\"'s'|cat\n"),
+              QByteArray("[ -n x ] && export OPENAI_API_KEY=\"new\"|cat\n"));
+    // An exact name only: a longer name, or the name in a comment, is no export of it.
+    EXPECT_EQ(rewritten("export AZURE_OPENAI_API_KEY=x\n# OPENAI_API_KEY is set elsewhere\n"), std::nullopt);
+    EXPECT_EQ(rewritten("reexport OPENAI_API_KEY=x\n"), std::nullopt);
+    // Not UTF-8 (Latin-1 "café", a stray 0xFF, "à" whose UTF-8 holds 0xA0): every other byte stays.
+    EXPECT_EQ(rewritten("# caf\xE9 \xFF\nexport OPENAI_API_KEY=\"\xE9\"\nexport X=\xC3\xA0\n"),
+              QByteArray("# caf\xE9 \xFF\nexport OPENAI_API_KEY=\"new\"\nexport X=\xC3\xA0\n"));
+    EXPECT_EQ(ProfileWriter::rewrite("export K=\xC3\xA0"
+                                     "b c",
+                                     QStringLiteral("K"), QStringLiteral("export K=1")),
+              QByteArray("export K=1 c"));
     // The replacement goes in literally: no group references, no escapes.
-    EXPECT_EQ(
-        ProfileWriter::rewrite(QStringLiteral("export K=1"), QStringLiteral("K"), QStringLiteral("export K='$1\\0&'")),
-        QStringLiteral("export K='$1\\0&'"));
-}
-
-TEST(ProfileWriter, AppendCommands)
-{
-    EXPECT_EQ(ProfileWriter::appendCommand(QStringLiteral("Claude Code"),
-                                           QStringLiteral("export ANTHROPIC_API_KEY=\"k\""),
-                                           QStringLiteral("/Users/ada/.zshrc")),
-              QStringLiteral("echo '\n# Claude Code API Key\nexport ANTHROPIC_API_KEY=\"k\"' >> /Users/ada/.zshrc"));
-    // A home folder with a blank in its name still gets the block.
-    EXPECT_EQ(ProfileWriter::appendCommand(QStringLiteral("Codex"), QStringLiteral("export OPENAI_API_KEY=\"k\""),
-                                           QStringLiteral("/home/Ada Lovelace/.zshrc")),
-              QStringLiteral("printf '%s\\n' '' '# Codex API Key' 'export OPENAI_API_KEY=\"k\"' >> "
-                             "'/home/Ada Lovelace/.zshrc'"));
+    EXPECT_EQ(ProfileWriter::rewrite("export K=1", QStringLiteral("K"), QStringLiteral("export K='$1\\0&'")),
+              QByteArray("export K='$1\\0&'"));
 }
 
 TEST_F(ApiKeyTest, FirstSaveCreatesTheProfileBlock)
@@ -135,10 +140,14 @@ TEST_F(ApiKeyTest, LaterSavesRewriteInPlace)
 
 TEST_F(ApiKeyTest, MentionsAndCommentedLines)
 {
-    // Named only in a comment: nothing is added, the key is still set for this run.
-    sandbox.writeFile(QStringLiteral(".zshrc"), "# remember OPENAI_API_KEY\n");
+    // Named only in a comment or inside a longer name: that is no export of it, so the block
+    // is added and the key is really saved.
+    sandbox.writeFile(QStringLiteral(".zshrc"), "# remember OPENAI_API_KEY\nexport AZURE_OPENAI_API_KEY=az\n");
     ASSERT_TRUE(save(QStringLiteral("sk-proj-1"), CLITool::codex).ok());
-    EXPECT_EQ(profile(), QByteArray("# remember OPENAI_API_KEY\n"));
+    EXPECT_EQ(profile(), QByteArray("# remember OPENAI_API_KEY\nexport AZURE_OPENAI_API_KEY=az\n"
+                                    "\n# Codex API Key\nexport OPENAI_API_KEY=\"sk-proj-1\"\n"));
+    EXPECT_EQ(sourced(QStringLiteral("/bin/bash"), QStringLiteral(".zshrc"), QStringLiteral("OPENAI_API_KEY")),
+              QByteArray("sk-proj-1"));
     EXPECT_EQ(qgetenv("OPENAI_API_KEY"), QByteArray("sk-proj-1"));
 
     // A commented-out export line is rewritten and stays commented.
@@ -201,8 +210,113 @@ TEST_F(ApiKeyTest, RefusedKeysTouchNothing)
     ASSERT_FALSE(result.ok());
     EXPECT_TRUE(result.error().errorDescription().contains(QStringLiteral("line break")));
     EXPECT_FALSE(result.error().errorDescription().contains(QStringLiteral("first"))); // the key is never echoed
+
+    // A key far longer than any real one would break every later command.
+    const Result<void> huge = save(QString(4097, QLatin1Char('k')), CLITool::geminiCLI);
+    ASSERT_FALSE(huge.ok());
+    EXPECT_TRUE(huge.error().errorDescription().contains(QStringLiteral("4,096")))
+        << huge.error().errorDescription().toStdString();
     EXPECT_EQ(profile(), QByteArray("export GEMINI_API_KEY=\"old\"\n"));
     EXPECT_FALSE(qEnvironmentVariableIsSet("GEMINI_API_KEY"));
+
+    const QString longest(4096, QLatin1Char('k'));
+    ASSERT_TRUE(save(longest, CLITool::geminiCLI).ok());
+    EXPECT_EQ(qgetenv("GEMINI_API_KEY"), longest.toUtf8());
+    qunsetenv("GEMINI_API_KEY");
+}
+
+TEST_F(ApiKeyTest, TheKeyNeverShowsInAProcessList)
+{
+    // A login file that takes its time: a command started for the save would be seen meanwhile.
+    sandbox.writeFile(QStringLiteral(".zprofile"), "sleep 1\n");
+    sandbox.writeFile(QStringLiteral(".zshrc"), "alias ll='ls -l'\n");
+    const QByteArray key = "sk-ant-seen-" + QByteArray::number(QRandomGenerator::global()->generate());
+    const QString self = QString::number(QCoreApplication::applicationPid());
+    const auto mentioning = [&key, &self] {
+        QStringList found;
+        const QStringList entries = QDir(QStringLiteral("/proc")).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+        for (const QString& pid : entries) {
+            if (pid == self || !pid.front().isDigit())
+                continue;
+            for (const char* what : {"/cmdline", "/environ"}) {
+                QFile file(QStringLiteral("/proc/") + pid + QLatin1String(what));
+                if (file.open(QIODevice::ReadOnly) && file.readAll().contains(key))
+                    found << pid + QLatin1String(what);
+            }
+        }
+        return found;
+    };
+
+    auto saving = services.installer.saveAPIKey(QString::fromUtf8(key), CLITool::claudeCode);
+    QStringList seen;
+    QElapsedTimer watching;
+    watching.start();
+    while (seen.isEmpty() && watching.elapsed() < 700) {
+        seen << mentioning();
+        QCoreApplication::processEvents();
+    }
+    const auto result = await(std::move(saving));
+    ASSERT_TRUE(result && result->ok());
+    EXPECT_EQ(seen, QStringList());
+    EXPECT_EQ(profile(), "alias ll='ls -l'\n\n# Claude Code API Key\nexport ANTHROPIC_API_KEY=\"" + key + "\"\n");
+    qunsetenv("ANTHROPIC_API_KEY");
+}
+
+TEST_F(ApiKeyTest, OnlyTheValueChangesWhateverTheProfileHolds)
+{
+    // Another key after the one saved, a note, bytes that are not UTF-8: all of it stays.
+    const QByteArray before = "# caf\xE9\nexport OPENAI_API_KEY=\"old\"; export ANTHROPIC_API_KEY=\"keep\" # note\n"
+                              "export GREETING='\xFF\xFE'\n";
+    sandbox.writeFile(QStringLiteral(".zshrc"), before);
+    ASSERT_TRUE(save(QStringLiteral("sk-proj-new"), CLITool::codex).ok());
+    const QByteArray after = "# caf\xE9\nexport OPENAI_API_KEY=\"sk-proj-new\"; export ANTHROPIC_API_KEY=\"keep\" "
+                             "# note\nexport GREETING='\xFF\xFE'\n";
+    EXPECT_EQ(profile(), after);
+    ASSERT_TRUE(save(QStringLiteral("sk-proj-new"), CLITool::codex).ok());
+    EXPECT_EQ(profile(), after); // rewritten in place, never appended again
+    for (const char* shell : {"/bin/zsh", "/bin/bash"}) {
+        EXPECT_EQ(sourced(QString::fromLatin1(shell), QStringLiteral(".zshrc"), QStringLiteral("OPENAI_API_KEY")),
+                  QByteArray("sk-proj-new"))
+            << shell;
+        EXPECT_EQ(sourced(QString::fromLatin1(shell), QStringLiteral(".zshrc"), QStringLiteral("ANTHROPIC_API_KEY")),
+                  QByteArray("keep"))
+            << shell;
+    }
+    qunsetenv("OPENAI_API_KEY");
+}
+
+TEST_F(ApiKeyTest, AHardLinkedProfileStaysOneFile)
+{
+    sandbox.writeFile(QStringLiteral("dotfiles/zshrc"), "export ANTHROPIC_API_KEY=\"old\"\n");
+    const QByteArray original = sandbox.path(QStringLiteral("dotfiles/zshrc")).toLocal8Bit();
+    const QByteArray profilePath = sandbox.path(QStringLiteral(".zshrc")).toLocal8Bit();
+    ASSERT_EQ(::link(original.constData(), profilePath.constData()), 0);
+    ASSERT_TRUE(save(QStringLiteral("sk-ant-linked-and-longer"), CLITool::claudeCode).ok());
+    struct stat first {};
+    struct stat second {};
+    ASSERT_EQ(::stat(original.constData(), &first), 0);
+    ASSERT_EQ(::stat(profilePath.constData(), &second), 0);
+    EXPECT_EQ(first.st_ino, second.st_ino);
+    EXPECT_EQ(sandbox.readFile(QStringLiteral("dotfiles/zshrc")),
+              QByteArray("export ANTHROPIC_API_KEY=\"sk-ant-linked-and-longer\"\n"));
+    // And back to a shorter key: nothing of the longer one is left at the end.
+    ASSERT_TRUE(save(QStringLiteral("k"), CLITool::claudeCode).ok());
+    EXPECT_EQ(profile(), QByteArray("export ANTHROPIC_API_KEY=\"k\"\n"));
+    qunsetenv("ANTHROPIC_API_KEY");
+}
+
+TEST_F(ApiKeyTest, AFullDiskIsNamed)
+{
+    if (!QFileInfo::exists(QStringLiteral("/dev/full")))
+        GTEST_SKIP() << "no /dev/full on this system";
+    // A profile on a full disk: every write ends in ENOSPC.
+    ASSERT_TRUE(QFile::link(QStringLiteral("/dev/full"), sandbox.path(QStringLiteral(".zshrc"))));
+    const Result<void> result = save(QStringLiteral("sk-ant-1"), CLITool::claudeCode);
+    ASSERT_FALSE(result.ok());
+    EXPECT_EQ(result.error().errorDescription(),
+              QStringLiteral("Could not save the API key to %1: No space left on device")
+                  .arg(sandbox.path(QStringLiteral(".zshrc"))));
+    EXPECT_FALSE(qEnvironmentVariableIsSet("ANTHROPIC_API_KEY"));
 }
 
 TEST_F(ApiKeyTest, AProfileThatCannotBeAppendedToIsAClearError)
@@ -211,7 +325,9 @@ TEST_F(ApiKeyTest, AProfileThatCannotBeAppendedToIsAClearError)
     QDir().mkpath(sandbox.path(QStringLiteral(".zshrc")));
     const Result<void> result = save(QStringLiteral("sk-1"), CLITool::claudeCode);
     ASSERT_FALSE(result.ok());
-    EXPECT_TRUE(result.error().errorDescription().startsWith(QStringLiteral("Command failed with exit code 1: ")));
+    EXPECT_EQ(
+        result.error().errorDescription(),
+        QStringLiteral("Could not save the API key to %1: Is a directory").arg(sandbox.path(QStringLiteral(".zshrc"))));
     EXPECT_TRUE(QDir(sandbox.path(QStringLiteral(".zshrc"))).isEmpty());
     EXPECT_FALSE(qEnvironmentVariableIsSet("ANTHROPIC_API_KEY"));
 }
@@ -233,9 +349,7 @@ TEST_F(ApiKeyTest, AProfileThatCannotBeRewrittenIsLeftAlone)
             ::chmod(dir.toLocal8Bit().constData(), (info.st_mode & 07777) | 0055);
     }
 
-    auto attempt = [&] {
-        return ProfileWriter::replaceFileContents(file, QStringLiteral("export GEMINI_API_KEY=\"new\"\n"));
-    };
+    auto attempt = [&] { return ProfileWriter::replaceFileContents(file, "export GEMINI_API_KEY=\"new\"\n"); };
 
     bool ok = true;
     if (geteuid() != 0) {
