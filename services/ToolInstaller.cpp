@@ -2,6 +2,8 @@
 
 #include "ProfileWriter.h"
 
+#include <QCoro/QCoroFuture>
+#include <QtConcurrent/QtConcurrentRun>
 
 namespace qf {
 
@@ -182,8 +184,14 @@ QCoro::Task<Result<void>> ToolInstaller::saveAPIKey(QString key, CLITool tool)
         co_return ServiceError::message(*reason);
 
     const QString variable = tool.apiKeyEnvVar();
-    const Result<void> stored = ProfileWriter::store(m_detector.shellProfilePath(), variable, tool.displayName(),
-                                                     ProfileWriter::exportLine(variable, key));
+    const QString profile = m_detector.shellProfilePath();
+    const QString displayName = tool.displayName();
+    const QString line = ProfileWriter::exportLine(variable, key);
+    // The files are handled on a worker thread: a slow or stuck home folder never freezes the
+    // window.
+    QFuture<Result<void>> storing = QtConcurrent::run(
+        [profile, variable, displayName, line] { return ProfileWriter::store(profile, variable, displayName, line); });
+    const Result<void> stored = co_await storing;
     if (!stored)
         co_return stored;
     qputenv(variable.toUtf8().constData(), key.toUtf8());

@@ -348,12 +348,7 @@ TEST_F(AfterInstallTest, AFailedSaveStaysWithItsReasonUntilTheKeyChanges)
     open(InstallationStep::apiKey, CLITool::claudeCode, QSize(MainWindow::minimumWidth, MainWindow::minimumHeight));
     EXPECT_FALSE(showsChild("saveErrorRow"));
     typeKey(kKey);
-    button("saveButton")->click();
-    // While it runs: a spinner in place of the words, and no second save.
-    EXPECT_TRUE(screenAs<APIKeyView>()->isSaving());
-    EXPECT_TRUE(button("saveButton")->showsActivity());
-    EXPECT_FALSE(button("saveButton")->isEnabled());
-    waitForSave();
+    saveAndWait();
 
     EXPECT_EQ(state.currentStep(), InstallationStep::apiKey);
     ASSERT_TRUE(state.errorMessage().has_value());

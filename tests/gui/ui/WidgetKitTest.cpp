@@ -1,3 +1,4 @@
+#include "ActivityIndicator.h"
 #include "Button.h"
 #include "CLITool.h"
 #include "ImageView.h"
@@ -158,6 +159,33 @@ TEST(Button, TextIsNeverCutAtItsOwnWidth)
         EXPECT_GE(qreal(textRoom), QFontMetricsF(Theme::font(13, QFont::DemiBold)).horizontalAdvance(button.title()))
             << title;
     }
+}
+
+TEST(Button, ActivityTakesThePlaceOfTheContent)
+{
+    Button button(QStringLiteral("Save & Continue"), Button::Style::plain, Button::Size::large);
+    const QSize size = button.sizeHint();
+    button.resize(size);
+    const auto contentShows = [&button] {
+        QImage canvas(button.size(), QImage::Format_ARGB32_Premultiplied);
+        canvas.fill(Qt::transparent);
+        button.render(&canvas, QPoint(), QRegion(), {}); // the button alone, not the spinner
+        return test::hasVisiblePixels(canvas);
+    };
+    EXPECT_TRUE(contentShows());
+
+    button.setShowsActivity(true);
+    EXPECT_TRUE(button.showsActivity());
+    EXPECT_EQ(button.sizeHint(), size);
+    EXPECT_FALSE(contentShows());
+    auto* spinner = button.findChild<ActivityIndicator*>();
+    ASSERT_NE(spinner, nullptr);
+    EXPECT_FALSE(spinner->isHidden());
+    EXPECT_LE((spinner->geometry().center() - button.rect().center()).manhattanLength(), 2);
+
+    button.setShowsActivity(false);
+    EXPECT_TRUE(spinner->isHidden());
+    EXPECT_TRUE(contentShows());
 }
 
 TEST(LogView, FollowsTheNewestLineUnlessTheReaderScrolledUp)
