@@ -1,5 +1,9 @@
 #include "Errors.h"
 
+#include <QLocale>
+
+#include <cmath>
+
 namespace qf {
 
 ShellError ShellError::failed(int exitCode, const QString& output)
@@ -27,15 +31,55 @@ ShellError ShellError::timeout(double seconds)
     return error;
 }
 
+ShellError ShellError::outputLimit(qint64 bytes)
+{
+    ShellError error;
+    error.m_kind = outputTooLarge;
+    error.m_bytes = bytes;
+    return error;
+}
+
+ShellError ShellError::stalled(double seconds)
+{
+    ShellError error;
+    error.m_kind = noProgress;
+    error.m_seconds = seconds;
+    return error;
+}
+
+QString ShellError::durationText(double seconds)
+{
+    const QLocale english(QLocale::English);
+    // Whole minutes from a minute on, otherwise seconds with at most three significant digits.
+    if (seconds >= 60 && std::fmod(seconds, 60.0) == 0.0) {
+        const double minutes = seconds / 60;
+        return minutes == 1 ? tr("1 minute") : tr("%1 minutes").arg(english.toString(minutes, 'f', 0));
+    }
+    if (seconds == 1)
+        return tr("1 second");
+    const bool whole = std::floor(seconds) == seconds;
+    return tr("%1 seconds").arg(whole ? english.toString(seconds, 'f', 0) : english.toString(seconds, 'g', 3));
+}
+
 QString ShellError::errorDescription() const
 {
     switch (m_kind) {
-    case commandFailed:
+    case commandFailed: {
+        QString shown = m_text;
+        // The end says what went wrong; a person cannot read a hundred megabytes anyway.
+        if (shown.size() > shownOutputLength) {
+            shown = tr("[earlier output cut: the last %1 characters follow]")
+                        .arg(QLocale(QLocale::English).toString(shownOutputLength)) +
+                    QLatin1Char('\n') + shown.last(shownOutputLength);
+        }
         return QStringLiteral("Command failed with exit code ") + QString::number(m_exitCode) + QStringLiteral(": ") +
-               m_text;
+               shown;
+    }
     case processError: return QStringLiteral("Process error: ") + m_text;
-    case timedOut:
-        return tr("The command did not finish within %n second(s) and was stopped.", nullptr, int(m_seconds));
+    case timedOut: return tr("The command did not finish within %1 and was stopped.").arg(durationText(m_seconds));
+    case outputTooLarge:
+        return tr("The command wrote more than %1 MB of output and was stopped.").arg(m_bytes / (1024 * 1024));
+    case noProgress: return tr("The command showed no progress for %1 and was stopped.").arg(durationText(m_seconds));
     }
     return {};
 }

@@ -12,17 +12,26 @@
 namespace qf {
 
 // A shell command that failed: it ran and ended with a non-zero status, it could not be
-// started, or it ran longer than it was allowed to and was stopped.
+// started, or it was stopped: it ran longer than it was allowed to, it wrote more output than
+// is kept, or it showed no progress for too long.
 class ShellError {
     Q_DECLARE_TR_FUNCTIONS(ShellError)
 
 public:
-    enum Kind { commandFailed, processError, timedOut };
+    enum Kind { commandFailed, processError, timedOut, outputTooLarge, noProgress };
+
+    // At most this much of a failed command's output is shown to a person: its end.
+    static constexpr qsizetype shownOutputLength = 2000;
 
     static ShellError failed(int exitCode, const QString& output);
     // `description` is the launch error's own description.
     static ShellError launchFailed(const QString& description);
     static ShellError timeout(double seconds);
+    static ShellError outputLimit(qint64 bytes);
+    static ShellError stalled(double seconds);
+
+    // "1 second", "0.5 seconds", "15 minutes": a length of time as the messages say it.
+    static QString durationText(double seconds);
 
     Kind kind() const { return m_kind; }
     int exitCode() const { return m_exitCode; }
@@ -37,6 +46,7 @@ private:
     int m_exitCode = 0;
     QString m_text;
     double m_seconds = 0;
+    qint64 m_bytes = 0;
 };
 
 // Failures of the installation and its relatives, each with its message.

@@ -1,5 +1,8 @@
 #include "ProcessRun.h"
 
+#include <QCoreApplication>
+
+#include <algorithm>
 #include <csignal>
 
 #include <sys/types.h>
@@ -12,6 +15,8 @@ ProcessRun::ProcessRun(Options options) : m_options(std::move(options)), m_proce
     m_process->setProgram(m_options.program);
     m_process->setArguments(m_options.arguments);
     m_process->setProcessEnvironment(m_options.environment);
+    if (!m_options.workingDirectory.isEmpty())
+        m_process->setWorkingDirectory(m_options.workingDirectory);
     m_process->setStandardInputFile(QProcess::nullDevice());
     m_process->setProcessChannelMode(m_options.channels == Channels::merged ? QProcess::MergedChannels
                                                                             : QProcess::SeparateChannels);
@@ -21,23 +26,23 @@ ProcessRun::ProcessRun(Options options) : m_options(std::move(options)), m_proce
 
     connect(m_process, &QProcess::readyReadStandardOutput, this, &ProcessRun::readOutput);
     connect(m_process, &QProcess::readyReadStandardError, this, &ProcessRun::readError);
+    connect(m_process, &QProcess::started, this, [this] { m_pid = m_process->processId(); });
     connect(m_process, &QProcess::finished, this, [this](int exitCode, QProcess::ExitStatus) {
         m_outcome.exitCode = exitCode;
-        finish(m_timedOut ? ProcessOutcome::timedOut : ProcessOutcome::exited);
+        finish();
     });
     connect(m_process, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
         if (error == QProcess::FailedToStart) {
             m_outcome.launchError = m_process->errorString();
-            finish(ProcessOutcome::failedToStart);
+            m_stopReason = ProcessOutcome::failedToStart;
+            finish();
         }
     });
 
     m_deadline.setSingleShot(true);
-    connect(&m_deadline, &QTimer::timeout, this, [this] {
-        m_timedOut = true;
-        stopGroup(SIGTERM);
-        m_grace.start(m_options.terminationGraceMs);
-    });
+    connect(&m_deadline, &QTimer::timeout, this, [this] { stop(ProcessOutcome::timedOut); });
+    m_idle.setSingleShot(true);
+    connect(&m_idle, &QTimer::timeout, this, [this] { stop(ProcessOutcome::stalled); });
     m_grace.setSingleShot(true);
     connect(&m_grace, &QTimer::timeout, this, [this] { stopGroup(SIGKILL); });
 
@@ -47,20 +52,45 @@ ProcessRun::ProcessRun(Options options) : m_options(std::move(options)), m_proce
 void ProcessRun::start()
 {
     m_process->start();
-    if (m_options.timeoutMs > 0 && !m_done)
+    if (m_done)
+        return;
+    if (m_options.timeoutMs > 0)
         m_deadline.start(m_options.timeoutMs);
+    if (m_options.inactivityTimeoutMs > 0)
+        m_idle.start(m_options.inactivityTimeoutMs);
 }
 
 void ProcessRun::readOutput()
 {
     const QByteArray bytes = m_process->readAllStandardOutput();
+    if (!bytes.isEmpty() && m_idle.isActive())
+        m_idle.start(); // output is progress: the quiet time starts again
     if (m_options.channels == Channels::merged)
         deliver(m_decoder.feed(bytes));
     else
-        m_outcome.standardOutput += bytes;
+        capture(m_outcome.standardOutput, bytes);
 }
 
-void ProcessRun::readError() { m_outcome.standardError += m_process->readAllStandardError(); }
+void ProcessRun::readError()
+{
+    const QByteArray bytes = m_process->readAllStandardError();
+    if (!bytes.isEmpty() && m_idle.isActive())
+        m_idle.start();
+    capture(m_outcome.standardError, bytes);
+}
+
+void ProcessRun::capture(QByteArray& kept, const QByteArray& bytes)
+{
+    const qsizetype limit = m_options.captureLimitBytes;
+    if (limit <= 0) {
+        kept += bytes;
+        return;
+    }
+    // Past the limit the process is stopped; what it still writes meanwhile is read and dropped.
+    kept += QByteArrayView(bytes).first(std::min(bytes.size(), std::max<qsizetype>(0, limit - kept.size())));
+    if (bytes.size() > 0 && kept.size() >= limit && !m_stopReason)
+        stop(ProcessOutcome::outputLimitReached);
+}
 
 void ProcessRun::deliver(const QString& text)
 {
@@ -71,9 +101,20 @@ void ProcessRun::deliver(const QString& text)
     m_options.onOutput(text);
 }
 
+void ProcessRun::stop(ProcessOutcome::Kind reason)
+{
+    if (m_stopReason || m_done)
+        return;
+    m_stopReason = reason;
+    m_deadline.stop();
+    m_idle.stop();
+    stopGroup(SIGTERM);
+    m_grace.start(m_options.terminationGraceMs);
+}
+
 void ProcessRun::stopGroup(int signal)
 {
-    const qint64 pid = m_process->processId();
+    const qint64 pid = m_pid > 0 ? m_pid : m_process->processId();
     if (pid <= 0)
         return;
     // The child leads its own process group: stopping the group reaches the shell and
@@ -82,13 +123,22 @@ void ProcessRun::stopGroup(int signal)
         ::kill(static_cast<pid_t>(pid), signal);
 }
 
-void ProcessRun::finish(ProcessOutcome::Kind kind)
+void ProcessRun::finish()
 {
     if (m_done)
         return;
     m_done = true;
     m_deadline.stop();
-    m_grace.stop();
+    m_idle.stop();
+    if (m_grace.isActive()) {
+        // The shell may go on TERM while members of its group ignore it: once the grace has
+        // passed they are killed, whether or not the shell is still there. The group keeps its
+        // number while any member lives.
+        const auto group = static_cast<pid_t>(m_pid);
+        QTimer::singleShot(m_grace.remainingTime(), QCoreApplication::instance(), [group] { ::kill(-group, SIGKILL); });
+        m_grace.stop();
+    }
+    const ProcessOutcome::Kind kind = m_stopReason.value_or(ProcessOutcome::exited);
     if (kind != ProcessOutcome::failedToStart) {
         readOutput();
         if (m_options.channels == Channels::merged)

@@ -10,12 +10,15 @@
 
 #include <coroutine>
 #include <functional>
+#include <optional>
 
 namespace qf {
 
 // How one child process ended.
 struct ProcessOutcome {
-    enum Kind { exited, failedToStart, timedOut };
+    // Stopped ones: `timedOut` (ran too long), `outputLimitReached` (wrote more than is kept),
+    // `stalled` (no output for too long).
+    enum Kind { exited, failedToStart, timedOut, outputLimitReached, stalled };
     Kind kind = exited;
     int exitCode = 0;
     QByteArray standardOutput;
@@ -37,9 +40,15 @@ public:
         QString program;
         QStringList arguments;
         QProcessEnvironment environment;
+        QString workingDirectory;
         Channels channels = Channels::separate;
         int timeoutMs = 0; // 0: no limit
         int terminationGraceMs = 3000;
+        // Separate channels: at most this many bytes of each are kept (0: no limit); a process
+        // that writes more is stopped.
+        qsizetype captureLimitBytes = 0;
+        // A process without any output for this long is stopped (0: no limit).
+        int inactivityTimeoutMs = 0;
         // Merged output as text, chunk by chunk, while `context` (when set) is alive.
         std::function<void(const QString&)> onOutput;
         QPointer<QObject> context;
@@ -62,17 +71,23 @@ private:
     void start();
     void readOutput();
     void readError();
+    // Keeps `bytes` of one channel, up to the limit.
+    void capture(QByteArray& kept, const QByteArray& bytes);
     void deliver(const QString& text);
+    // Stops the whole process group for `reason`: TERM now, KILL once the grace has passed.
+    void stop(ProcessOutcome::Kind reason);
     void stopGroup(int signal);
-    void finish(ProcessOutcome::Kind kind);
+    void finish();
 
     Options m_options;
     QProcess* m_process;
     QTimer m_deadline;
+    QTimer m_idle;
     QTimer m_grace;
     Utf8StreamDecoder m_decoder;
     ProcessOutcome m_outcome;
-    bool m_timedOut = false;
+    qint64 m_pid = 0;
+    std::optional<ProcessOutcome::Kind> m_stopReason;
     bool m_done = false;
     std::coroutine_handle<> m_waiter;
 };

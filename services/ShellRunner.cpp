@@ -4,6 +4,7 @@
 
 #include <QCoro/QCoroTimer>
 #include <QDir>
+#include <QFileInfo>
 
 #include <algorithm>
 #include <chrono>
@@ -42,7 +43,8 @@ QString ShellRunner::searchPath(const QString& home, QStringList nvmVersionNames
     directories << home + QStringLiteral("/.local/bin");
     directories << fixedDirectories;
     if (inheritedPath)
-        directories << *inheritedPath;
+        directories << inheritedPath->split(QLatin1Char(':'));
+    directories.removeAll(QString());
     return directories.join(QLatin1Char(':'));
 }
 
@@ -67,6 +69,10 @@ ProcessRun::Options ShellRunner::processOptions(const QString& command) const
     options.program = m_configuration.shell;
     options.arguments = {QStringLiteral("-l"), QStringLiteral("-c"), command};
     options.environment = commandEnvironment();
+    // Never wherever the application happened to be started: the home folder, or the root
+    // when the home folder is not there.
+    const QString home = QDir::homePath();
+    options.workingDirectory = QFileInfo(home).isDir() ? home : QDir::rootPath();
     options.terminationGraceMs = m_configuration.terminationGraceMs;
     return options;
 }
@@ -75,7 +81,9 @@ QCoro::Task<Result<QString>> ShellRunner::run(QString command, double timeoutSec
 {
     ProcessRun::Options options = processOptions(command);
     options.channels = ProcessRun::Channels::separate;
-    options.timeoutMs = timeoutSeconds > 0 ? static_cast<int>(std::min(timeoutSeconds * 1000.0, 2.0e9)) : 0;
+    // At least a millisecond, at most what a timer can wait.
+    options.timeoutMs = timeoutSeconds > 0 ? static_cast<int>(std::clamp(timeoutSeconds * 1000.0, 1.0, 2.0e9)) : 0;
+    options.captureLimitBytes = m_configuration.outputLimitBytes;
 
     auto* process = new ProcessRun(std::move(options));
     const ProcessOutcome outcome = co_await process->outcome();
@@ -83,14 +91,15 @@ QCoro::Task<Result<QString>> ShellRunner::run(QString command, double timeoutSec
     switch (outcome.kind) {
     case ProcessOutcome::failedToStart: co_return ShellError::launchFailed(outcome.launchError);
     case ProcessOutcome::timedOut: co_return ShellError::timeout(timeoutSeconds);
+    case ProcessOutcome::outputLimitReached: co_return ShellError::outputLimit(m_configuration.outputLimitBytes);
+    case ProcessOutcome::stalled:
     case ProcessOutcome::exited: break;
     }
 
-    // A stream that is not valid UTF-8 counts as empty.
-    const QString output = decodeUtf8Strictly(outcome.standardOutput).value_or(QString());
+    const QString output = decodeUtf8Lossily(outcome.standardOutput);
     if (outcome.exitCode == 0)
         co_return output.trimmed();
-    const QString error = decodeUtf8Strictly(outcome.standardError).value_or(QString());
+    const QString error = decodeUtf8Lossily(outcome.standardError);
     const QString combined = output.isEmpty() ? error : output + QLatin1Char('\n') + error;
     co_return ShellError::failed(outcome.exitCode, combined.trimmed());
 }
@@ -102,11 +111,14 @@ QCoro::Task<Result<void>> ShellRunner::runWithStreaming(QString command, OutputH
     options.onOutput = std::move(onOutput);
     options.context = context;
     options.hasContext = context != nullptr;
+    options.inactivityTimeoutMs = m_configuration.streamInactivityMs;
 
     auto* process = new ProcessRun(std::move(options));
     const ProcessOutcome outcome = co_await process->outcome();
     if (outcome.kind == ProcessOutcome::failedToStart)
         co_return ShellError::launchFailed(outcome.launchError);
+    if (outcome.kind == ProcessOutcome::stalled)
+        co_return ShellError::stalled(m_configuration.streamInactivityMs / 1000.0);
 
     co_await QCoro::sleepFor(kStreamCompletionDelay);
     if (outcome.exitCode == 0)

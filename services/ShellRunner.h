@@ -13,9 +13,9 @@
 
 namespace qf {
 
-// Runs one shell command line at a time as a child process: `/bin/zsh -l -c LINE`, with the
-// application's environment and a search path that also covers Node.js versions installed
-// through nvm, ~/.local/bin and both usual Homebrew locations.
+// Runs one shell command line at a time as a child process: `/bin/zsh -l -c LINE`, in the
+// user's home folder, with the application's environment and a search path that also covers
+// Node.js versions installed through nvm, ~/.local/bin and both usual Homebrew locations.
 //
 // Commands never read from a terminal: standard input is the null device and the child runs
 // in a session of its own, so a command that would ask a question fails at once instead of
@@ -35,6 +35,11 @@ public:
         std::optional<QString> inheritedPath;
         // How long a stopped command gets between TERM and KILL.
         int terminationGraceMs = 3000;
+        // `run()` keeps at most this much of each output channel; a command that writes more
+        // is stopped.
+        qsizetype outputLimitBytes = 16 * 1024 * 1024;
+        // A streamed command without output for this long is stopped.
+        int streamInactivityMs = 15 * 60 * 1000;
     };
 
     // The shell and the search path of this system.
@@ -48,12 +53,14 @@ public:
 
     // Runs `command` and returns its standard output, trimmed. A non-zero exit gives
     // `commandFailed` with standard output and standard error combined; a command still
-    // running after `timeoutSeconds` (0: no limit) is stopped, with its whole process group.
+    // running after `timeoutSeconds` (0: no limit), or writing more than the output limit, is
+    // stopped, with its whole process group. Bytes that are not UTF-8 become U+FFFD.
     QCoro::Task<Result<QString>> run(QString command, double timeoutSeconds = defaultTimeoutSeconds);
 
     // Runs `command` with standard output and error merged, handing the text to `onOutput`
     // as it arrives (on the GUI thread), and returns 0.1 s after the command has ended. When
-    // `context` is given, output stops being delivered once it is destroyed. Not bounded.
+    // `context` is given, output stops being delivered once it is destroyed. No time limit,
+    // but a command that shows no output for the inactivity bound is stopped.
     QCoro::Task<Result<void>> runWithStreaming(QString command, OutputHandler onOutput, QObject* context = nullptr);
 
     // The environment a command gets: the application's own, with PATH extended.
@@ -61,6 +68,7 @@ public:
 
     // PATH for a command: nvm's Node.js versions (names in descending text order), then
     // ~/.local/bin, the fixed directories, and last the application's own PATH (if any).
+    // Empty elements, which would mean the current folder, are left out.
     static QString searchPath(const QString& home, QStringList nvmVersionNames, const QStringList& fixedDirectories,
                               const std::optional<QString>& inheritedPath);
 

@@ -39,19 +39,25 @@ qsizetype incompleteTail(QByteArrayView bytes)
 
 QString Utf8StreamDecoder::feed(QByteArrayView bytes)
 {
+    QString text;
     if (m_pending.isEmpty()) {
         // The usual case: decode straight from the chunk, keep only an unfinished tail.
         const qsizetype keep = incompleteTail(bytes);
         m_pending = bytes.last(keep).toByteArray();
-        return QString::fromUtf8(bytes.first(bytes.size() - keep));
+        text = decodeUtf8Lossily(bytes.first(bytes.size() - keep));
+    } else {
+        m_pending.append(bytes);
+        const qsizetype keep = incompleteTail(m_pending);
+        const qsizetype ready = m_pending.size() - keep;
+        text = decodeUtf8Lossily(QByteArrayView(m_pending).first(ready));
+        m_pending.remove(0, ready);
     }
-    m_pending.append(bytes);
-    const qsizetype keep = incompleteTail(m_pending);
-    const qsizetype ready = m_pending.size() - keep;
-    if (ready == 0)
-        return {};
-    QString text = QString::fromUtf8(m_pending.constData(), ready);
-    m_pending.remove(0, ready);
+    // Only a byte-order mark that opens the whole stream is a mark; later ones are text.
+    if (!m_started && !text.isEmpty()) {
+        m_started = true;
+        if (text.front() == QChar::ByteOrderMark)
+            text.remove(0, 1);
+    }
     return text;
 }
 
@@ -63,15 +69,12 @@ QString Utf8StreamDecoder::finish()
     return unfinished ? QString(QChar::ReplacementCharacter) : QString();
 }
 
-std::optional<QString> decodeUtf8Strictly(const QByteArray& bytes)
+QString decodeUtf8Lossily(QByteArrayView bytes)
 {
-    // A byte-order mark is kept as text, so that writing the text back gives the same bytes.
+    // A byte-order mark is kept as text (Qt's own decoding would drop it from the start).
     QStringDecoder decoder(QStringDecoder::Utf8,
                            QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom);
-    QString text = decoder(bytes);
-    if (decoder.hasError())
-        return std::nullopt;
-    return text;
+    return decoder(bytes);
 }
 
 } // namespace qf

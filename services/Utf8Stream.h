@@ -3,13 +3,12 @@
 #include <QByteArray>
 #include <QString>
 
-#include <optional>
-
 namespace qf {
 
 // Turns a byte stream into text chunk by chunk without losing anything: a character split
-// between two reads is delivered whole with the next chunk, and bytes that are not UTF-8
-// become U+FFFD instead of taking the rest of the chunk with them.
+// between two reads is delivered whole with the next chunk, bytes that are not UTF-8 become
+// U+FFFD instead of taking the rest of the chunk with them, and a byte-order mark is dropped
+// only where it opens the stream.
 class Utf8StreamDecoder {
 public:
     // The text of every complete character received so far and not yet returned.
@@ -19,9 +18,11 @@ public:
 
 private:
     QByteArray m_pending;
+    bool m_started = false;
 };
 
-// Strict decoding: text when `bytes` are valid UTF-8, nothing otherwise.
-std::optional<QString> decodeUtf8Strictly(const QByteArray& bytes);
+// Everything decoded: bytes that are not UTF-8 become U+FFFD, the rest is kept, a byte-order
+// mark included.
+QString decodeUtf8Lossily(QByteArrayView bytes);
 
 } // namespace qf

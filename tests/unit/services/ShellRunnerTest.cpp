@@ -6,6 +6,8 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
 #include <QThread>
 
 #include <csignal>
@@ -41,10 +43,11 @@ protected:
         return *result;
     }
 
-    Streamed stream(const QString& command)
+    Streamed stream(const QString& command) { return stream(services.runner, command); }
+    static Streamed stream(ShellRunner& runner, const QString& command)
     {
         Streamed streamed;
-        auto result = await(services.runner.runWithStreaming(command, [&](const QString& text) {
+        auto result = await(runner.runWithStreaming(command, [&](const QString& text) {
             streamed.chunks << text;
             streamed.allOnGuiThread = streamed.allOnGuiThread && QThread::currentThread() == qApp->thread();
         }));
@@ -109,8 +112,32 @@ TEST_F(ShellRunnerTest, ResultTexts)
     ASSERT_FALSE(silent.ok());
     EXPECT_EQ(silent.error().errorDescription(), QStringLiteral("Command failed with exit code 3: "));
 
-    // Output that is not UTF-8 counts as empty.
-    EXPECT_EQ(run(QStringLiteral("printf 'ab\\377'")).value(), QString());
+    // Bytes that are not UTF-8 become U+FFFD; everything else is kept.
+    EXPECT_EQ(run(QStringLiteral("printf 'ab\\377cd'")).value(), QStringLiteral("ab\uFFFDcd"));
+    const Result<QString> badError = run(QStringLiteral("printf 'e\\377' >&2; exit 1"));
+    ASSERT_FALSE(badError.ok());
+    EXPECT_EQ(badError.error().shellError()->output(), QStringLiteral("e\uFFFD"));
+}
+
+TEST(ShellError, TextsSayTheRealLengthsAndKeepTheEndOfLongOutput)
+{
+    EXPECT_EQ(ShellError::timeout(0.5).errorDescription(),
+              QStringLiteral("The command did not finish within 0.5 seconds and was stopped."));
+    EXPECT_EQ(ShellError::timeout(1).errorDescription(),
+              QStringLiteral("The command did not finish within 1 second and was stopped."));
+    EXPECT_EQ(ShellError::timeout(600).errorDescription(),
+              QStringLiteral("The command did not finish within 10 minutes and was stopped."));
+    EXPECT_EQ(ShellError::timeout(1e12).errorDescription(),
+              QStringLiteral("The command did not finish within 1,000,000,000,000 seconds and was stopped."));
+    EXPECT_EQ(ShellError::stalled(15 * 60).errorDescription(),
+              QStringLiteral("The command showed no progress for 15 minutes and was stopped."));
+
+    const QString noise = QString(5000, QLatin1Char('x')) + QStringLiteral("\nnpm ERR! the real reason");
+    const QString shown = ShellError::failed(1, noise).errorDescription();
+    EXPECT_TRUE(shown.endsWith(QStringLiteral("npm ERR! the real reason")));
+    EXPECT_TRUE(shown.contains(QStringLiteral("earlier output cut")));
+    EXPECT_LT(shown.size(), ShellError::shownOutputLength + 200);
+    EXPECT_EQ(ShellError::failed(1, noise).output(), noise); // callers still get all of it
 }
 
 TEST_F(ShellRunnerTest, ALaunchFailureIsAProcessError)
@@ -199,6 +226,90 @@ TEST_F(ShellRunnerTest, OverlongCommandsAreStoppedWithTheirWholeGroup)
             QThread::msleep(20);
     }
     EXPECT_TRUE(gone);
+}
+
+TEST_F(ShellRunnerTest, AfterATimeOutNothingOfTheGroupSurvives)
+{
+    // The shell goes on TERM; a member of its group ignores TERM and must still go.
+    ShellRunner impatient(configurationWith([](auto& c) { c.terminationGraceMs = 200; }));
+    const QString pidFile = sandbox.path(QStringLiteral("stubborn.pid"));
+    const Result<QString> result = run(
+        impatient, QStringLiteral("(trap '' TERM; exec sleep 123) & echo $! > '%1'; wait").arg(pidFile), 0.5);
+    ASSERT_FALSE(result.ok());
+    EXPECT_EQ(result.error().shellError()->kind(), ShellError::timedOut);
+
+    const QByteArray pid = sandbox.readFile(QStringLiteral("stubborn.pid")).trimmed();
+    ASSERT_FALSE(pid.isEmpty());
+    // Gone, or a zombie waiting for whoever adopted it.
+    const auto gone = [&pid] {
+        QFile stat(QStringLiteral("/proc/") + QString::fromLatin1(pid) + QStringLiteral("/stat"));
+        if (!stat.open(QIODevice::ReadOnly))
+            return ::kill(pid.toInt(), 0) != 0;
+        const QByteArray fields = stat.readAll();
+        return fields.mid(fields.lastIndexOf(')') + 2, 1) == "Z";
+    };
+    EXPECT_TRUE(QTest::qWaitFor(gone, 3000)) << "process " << pid.constData() << " outlived its time-out";
+}
+
+TEST_F(ShellRunnerTest, CommandsStartAtHomeAndNeverSearchTheCurrentFolder)
+{
+    // A program planted where the application was started, and a search path whose inherited
+    // part ends in ':' (an empty element means the current folder).
+    QTemporaryDir planted;
+    ASSERT_TRUE(planted.isValid());
+    QFile program(planted.filePath(QStringLiteral("claude")));
+    ASSERT_TRUE(program.open(QIODevice::WriteOnly));
+    program.write("#!/bin/sh\necho planted\n");
+    program.close();
+    program.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+    const QString started = QDir::currentPath();
+    ASSERT_TRUE(QDir::setCurrent(planted.path()));
+    ShellRunner runner(configurationWith([](auto& c) { c.inheritedPath = *c.inheritedPath + QStringLiteral("::"); }));
+    const Result<QString> found = run(runner, QStringLiteral("pwd; claude"));
+    const Result<QString> path = run(runner, QStringLiteral("printf %s \"$PATH\""));
+    QDir::setCurrent(started);
+
+    ASSERT_FALSE(found.ok()) << "the planted program ran";
+    EXPECT_FALSE(found.error().shellError()->output().contains(QStringLiteral("planted")));
+    EXPECT_TRUE(found.error().shellError()->output().startsWith(QDir::homePath() + QLatin1Char('\n')));
+    ASSERT_TRUE(path.ok());
+    EXPECT_FALSE(path.value().split(QLatin1Char(':')).contains(QString())) << path.value().toStdString();
+}
+
+TEST_F(ShellRunnerTest, OutputBeyondTheLimitStopsTheCommand)
+{
+    ShellRunner bounded(configurationWith([](auto& c) {
+        c.outputLimitBytes = 1024 * 1024;
+        c.terminationGraceMs = 200;
+    }));
+    for (const char* command : {"yes", "yes >&2"}) {
+        const Result<QString> result = run(bounded, QString::fromLatin1(command), 30);
+        ASSERT_FALSE(result.ok()) << command;
+        EXPECT_EQ(result.error().shellError()->kind(), ShellError::outputTooLarge) << command;
+        EXPECT_EQ(result.error().errorDescription(),
+                  QStringLiteral("The command wrote more than 1 MB of output and was stopped."));
+    }
+    // Below the limit, all of it arrives.
+    const Result<QString> fits = run(bounded, QStringLiteral("yes | head -c 900000"));
+    ASSERT_TRUE(fits.ok());
+    EXPECT_EQ(fits.value().size(), 900000 - 1); // trimmed of its last line break
+}
+
+TEST_F(ShellRunnerTest, AStreamedCommandWithoutProgressIsStopped)
+{
+    ShellRunner watchful(configurationWith([](auto& c) {
+        c.streamInactivityMs = 600;
+        c.terminationGraceMs = 200;
+    }));
+    // Output every 0.3 s keeps it going; then it goes quiet.
+    const Streamed streamed = stream(watchful,
+                                     QStringLiteral("echo a; sleep 0.3; echo b; sleep 0.3; echo c; sleep 60"));
+    ASSERT_TRUE(streamed.result.has_value());
+    ASSERT_FALSE(streamed.result->ok());
+    EXPECT_EQ(streamed.result->error().shellError()->kind(), ShellError::noProgress);
+    EXPECT_EQ(streamed.result->error().errorDescription(),
+              QStringLiteral("The command showed no progress for 0.6 seconds and was stopped."));
+    EXPECT_EQ(streamed.text(), QStringLiteral("a\nb\nc\n"));
 }
 
 TEST_F(ShellRunnerTest, DeliversOutputWhileRunningOnTheGuiThread)

@@ -37,12 +37,22 @@ TEST(Utf8StreamDecoder, InvalidBytesBecomeReplacementCharactersAndLoseNothingEls
     EXPECT_TRUE(decoder.finish().isEmpty());
 }
 
-TEST(Utf8StreamDecoder, StrictDecodingRejectsInvalidText)
+TEST(Utf8StreamDecoder, OnlyTheMarkThatOpensTheStreamIsDropped)
 {
-    EXPECT_EQ(qf::decodeUtf8Strictly("caf\xC3\xA9"), QString::fromUtf8("caf\xC3\xA9"));
-    EXPECT_FALSE(qf::decodeUtf8Strictly("caf\xC3").has_value());
-    EXPECT_FALSE(qf::decodeUtf8Strictly("\xFF").has_value());
-    EXPECT_EQ(qf::decodeUtf8Strictly(QByteArray()), QString());
-    // A byte-order mark survives, so text written back has the same bytes.
-    EXPECT_EQ(qf::decodeUtf8Strictly("\xEF\xBB\xBFx")->toUtf8(), QByteArray("\xEF\xBB\xBFx"));
+    const QByteArray mark = "\xEF\xBB\xBF";
+    Utf8StreamDecoder decoder;
+    QString text = decoder.feed(mark.left(2)); // even split across the first reads
+    text += decoder.feed(QByteArray(mark.mid(2) + "a"));
+    text += decoder.feed(QByteArray(mark + "b" + mark)); // a read that begins with one
+    text += decoder.feed(mark.left(1));
+    text += decoder.feed(mark.mid(1));
+    text += decoder.finish();
+    EXPECT_EQ(text, QStringLiteral("a\uFEFFb\uFEFF\uFEFF"));
+}
+
+TEST(Utf8StreamDecoder, LossyDecodingKeepsEverythingItCan)
+{
+    EXPECT_EQ(qf::decodeUtf8Lossily("caf\xC3\xA9 \xFF ok"), QStringLiteral("caf\u00E9 \uFFFD ok"));
+    EXPECT_EQ(qf::decodeUtf8Lossily("\xEF\xBB\xBFx"), QStringLiteral("\uFEFFx"));
+    EXPECT_EQ(qf::decodeUtf8Lossily(QByteArray()), QString());
 }
