@@ -38,6 +38,13 @@ QString userShell()
     return QStringLiteral("/bin/bash");
 }
 
+// Shells that take "-l" only as their one flag.
+const QStringList& cshFamilies()
+{
+    static const QStringList names{QStringLiteral("csh"), QStringLiteral("tcsh")};
+    return names;
+}
+
 // "~" and "~/..." become paths under `home`, for emulators that take a working directory.
 QString expandHome(const QString& directory, const QString& home)
 {
@@ -266,11 +273,18 @@ QString LinuxPlatform::terminalShellLine(const QString& command, const QString& 
            QStringLiteral("; exec ") + shellQuote(shell) + QStringLiteral(" -l");
 }
 
+QStringList LinuxPlatform::shellInvocation(const QString& shell, const QString& line)
+{
+    // csh and tcsh refuse "-l" beside other flags; without it they still read ~/.cshrc.
+    if (cshFamilies().contains(QFileInfo(shell).fileName()))
+        return {shell, QStringLiteral("-c"), line};
+    return {shell, QStringLiteral("-l"), QStringLiteral("-c"), line};
+}
+
 QStringList LinuxPlatform::terminalCommandLine(const QString& emulator, const QString& command,
                                                const QString& directory, const QString& home, const QString& shell)
 {
-    const QStringList inner{shell, QStringLiteral("-l"), QStringLiteral("-c"),
-                            terminalShellLine(command, directory, shell)};
+    const QStringList inner = shellInvocation(shell, terminalShellLine(command, directory, shell));
     const QString workingDirectory = expandHome(directory, home);
     const QString kind = QFileInfo(emulator).fileName();
 

@@ -76,6 +76,10 @@ public:
     // The shell line run inside the terminal: cd to the directory (quoted, "~/" kept for the
     // shell to expand), run the command, then replace itself by an interactive login shell.
     static QString terminalShellLine(const QString& command, const QString& directory, const QString& shell);
+    // The program and arguments that run `line` in the user's login shell `shell`: as a login
+    // shell ("-l -c"), except csh and tcsh, which take "-l" only on its own and run it with
+    // "-c" (reading ~/.cshrc).
+    static QStringList shellInvocation(const QString& shell, const QString& line);
 
     // KEY=value lines of /etc/os-release, unquoted.
     static QMap<QString, QString> parseOsRelease(const QString& text);

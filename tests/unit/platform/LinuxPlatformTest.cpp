@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QProcess>
 #include <QRegularExpression>
 #include <QSysInfo>
 #include <QTemporaryDir>
@@ -166,6 +167,51 @@ TEST(LinuxPlatformCommandLine, EachEmulatorGetsTheDirectoryAndTheLoginShell)
     // x-terminal-emulator and any other emulator: the Debian convention.
     EXPECT_EQ(commandLine("/opt/kitty/bin/kitty", "~/Developer"),
               QStringList({q("/opt/kitty/bin/kitty"), q("-e")}) + login("~/Developer"));
+}
+
+// Every family of login shell gets a line it runs, and stays open afterwards for the user:
+// with the real shells of each family that this machine has.
+TEST(LinuxPlatformCommandLine, EveryShellFamilyRunsTheLineAndStaysOpen)
+{
+    // csh and tcsh refuse "-l" next to "-c"; they get "-c" alone and still end in a login shell.
+    const QStringList tcsh = LinuxPlatform::terminalCommandLine(q("xterm"), q("claude"), q("~/Developer"),
+                                                                q("/home/ada"), q("/usr/bin/tcsh"));
+    EXPECT_EQ(tcsh.mid(0, 5), QStringList({q("xterm"), q("-hold"), q("-e"), q("/usr/bin/tcsh"), q("-c")}));
+    EXPECT_TRUE(tcsh.last().endsWith(q("; exec /usr/bin/tcsh -l"))) << tcsh.last().toStdString();
+
+    int tried = 0;
+    for (const char* shell : {"/bin/sh", "/bin/bash", "/bin/zsh", "/bin/dash", "/bin/ksh", "/bin/mksh", "/bin/csh",
+                              "/bin/tcsh", "/usr/bin/fish"}) {
+        if (!QFileInfo(q(shell)).isExecutable())
+            continue;
+        ++tried;
+        QTemporaryDir home;
+        ASSERT_TRUE(home.isValid() && QDir(home.path()).mkpath(q("work")));
+        // What the emulator would run after "-e".
+        const QStringList run = LinuxPlatform::terminalCommandLine(q("x-terminal-emulator"), q("pwd > ran"),
+                                                                   q("~/work"), home.path(), q(shell))
+                                    .mid(2);
+        QProcess process;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(q("HOME"), home.path());
+        process.setProcessEnvironment(environment);
+        process.setWorkingDirectory(home.path());
+        process.start(run.first(), run.mid(1));
+        ASSERT_TRUE(process.waitForStarted(5000)) << shell;
+        // The user's own shell, left open, takes what is typed next.
+        process.write("echo stayed > stayed\n");
+        process.closeWriteChannel();
+        EXPECT_TRUE(process.waitForFinished(10000)) << shell;
+        const auto read = [&home](const char* name) {
+            QFile file(home.filePath(q(name)));
+            return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()).trimmed() : q("<missing>");
+        };
+        EXPECT_EQ(QFileInfo(read("work/ran")).canonicalFilePath(),
+                  QFileInfo(home.filePath(q("work"))).canonicalFilePath())
+            << shell << ": " << process.readAllStandardError().constData();
+        EXPECT_EQ(read("work/stayed"), q("stayed")) << shell;
+    }
+    EXPECT_GT(tried, 0);
 }
 
 // --- Finding the emulator ------------------------------------------------------------------
