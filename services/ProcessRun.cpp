@@ -87,8 +87,10 @@ void ProcessRun::capture(QByteArray& kept, const QByteArray& bytes)
         return;
     }
     // Past the limit the process is stopped; what it still writes meanwhile is read and dropped.
-    kept += QByteArrayView(bytes).first(std::min(bytes.size(), std::max<qsizetype>(0, limit - kept.size())));
-    if (bytes.size() > 0 && kept.size() >= limit && !m_stopReason)
+    // Exactly the limit is still whole.
+    const qsizetype room = std::max<qsizetype>(0, limit - kept.size());
+    kept += QByteArrayView(bytes).first(std::min(bytes.size(), room));
+    if (bytes.size() > room && !m_stopReason)
         stop(ProcessOutcome::outputLimitReached);
 }
 

@@ -289,10 +289,10 @@ TEST_F(ShellRunnerTest, OutputBeyondTheLimitStopsTheCommand)
         EXPECT_EQ(result.error().errorDescription(),
                   QStringLiteral("The command wrote more than 1 MB of output and was stopped."));
     }
-    // Below the limit, all of it arrives.
-    const Result<QString> fits = run(bounded, QStringLiteral("yes | head -c 900000"));
-    ASSERT_TRUE(fits.ok());
-    EXPECT_EQ(fits.value().size(), 900000 - 1); // trimmed of its last line break
+    // Up to the limit, all of it arrives.
+    const Result<QString> fits = run(bounded, QStringLiteral("yes | head -c 1048576"));
+    ASSERT_TRUE(fits.ok()) << fits.error().errorDescription().toStdString();
+    EXPECT_EQ(fits.value().size(), 1048576 - 1); // trimmed of its last line break
 }
 
 TEST_F(ShellRunnerTest, AStreamedCommandWithoutProgressIsStopped)
