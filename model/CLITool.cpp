@@ -213,6 +213,18 @@ QString CLITool::logoImageName() const { return QString::fromLatin1(texts(*this)
 QColor CLITool::brandColor() const { return QColor::fromRgb(texts(*this).brandColor); }
 bool CLITool::requiresNodeJS() const { return texts(*this).requiresNodeJS; }
 
+int CLITool::minimumNodeMajorVersion() const
+{
+    // What the packages declare (npm registry, November 2026): @google/gemini-cli "node >=20",
+    // @openai/codex "node >=16", which the floor of 18 covers.
+    return m_case == geminiCLI ? 20 : 18;
+}
+
+QString CLITool::nodeRequirementNote() const
+{
+    return tr("%1 needs Node.js %2 or newer.").arg(displayName()).arg(minimumNodeMajorVersion());
+}
+
 QString CLITool::toolDescription() const { return tr(texts(*this).toolDescription); }
 QString CLITool::accountRequirement() const { return tr(texts(*this).accountRequirement); }
 QString CLITool::pricingInfo() const { return tr(texts(*this).pricingInfo); }

@@ -56,6 +56,10 @@ public:
     QString logoImageName() const; // image asset name
     QColor brandColor() const;
     bool requiresNodeJS() const;
+    // The oldest major version of Node.js the tool's package runs on (never below 18).
+    int minimumNodeMajorVersion() const;
+    // "Gemini CLI needs Node.js 20 or newer."
+    QString nodeRequirementNote() const;
 
     QString toolDescription() const;
     QString accountRequirement() const;

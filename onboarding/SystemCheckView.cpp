@@ -41,7 +41,8 @@ QCoro::Task<SystemCheck> checkSystem(CLITool tool, ShellRunner& shell, SystemDet
 
 } // namespace
 
-RequirementRow::RequirementRow(const RequirementStatus& status, const SystemWording& wording, QWidget* parent)
+RequirementRow::RequirementRow(const RequirementStatus& status, const SystemWording& wording, const QString& note,
+                               QWidget* parent)
     : RoundedCard(parent)
 {
     const QString title = status.requirement.title(wording);
@@ -90,7 +91,10 @@ RequirementRow::RequirementRow(const RequirementStatus& status, const SystemWord
     help->setObjectName(QStringLiteral("requirementHelp"));
     auto* helpColumn = vstack(help, 6);
     helpColumn->addWidget(divider(8));
-    auto* explanation = new Label(status.requirement.helpText(wording), Theme::caption(), Tint(Role::secondary));
+    QString helpText = status.requirement.helpText(wording);
+    if (!note.isEmpty())
+        helpText += QLatin1Char(' ') + note;
+    auto* explanation = new Label(helpText, Theme::caption(), Tint(Role::secondary));
     explanation->setObjectName(QStringLiteral("requirementExplanation"));
     explanation->setWrapping(true);
     helpColumn->addWidget(explanation);
@@ -217,8 +221,13 @@ void SystemCheckView::rebuildRequirementRows()
 {
     qDeleteAll(requirementRows());
     const SystemWording& wording = m_services.platform.wording();
-    for (const RequirementStatus& status : m_state.requirements())
-        m_requirementList->layout()->addWidget(new RequirementRow(status, wording));
+    const std::optional<CLITool> tool = m_state.selectedTool();
+    for (const RequirementStatus& status : m_state.requirements()) {
+        // The Node.js row says which version the chosen tool needs.
+        const QString note = tool && status.requirement == SystemRequirement::nodeJS ? tool->nodeRequirementNote()
+                                                                                     : QString();
+        m_requirementList->layout()->addWidget(new RequirementRow(status, wording, note));
+    }
 }
 
 void SystemCheckView::render()

@@ -22,7 +22,9 @@ class RequirementRow : public ui::RoundedCard {
     Q_OBJECT
 
 public:
-    RequirementRow(const RequirementStatus& status, const SystemWording& wording, QWidget* parent = nullptr);
+    // `note` follows the requirement's explanation (what the chosen tool needs of it).
+    RequirementRow(const RequirementStatus& status, const SystemWording& wording, const QString& note = QString(),
+                   QWidget* parent = nullptr);
 
     bool showsHelp() const { return m_showHelp; }
     ui::Button* helpButton() const { return m_help; }

@@ -9,7 +9,7 @@ namespace qf {
 
 SystemDetector::SystemDetector(ShellRunner& shell, const Platform& platform) : m_shell(shell), m_platform(platform) {}
 
-NodeCheck SystemDetector::evaluateNodeVersion(const std::optional<QString>& version)
+NodeCheck SystemDetector::evaluateNodeVersion(const std::optional<QString>& version, int minimumMajorVersion)
 {
     if (!version)
         return {false, std::nullopt, false};
@@ -19,7 +19,15 @@ NodeCheck SystemDetector::evaluateNodeVersion(const std::optional<QString>& vers
     const QStringList pieces = text.split(QLatin1Char('.'), Qt::SkipEmptyParts);
     bool parsed = false;
     const int major = pieces.isEmpty() ? 0 : pieces.first().toInt(&parsed, 10);
-    return {true, version, parsed && major >= minimumNodeMajorVersion};
+    return {true, version, parsed && major >= minimumMajorVersion};
+}
+
+RequirementStatus SystemDetector::nodeStatus(const NodeCheck& node, CLITool tool)
+{
+    QString details = node.version.value_or(QStringLiteral("Not installed"));
+    if (node.isInstalled && !node.meetsRequirement)
+        details += QStringLiteral(" (needs %1 or newer)").arg(tool.minimumNodeMajorVersion());
+    return {SystemRequirement::nodeJS, node.isInstalled && node.meetsRequirement, details};
 }
 
 RequirementStatus SystemDetector::diskSpaceStatus(std::optional<qint64> megabytes)
@@ -37,10 +45,32 @@ QCoro::Task<std::optional<QString>> SystemDetector::getNodeVersion()
     co_return result.value().trimmed();
 }
 
-QCoro::Task<NodeCheck> SystemDetector::checkNodeJS()
+QCoro::Task<NodeCheck> SystemDetector::checkNodeJS(int minimumMajorVersion)
 {
     const std::optional<QString> version = co_await getNodeVersion();
-    co_return evaluateNodeVersion(version);
+    co_return evaluateNodeVersion(version, minimumMajorVersion);
+}
+
+QCoro::Task<QList<NodeInstall>> SystemDetector::findNodeInstalls()
+{
+    // One line per folder of the search path that holds a node: the folder, a tab, the version.
+    const Result<QString> result = co_await m_shell.run(QStringLiteral(
+        "printf '%s\\n' \"$PATH\" | tr ':' '\\n' | while IFS= read -r d; do "
+        "[ -n \"$d\" ] && [ -x \"$d/node\" ] && printf '%s\\t%s\\n' \"$d\" \"$(\"$d/node\" --version 2>/dev/null)\"; "
+        "done; true"));
+    QList<NodeInstall> installs;
+    if (!result)
+        co_return installs;
+    const QStringList lines = result.value().split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    for (const QString& line : lines) {
+        const qsizetype tab = line.indexOf(QLatin1Char('\t'));
+        if (tab <= 0)
+            continue;
+        const NodeInstall install{line.first(tab), line.sliced(tab + 1).trimmed()};
+        if (!installs.contains(install))
+            installs << install;
+    }
+    co_return installs;
 }
 
 QCoro::Task<std::optional<QString>> SystemDetector::getToolVersion(CLITool tool)
@@ -86,9 +116,8 @@ QCoro::Task<QList<RequirementStatus>> SystemDetector::checkAllRequirements(CLITo
     requirements << checkOperatingSystem();
     requirements << diskSpaceStatus(availableDiskSpaceMB());
     if (tool.requiresNodeJS()) {
-        const NodeCheck node = co_await checkNodeJS();
-        requirements << RequirementStatus{SystemRequirement::nodeJS, node.isInstalled && node.meetsRequirement,
-                                          node.version.value_or(QStringLiteral("Not installed"))};
+        const NodeCheck node = co_await checkNodeJS(tool.minimumNodeMajorVersion());
+        requirements << nodeStatus(node, tool);
     }
     co_return requirements;
 }

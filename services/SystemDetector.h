@@ -12,13 +12,21 @@
 namespace qf {
 
 // What is known about the installed Node.js: its version as printed ("v20.10.0") and whether
-// it is new enough (major version 18 or later).
+// it is new enough (by default major version 18 or later; a tool may need more).
 struct NodeCheck {
     bool isInstalled = false;
     std::optional<QString> version;
     bool meetsRequirement = false;
 
     friend bool operator==(const NodeCheck&, const NodeCheck&) = default;
+};
+
+// One Node.js on the search path.
+struct NodeInstall {
+    QString folder;
+    QString version;
+
+    friend bool operator==(const NodeInstall&, const NodeInstall&) = default;
 };
 
 // Answers what the setup needs to know about the machine. It only looks, never changes
@@ -34,8 +42,11 @@ public:
 
     // The operating system, the free disk space and, for tools that need it, Node.js.
     QCoro::Task<QList<RequirementStatus>> checkAllRequirements(CLITool tool);
-    QCoro::Task<NodeCheck> checkNodeJS();
+    QCoro::Task<NodeCheck> checkNodeJS(int minimumMajorVersion = minimumNodeMajorVersion);
     QCoro::Task<std::optional<QString>> getNodeVersion();
+    // Every `node` on the commands' search path, in the order it is searched: its folder and
+    // the version it prints.
+    QCoro::Task<QList<NodeInstall>> findNodeInstalls();
     // Whatever `<command> --version` prints, trimmed; nothing when it fails.
     QCoro::Task<std::optional<QString>> getToolVersion(CLITool tool);
 
@@ -47,7 +58,11 @@ public:
     QString shellProfilePath() const;
 
     // The rules, on their own.
-    static NodeCheck evaluateNodeVersion(const std::optional<QString>& version);
+    static NodeCheck evaluateNodeVersion(const std::optional<QString>& version,
+                                         int minimumMajorVersion = minimumNodeMajorVersion);
+    // The Node.js row of the system check for `tool`: the version, with the minimum beside an
+    // older one; "Not installed" without one.
+    static RequirementStatus nodeStatus(const NodeCheck& node, CLITool tool);
     static RequirementStatus diskSpaceStatus(std::optional<qint64> megabytes);
     static qint64 bytesToMegabytes(qint64 bytes) { return bytes / (qint64(1024) * 1024); }
 

@@ -18,7 +18,7 @@ QCoro::Task<QList<SetupStep>> ToolInstaller::setupSteps(CLITool tool)
     steps << SetupStep{SetupStepType::createDeveloperFolder, SetupStepStatus::pending, std::nullopt};
     steps << SetupStep{SetupStepType::checkGit, SetupStepStatus::pending, std::nullopt};
     if (tool.requiresNodeJS()) {
-        const NodeCheck node = co_await m_detector.checkNodeJS();
+        const NodeCheck node = co_await m_detector.checkNodeJS(tool.minimumNodeMajorVersion());
         if (node.isInstalled && node.meetsRequirement)
             steps << SetupStep{SetupStepType::installNode, SetupStepStatus::skipped, node.version};
         else
@@ -108,7 +108,8 @@ QCoro::Task<Result<void>> ToolInstaller::runSetup(CLITool tool, StepUpdate repor
 
     // 3. Node.js, for the tools that run on it.
     if (tool.requiresNodeJS()) {
-        const NodeCheck before = co_await m_detector.checkNodeJS();
+        const int minimum = tool.minimumNodeMajorVersion();
+        const NodeCheck before = co_await m_detector.checkNodeJS(minimum);
         if (before.isInstalled && before.meetsRequirement) {
             report(SetupStepType::installNode, SetupStepStatus::skipped, before.version);
         } else {
@@ -116,7 +117,13 @@ QCoro::Task<Result<void>> ToolInstaller::runSetup(CLITool tool, StepUpdate repor
             const Result<void> node = co_await installNodeJS(log);
             if (!node)
                 co_return node;
-            const NodeCheck after = co_await m_detector.checkNodeJS();
+            // The Node.js that commands find now must be new enough: an older one that still
+            // comes first on the search path would run the tool and fail.
+            const NodeCheck after = co_await m_detector.checkNodeJS(minimum);
+            if (!after.meetsRequirement) {
+                const QList<NodeInstall> installs = co_await m_detector.findNodeInstalls();
+                co_return ServiceError::message(nodeShadowedMessage(tool, installs));
+            }
             report(SetupStepType::installNode, SetupStepStatus::completed, after.version);
         }
     }
@@ -174,6 +181,27 @@ QCoro::Task<Result<void>> ToolInstaller::uninstall(CLITool tool, Output log)
         QStringLiteral("' is still found in PATH. You may have multiple installations.\n"));
     log(QStringLiteral("Run 'which ") + tool.commandName() + QStringLiteral("' in Terminal to find other copies.\n"));
     co_return Result<void>();
+}
+
+QString ToolInstaller::nodeShadowedMessage(CLITool tool, const QList<NodeInstall>& installs)
+{
+    const int minimum = tool.minimumNodeMajorVersion();
+    const auto newEnough = [minimum](const NodeInstall& install) {
+        return SystemDetector::evaluateNodeVersion(install.version, minimum).meetsRequirement;
+    };
+    const QString need = tool.nodeRequirementNote();
+    if (installs.isEmpty())
+        return QObject::tr("Node.js was installed, but no Node.js is found on the search path. ") + need;
+    const NodeInstall& first = installs.first();
+    const auto fresh = std::find_if(installs.begin() + 1, installs.end(), newEnough);
+    if (fresh == installs.end()) {
+        return QObject::tr("Node.js was installed, but the Node.js found first is %1 in %2. ")
+                   .arg(first.version, first.folder) +
+               need;
+    }
+    return QObject::tr("Node.js %1 was installed in %2, but Node.js %3 in %4 comes first on the search path. %5 "
+                       "Remove the older Node.js, or put %2 before %4 in your PATH.")
+        .arg(fresh->version, fresh->folder, first.version, first.folder, need);
 }
 
 QCoro::Task<Result<void>> ToolInstaller::saveAPIKey(QString key, CLITool tool)

@@ -47,6 +47,11 @@ public:
     // existing export line in place, or appending one) and sets it in this process too.
     QCoro::Task<Result<void>> saveAPIKey(QString key, CLITool tool);
 
+    // Why the Node.js step failed although an installation ran: the first Node.js on the
+    // search path (`installs`, in search order) is older than `tool` needs. Names both
+    // versions and their folders when a new enough one is there too.
+    static QString nodeShadowedMessage(CLITool tool, const QList<NodeInstall>& installs);
+
 private:
     // Makes ~/Developer unless something is there, and says which in the log.
     FolderCreation::Outcome prepareDeveloperFolder(const Output& onOutput);

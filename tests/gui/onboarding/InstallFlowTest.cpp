@@ -135,6 +135,10 @@ TEST_F(InstallFlowTest, RequirementsDecideWhetherTheInstallationMayStart)
     EXPECT_FALSE(shows(test::child(nodeRow, QStringLiteral("requirementFix"))));
     rows[2]->helpButton()->click();
     EXPECT_TRUE(shows(test::child(nodeRow, QStringLiteral("requirementFix"))));
+    // The help says which Node.js the chosen tool needs.
+    EXPECT_TRUE(test::child<ui::Label>(nodeRow, QStringLiteral("requirementExplanation"))
+                    ->text()
+                    .endsWith(QStringLiteral("used by millions of developers. Gemini CLI needs Node.js 20 or newer.")));
 
     // Too little space blocks, and Return does nothing then.
     platform.diskSpace = DiskSpace{100 * 1024 * 1024, {}};

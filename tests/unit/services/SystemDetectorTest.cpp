@@ -40,6 +40,25 @@ TEST(SystemDetectorRules, NodeVersions)
             << c.printed.value_or(QStringLiteral("<none>")).toStdString();
 }
 
+TEST(SystemDetectorRules, EachToolNeedsTheNodeOfItsPackage)
+{
+    EXPECT_FALSE(SystemDetector::evaluateNodeVersion(QStringLiteral("v19.9.0"),
+                                                     CLITool(CLITool::geminiCLI).minimumNodeMajorVersion())
+                     .meetsRequirement);
+    EXPECT_TRUE(SystemDetector::evaluateNodeVersion(QStringLiteral("v20.0.0"),
+                                                    CLITool(CLITool::geminiCLI).minimumNodeMajorVersion())
+                    .meetsRequirement);
+    EXPECT_TRUE(SystemDetector::evaluateNodeVersion(QStringLiteral("v19.9.0"),
+                                                    CLITool(CLITool::codex).minimumNodeMajorVersion())
+                    .meetsRequirement);
+    EXPECT_FALSE(SystemDetector::evaluateNodeVersion(QStringLiteral("v17.9.1"),
+                                                     CLITool(CLITool::codex).minimumNodeMajorVersion())
+                     .meetsRequirement);
+    // No tool goes below the floor of 18.
+    for (const CLITool& tool : CLITool::allCases())
+        EXPECT_GE(tool.minimumNodeMajorVersion(), SystemDetector::minimumNodeMajorVersion);
+}
+
 TEST(SystemDetectorRules, DiskSpaceBoundaries)
 {
     EXPECT_EQ(SystemDetector::bytesToMegabytes(209715200), 200);
@@ -73,7 +92,7 @@ TEST_F(SystemDetectorTest, NodeFromTheSearchPath)
 TEST_F(SystemDetectorTest, RequirementListsPerTool)
 {
     sandbox.installFake(QStringLiteral("node"));
-    sandbox.setEnv("FAKE_NODE_VERSION", "v17.9.1");
+    sandbox.setEnv("FAKE_NODE_VERSION", "v19.0.0");
     platform.osCheck = {true, QStringLiteral("macOS 14.0.0")};
     platform.diskSpace = DiskSpace{209715199, QString()};
 
@@ -81,8 +100,15 @@ TEST_F(SystemDetectorTest, RequirementListsPerTool)
     ASSERT_EQ(gemini.size(), 3);
     EXPECT_EQ(gemini[0], (RequirementStatus{SystemRequirement::macOSVersion, true, QStringLiteral("macOS 14.0.0")}));
     EXPECT_EQ(gemini[1], (RequirementStatus{SystemRequirement::diskSpace, false, QStringLiteral("199 MB available")}));
-    // A Node.js that is too old shows its version and is not met.
-    EXPECT_EQ(gemini[2], (RequirementStatus{SystemRequirement::nodeJS, false, QStringLiteral("v17.9.1")}));
+    // A Node.js too old for the tool shows its version and the one needed, and is not met;
+    // the same Node.js is new enough for Codex.
+    EXPECT_EQ(gemini[2],
+              (RequirementStatus{SystemRequirement::nodeJS, false, QStringLiteral("v19.0.0 (needs 20 or newer)")}));
+    EXPECT_EQ((*await(detector.checkAllRequirements(CLITool::codex)))[2],
+              (RequirementStatus{SystemRequirement::nodeJS, true, QStringLiteral("v19.0.0")}));
+    sandbox.setEnv("FAKE_NODE_VERSION", "v17.9.1");
+    EXPECT_EQ((*await(detector.checkAllRequirements(CLITool::codex)))[2],
+              (RequirementStatus{SystemRequirement::nodeJS, false, QStringLiteral("v17.9.1 (needs 18 or newer)")}));
 
     // Claude Code needs no Node.js: two records, and node is never asked.
     QFile::remove(sandbox.stateDirectory() + QStringLiteral("/node.log"));

@@ -152,6 +152,46 @@ TEST_F(ToolInstallerTest, WithoutHomebrewNodeComesFromTheOfficialRelease)
     EXPECT_TRUE(run.reports.contains(Report{SetupStepType::installNode, kDone, QStringLiteral("v20.10.0")}));
 }
 
+TEST_F(ToolInstallerTest, AnOlderNodeFirstOnThePathFailsTheNodeStep)
+{
+    // An nvm Node.js 18 comes before ~/.local/bin, where the release installer puts Node.js 22.
+    sandbox.installFakes({"git", "npm"});
+    sandbox.writeFile(QStringLiteral(".nvm/versions/node/v18.19.0/bin/node"), "#!/bin/sh\necho v18.19.0\n");
+    QFile::setPermissions(sandbox.path(QStringLiteral(".nvm/versions/node/v18.19.0/bin/node")),
+                          QFileDevice::ReadOwner | QFileDevice::ExeOwner);
+    platform.nodeInstallCommand = QStringLiteral(
+        "mkdir -p ~/.local/bin && cp \"$FAKE_FIXTURES/node\" ~/.local/bin/node "
+        "&& echo v22.11.0 > \"$FAKE_STATE/node-version\"");
+
+    const SetupRun gemini = runSetup(CLITool::geminiCLI);
+    EXPECT_EQ(
+        gemini.error(),
+        QStringLiteral("Node.js v22.11.0 was installed in %1, but Node.js v18.19.0 in %2 comes first on the search "
+                       "path. Gemini CLI needs Node.js 20 or newer. Remove the older Node.js, or put %1 before %2 "
+                       "in your PATH.")
+            .arg(sandbox.path(QStringLiteral(".local/bin")),
+                 sandbox.path(QStringLiteral(".nvm/versions/node/v18.19.0/bin"))));
+    EXPECT_FALSE(gemini.mentions(SetupStepType::installTool));
+
+    // The same Node.js 18 is enough for Codex: nothing is installed.
+    QFile::remove(sandbox.path(QStringLiteral(".local/bin/node")));
+    EXPECT_EQ(steps(CLITool::codex)[2], (SetupStep{SetupStepType::installNode, kSkipped, QStringLiteral("v18.19.0")}));
+    const SetupRun codex = runSetup(CLITool::codex);
+    ASSERT_TRUE(codex.result && codex.result->ok()) << codex.error().toStdString();
+    EXPECT_FALSE(sandbox.exists(QStringLiteral(".local/bin/node")));
+}
+
+TEST(NodeShadowedMessage, SaysWhatWasFound)
+{
+    const QList<NodeInstall> oldOnly = {{QStringLiteral("/usr/bin"), QStringLiteral("v18.19.0")}};
+    EXPECT_EQ(ToolInstaller::nodeShadowedMessage(CLITool::geminiCLI, oldOnly),
+              QStringLiteral("Node.js was installed, but the Node.js found first is v18.19.0 in /usr/bin. Gemini CLI "
+                             "needs Node.js 20 or newer."));
+    EXPECT_EQ(ToolInstaller::nodeShadowedMessage(CLITool::geminiCLI, {}),
+              QStringLiteral("Node.js was installed, but no Node.js is found on the search path. Gemini CLI needs "
+                             "Node.js 20 or newer."));
+}
+
 TEST_F(ToolInstallerTest, NodeFailures)
 {
     sandbox.installFakes({"git", "npm", "brew"});
