@@ -278,7 +278,7 @@ QStringList LinuxPlatform::shellInvocation(const QString& shell, const QString& 
     // csh and tcsh refuse "-l" beside other flags; without it they still read ~/.cshrc.
     if (cshFamilies().contains(QFileInfo(shell).fileName()))
         return {shell, QStringLiteral("-c"), line};
-    return {shell, QStringLiteral("-l"), QStringLiteral("-c"), line};
+    return {shell, QStringLiteral("-l"), QStringLiteral("-i"), QStringLiteral("-c"), line};
 }
 
 QStringList LinuxPlatform::terminalCommandLine(const QString& emulator, const QString& command,
@@ -366,26 +366,23 @@ void LinuxPlatform::startDeveloperToolsInstaller()
     openTerminal(packageInstallLine(m_osRelease), QStringLiteral("~"), {});
 }
 
-QString LinuxPlatform::officialNodeInstallCommand() const
+QStringList LinuxPlatform::terminalShellInvocation(const QString& line) const
 {
-    return nodeTarballCommand(QSysInfo::currentCpuArchitecture());
+    return shellInvocation(userShell(), line);
 }
 
-QString LinuxPlatform::nodeTarballCommand(const QString& cpuArchitecture)
+std::optional<NodeReleaseTarget> LinuxPlatform::nodeReleaseTarget() const
 {
-    QString arch = QStringLiteral("x64");
-    if (cpuArchitecture == QLatin1String("arm64") || cpuArchitecture == QLatin1String("aarch64"))
-        arch = QStringLiteral("arm64");
-    else if (cpuArchitecture == QLatin1String("armv7") || cpuArchitecture == QLatin1String("arm"))
-        arch = QStringLiteral("armv7l");
+    return nodeReleaseTargetFor(QSysInfo::currentCpuArchitecture());
+}
 
-    const QString release = QStringLiteral("node-v") + QLatin1String(kNodeReleaseVersion) + QStringLiteral("-linux-") +
-                            arch;
-    return QStringLiteral("mkdir -p ~/.local && curl -fsSL ") + QLatin1String(kNodeDownloadServer) +
-           QStringLiteral("/dist/v") + QLatin1String(kNodeReleaseVersion) + QLatin1Char('/') + release +
-           QStringLiteral(".tar.gz | tar -xz -C ~/.local --strip-components=1 --exclude=") + release +
-           QStringLiteral("/CHANGELOG.md --exclude=") + release + QStringLiteral("/LICENSE --exclude=") + release +
-           QStringLiteral("/README.md");
+std::optional<NodeReleaseTarget> LinuxPlatform::nodeReleaseTargetFor(const QString& cpuArchitecture)
+{
+    if (cpuArchitecture == QLatin1String("x86_64"))
+        return NodeReleaseTarget{QStringLiteral("linux-x64"), QStringLiteral("linux-x64")};
+    if (cpuArchitecture == QLatin1String("arm64") || cpuArchitecture == QLatin1String("aarch64"))
+        return NodeReleaseTarget{QStringLiteral("linux-arm64"), QStringLiteral("linux-arm64")};
+    return std::nullopt;
 }
 
 } // namespace qf

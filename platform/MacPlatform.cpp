@@ -4,8 +4,10 @@
 #include "MacWindowStyle.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
 #include <QOperatingSystemVersion>
 #include <QProcess>
+#include <QSysInfo>
 #include <QTimer>
 
 #include <algorithm>
@@ -183,15 +185,29 @@ void MacPlatform::startDeveloperToolsInstaller()
                        [] { runAppleScript(systemEventsScript(), false); });
 }
 
-QString MacPlatform::officialNodeInstallCommand() const { return nodePackageCommand(); }
-
-QString MacPlatform::nodePackageCommand()
+QStringList MacPlatform::terminalShellInvocation(const QString& line) const
 {
-    const QString version = QLatin1String(kNodeReleaseVersion);
-    return QStringLiteral("curl -fsSL ") + QLatin1String(kNodeDownloadServer) + QStringLiteral("/dist/v") + version +
-           QStringLiteral("/node-v") + version +
-           QStringLiteral(".pkg -o /tmp/node-installer.pkg && sudo installer -pkg /tmp/node-installer.pkg -target / "
-                          "&& rm /tmp/node-installer.pkg");
+    // A Terminal window starts the user's shell as an interactive login shell.
+    QString shell = qEnvironmentVariable("SHELL");
+    if (const QFileInfo info(shell); shell.isEmpty() || !info.isFile() || !info.isExecutable())
+        shell = QStringLiteral("/bin/zsh");
+    if (QFileInfo(shell).fileName().endsWith(QLatin1String("csh")))
+        return {shell, QStringLiteral("-c"), line};
+    return {shell, QStringLiteral("-l"), QStringLiteral("-i"), QStringLiteral("-c"), line};
+}
+
+std::optional<NodeReleaseTarget> MacPlatform::nodeReleaseTarget() const
+{
+    return nodeReleaseTargetFor(QSysInfo::currentCpuArchitecture());
+}
+
+std::optional<NodeReleaseTarget> MacPlatform::nodeReleaseTargetFor(const QString& cpuArchitecture)
+{
+    if (cpuArchitecture == QLatin1String("arm64"))
+        return NodeReleaseTarget{QStringLiteral("darwin-arm64"), QStringLiteral("osx-arm64-tar")};
+    if (cpuArchitecture == QLatin1String("x86_64"))
+        return NodeReleaseTarget{QStringLiteral("darwin-x64"), QStringLiteral("osx-x64-tar")};
+    return std::nullopt;
 }
 
 } // namespace qf

@@ -75,6 +75,14 @@ struct DiskSpace {
     QString error;
 };
 
+// Which official Node.js release archive fits this computer.
+struct NodeReleaseTarget {
+    QString platform; // in the archive's name: "darwin-arm64", "linux-x64"
+    QString indexKey; // in the release index's list of files: "osx-arm64-tar", "linux-x64"
+
+    friend bool operator==(const NodeReleaseTarget&, const NodeReleaseTarget&) = default;
+};
+
 // Told once what became of a terminal launch: true when a window was opened, false when none
 // could be (the reason went to standard output).
 using TerminalOutcome = std::function<void(bool opened)>;
@@ -113,6 +121,10 @@ public:
     virtual void openTerminal(const QString& command, const QString& directory, TerminalOutcome outcome) = 0;
     // Which terminal `openTerminal` would use, in words (for the support probe).
     virtual QString terminalDescription() const = 0;
+    // The program and arguments with which the shell of a new terminal window would run
+    // `line`: the user's shell, started as the terminal starts it, so that it reads the same
+    // start-up files.
+    virtual QStringList terminalShellInvocation(const QString& line) const = 0;
 
     // Shows a folder to the user in the file manager.
     virtual void revealFolder(const QString& path);
@@ -123,16 +135,17 @@ public:
     // Starts the system's installer for the developer tools; errors are swallowed.
     virtual void startDeveloperToolsInstaller() = 0;
 
-    // The shell line that installs the fixed Node.js release without Homebrew.
-    virtual QString officialNodeInstallCommand() const = 0;
+    // The official Node.js archive for this computer's system and processor; nothing when
+    // nodejs.org publishes none for it.
+    virtual std::optional<NodeReleaseTarget> nodeReleaseTarget() const = 0;
 };
 
 // The backend for the system this binary was built for.
 std::unique_ptr<Platform> createNativePlatform();
 
-// The Node.js release installed when Homebrew is not there, and where it comes from.
-inline constexpr auto kNodeReleaseVersion = "20.10.0";
-inline constexpr auto kNodeDownloadServer = "https://nodejs.org";
+// Where Node.js releases come from when Homebrew is not there: the release index, each
+// release's folder with its archives and checksum list.
+inline constexpr auto kNodeDistribution = "https://nodejs.org/dist";
 inline constexpr auto kNodeDomain = "nodejs.org";
 
 } // namespace qf

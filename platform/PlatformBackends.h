@@ -23,7 +23,8 @@ public:
     QString terminalDescription() const override;
     DeveloperToolsItem developerToolsItem() const override;
     void startDeveloperToolsInstaller() override;
-    QString officialNodeInstallCommand() const override;
+    QStringList terminalShellInvocation(const QString& line) const override;
+    std::optional<NodeReleaseTarget> nodeReleaseTarget() const override;
 
     // The texts of a Mac: the ones the whole application was designed with.
     static const SystemWording& standardWording();
@@ -36,11 +37,12 @@ public:
     // osascript's arguments for a script: one -e per line.
     static QStringList osascriptArguments(const QString& script);
     static DeveloperToolsItem commandLineToolsItem();
-    static QString nodePackageCommand();
+    // The archive for a Mac with this processor (as Qt names it: arm64, x86_64).
+    static std::optional<NodeReleaseTarget> nodeReleaseTargetFor(const QString& cpuArchitecture);
 };
 
 // Linux: the first terminal emulator found on PATH, os-release for the system's name, git and
-// the build tools as the developer-tools item, the Node.js release tarball under ~/.local.
+// the build tools as the developer-tools item, the Node.js release archive.
 class LinuxPlatform : public Platform {
 public:
     LinuxPlatform();
@@ -56,7 +58,8 @@ public:
     QString terminalDescription() const override;
     DeveloperToolsItem developerToolsItem() const override;
     void startDeveloperToolsInstaller() override;
-    QString officialNodeInstallCommand() const override;
+    QStringList terminalShellInvocation(const QString& line) const override;
+    std::optional<NodeReleaseTarget> nodeReleaseTarget() const override;
 
     // The texts of a Linux system whose os-release says `osRelease`.
     static SystemWording wordingFor(const QMap<QString, QString>& osRelease);
@@ -76,9 +79,10 @@ public:
     // The shell line run inside the terminal: cd to the directory (quoted, "~/" kept for the
     // shell to expand), run the command, then replace itself by an interactive login shell.
     static QString terminalShellLine(const QString& command, const QString& directory, const QString& shell);
-    // The program and arguments that run `line` in the user's login shell `shell`: as a login
-    // shell ("-l -c"), except csh and tcsh, which take "-l" only on its own and run it with
-    // "-c" (reading ~/.cshrc).
+    // The program and arguments that run `line` in the user's login shell `shell`: as an
+    // interactive login shell ("-l -i -c", reading what a terminal window's shell reads),
+    // except csh and tcsh, which take "-l" only on its own and run it with "-c" (reading
+    // ~/.cshrc).
     static QStringList shellInvocation(const QString& shell, const QString& line);
 
     // KEY=value lines of /etc/os-release, unquoted.
@@ -87,9 +91,8 @@ public:
     // The package manager line that installs git and the build tools, by distribution.
     static QString packageInstallLine(const QMap<QString, QString>& osRelease);
     static DeveloperToolsItem gitToolsItem();
-    // Downloads and unpacks the fixed Node.js release for `cpuArchitecture` (as Qt names it:
-    // x86_64, arm64, ...) into ~/.local, so node, npm and global packages land in ~/.local/bin.
-    static QString nodeTarballCommand(const QString& cpuArchitecture);
+    // The archive for a Linux system with this processor (as Qt names it: x86_64, arm64, ...).
+    static std::optional<NodeReleaseTarget> nodeReleaseTargetFor(const QString& cpuArchitecture);
 
 private:
     QMap<QString, QString> m_osRelease;

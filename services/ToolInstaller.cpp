@@ -1,8 +1,11 @@
 #include "ToolInstaller.h"
 
+#include "NodeRelease.h"
 #include "ProfileWriter.h"
+#include "ShellQuote.h"
 
 #include <QCoro/QCoroFuture>
+#include <QTemporaryDir>
 #include <QtConcurrent/QtConcurrentRun>
 
 namespace qf {
@@ -67,7 +70,7 @@ QCoro::Task<Result<void>> ToolInstaller::installNodeJS(Output onOutput)
         installed = co_await m_shell.runWithStreaming(QStringLiteral("brew install node"), onOutput);
     } else {
         onOutput(QStringLiteral("Installing Node.js via official installer...\n"));
-        installed = co_await m_shell.runWithStreaming(m_platform.officialNodeInstallCommand(), onOutput);
+        installed = co_await installNodeRelease(onOutput);
     }
     if (!installed)
         co_return installed;
@@ -77,6 +80,82 @@ QCoro::Task<Result<void>> ToolInstaller::installNodeJS(Output onOutput)
         co_return failure(InstallationError::nodeInstallFailed);
     onOutput(QStringLiteral("Node.js ") + node.version.value_or(QStringLiteral("installed")) +
              QStringLiteral(" successfully!\n"));
+    co_return Result<void>();
+}
+
+QCoro::Task<Result<void>> ToolInstaller::installNodeRelease(Output log)
+{
+    const std::optional<NodeReleaseTarget> target = m_platform.nodeReleaseTarget();
+    if (!target) {
+        co_return ServiceError::message(QObject::tr("Node.js publishes no release for this computer's processor. "
+                                                    "Please install it manually from nodejs.org"));
+    }
+    const QString base = m_nodeDistribution;
+    const auto fetchFailed = [](const QString& what, const ServiceError& error) {
+        return ServiceError::message(QObject::tr("Could not download %1: %2").arg(what, error.errorDescription()));
+    };
+
+    // The newest long-term support release, as the release index says today.
+    const QString indexURL = base + QStringLiteral("/index.json");
+    const Result<QString> index = co_await m_shell.run(QStringLiteral("curl -fsSL ") + shellQuote(indexURL));
+    if (!index)
+        co_return fetchFailed(QObject::tr("the list of Node.js releases"), index.error());
+    const std::optional<NodeRelease> release = nodeRelease::newestLTS(index.value().toUtf8(), *target);
+    if (!release) {
+        co_return ServiceError::message(
+            QObject::tr("No long-term support release of Node.js for %1 was found at %2.").arg(target->platform, base));
+    }
+    log(QStringLiteral("Node.js %1 (LTS \"%2\") for %3 from %4\n")
+            .arg(release->version, release->codename, target->platform, base));
+
+    // The archive goes into a folder of its own that disappears with this call, so nothing of
+    // a failed or refused download stays behind.
+    QTemporaryDir downloads(QDir::tempPath() + QStringLiteral("/quillforge-node-XXXXXX"));
+    if (!downloads.isValid())
+        co_return ServiceError::message(
+            QObject::tr("Could not make a folder for the Node.js download: %1").arg(downloads.errorString()));
+    const QString folder = base + QLatin1Char('/') + release->version + QLatin1Char('/');
+    const QString archive = downloads.filePath(release->archiveName);
+    const Result<void> fetched = co_await m_shell.runWithStreaming(QStringLiteral("curl -fsSL -o ") +
+                                                                       shellQuote(archive) + QLatin1Char(' ') +
+                                                                       shellQuote(folder + release->archiveName),
+                                                                   log);
+    if (!fetched)
+        co_return fetchFailed(release->archiveName, fetched.error());
+
+    // Nothing is unpacked unless the archive is byte for byte the one nodejs.org published.
+    const Result<QString> sums =
+        co_await m_shell.run(QStringLiteral("curl -fsSL ") + shellQuote(folder + QStringLiteral("SHASUMS256.txt")));
+    if (!sums)
+        co_return fetchFailed(QObject::tr("the checksums of Node.js %1").arg(release->version), sums.error());
+    const std::optional<QByteArray> expected = nodeRelease::publishedChecksum(sums.value().toUtf8(),
+                                                                              release->archiveName);
+    if (!expected) {
+        co_return ServiceError::message(
+            QObject::tr("The checksum list of Node.js %1 does not name %2, so nothing was installed.")
+                .arg(release->version, release->archiveName));
+    }
+    QFuture<std::optional<QByteArray>> hashing = QtConcurrent::run(nodeRelease::sha256OfFile, archive);
+    const std::optional<QByteArray> actual = co_await hashing;
+    if (actual != expected) {
+        co_return ServiceError::message(QObject::tr("The Node.js download does not match its published checksum, so "
+                                                    "nothing was installed. Please try again."));
+    }
+    log(QStringLiteral("SHA-256 checksum verified\n"));
+
+    // The archive's top folder is stripped, so bin/node lands in ~/.local/bin; its three loose
+    // files are left out so they do not litter ~/.local.
+    const QString top = release->folderName + QLatin1Char('/');
+    const Result<void> unpacked = co_await m_shell.runWithStreaming(
+        QStringLiteral("mkdir -p ~/.local && tar -xzf ") + shellQuote(archive) +
+            QStringLiteral(" -C ~/.local --strip-components=1 --exclude=") +
+            shellQuote(top + QStringLiteral("CHANGELOG.md")) + QStringLiteral(" --exclude=") +
+            shellQuote(top + QStringLiteral("LICENSE")) + QStringLiteral(" --exclude=") +
+            shellQuote(top + QStringLiteral("README.md")),
+        log);
+    if (!unpacked)
+        co_return unpacked;
+    log(QStringLiteral("Unpacked Node.js %1 into ~/.local (node and npm are in ~/.local/bin)\n").arg(release->version));
     co_return Result<void>();
 }
 

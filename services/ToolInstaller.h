@@ -37,6 +37,12 @@ public:
     QCoro::Task<GitCheck> checkGit(Output onOutput);
     // Through Homebrew when it is there, otherwise from the official Node.js release.
     QCoro::Task<Result<void>> installNodeJS(Output onOutput);
+    // The newest long-term support release of Node.js for this computer, from the release
+    // archive, into ~/.local: no administrator rights needed. The archive's checksum is
+    // checked against the release's published list before anything is unpacked.
+    QCoro::Task<Result<void>> installNodeRelease(Output onOutput);
+    // Where Node.js releases are fetched from (tests point it at a folder of their own).
+    void setNodeDistribution(const QString& baseAddress) { m_nodeDistribution = baseAddress; }
 
     // What the removal did is told in the log, leftovers included. It fails only when the
     // search for the tool afterwards could not run, so that nobody is told a tool is gone
@@ -60,6 +66,7 @@ private:
     ShellRunner& m_shell;
     SystemDetector& m_detector;
     const Platform& m_platform;
+    QString m_nodeDistribution = QLatin1String(kNodeDistribution);
 };
 
 } // namespace qf

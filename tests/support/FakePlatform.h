@@ -47,7 +47,11 @@ public:
     void openURL(const QUrl& url) override { openedURLs.append(url); }
     DeveloperToolsItem developerToolsItem() const override { return developerTools; }
     void startDeveloperToolsInstaller() override { ++installersStarted; }
-    QString officialNodeInstallCommand() const override { return nodeInstallCommand; }
+    QStringList terminalShellInvocation(const QString& line) const override
+    {
+        return {terminalShell, QStringLiteral("-l"), QStringLiteral("-i"), QStringLiteral("-c"), line};
+    }
+    std::optional<NodeReleaseTarget> nodeReleaseTarget() const override { return releaseTarget; }
 
     SystemWording words = MacPlatform::standardWording();
     ApplicationLook look;
@@ -56,7 +60,10 @@ public:
     QStringList directories;
     QStringList npmPrograms;
     DeveloperToolsItem developerTools = MacPlatform::commandLineToolsItem();
-    QString nodeInstallCommand = QStringLiteral("fake-node-installer");
+    std::optional<NodeReleaseTarget> releaseTarget = NodeReleaseTarget{QStringLiteral("linux-x64"),
+                                                                       QStringLiteral("linux-x64")};
+    // The shell a new terminal window would start.
+    QString terminalShell = QStringLiteral("/bin/zsh");
     // Whether a terminal window opens; whether the answer waits for `releaseTerminalOutcomes`.
     bool terminalOpens = true;
     bool holdTerminalOutcomes = false;

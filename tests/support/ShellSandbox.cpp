@@ -16,10 +16,10 @@ namespace {
 
 // Real utilities that commands and fakes may use; nothing that the app looks for.
 const char* const kUtilities[] = {
-    "sh",  "bash",  "cat",    "sleep", "head", "tail",  "printf",   "mkdir",    "rm",    "rmdir",
-    "dd",  "tr",    "ls",     "env",   "true", "false", "echo",     "wc",       "sed",   "grep",
-    "seq", "touch", "chmod",  "ln",    "cp",   "mv",    "dirname",  "basename", "uname", "id",
-    "tee", "yes",   "mktemp", "sort",  "cut",  "stat",  "readlink", "kill",     "ps",
+    "sh",    "bash", "cat",  "sleep", "head",    "tail",     "printf", "mkdir", "rm",   "rmdir", "dd",
+    "tr",    "ls",   "env",  "true",  "false",   "echo",     "wc",     "sed",   "grep", "seq",   "touch",
+    "chmod", "ln",   "cp",   "mv",    "dirname", "basename", "uname",  "id",    "tee",  "yes",   "mktemp",
+    "sort",  "tar",  "gzip", "cut",   "stat",    "readlink", "kill",   "ps",
 };
 
 } // namespace

@@ -26,7 +26,7 @@ QString q(const char* text) { return QString::fromUtf8(text); }
 
 QStringList inner(const QString& shell, const QString& line)
 {
-    return {shell, QStringLiteral("-l"), QStringLiteral("-c"), line};
+    return {shell, QStringLiteral("-l"), QStringLiteral("-i"), QStringLiteral("-c"), line};
 }
 
 // --- Shell quoting -------------------------------------------------------------------------
@@ -290,11 +290,10 @@ TEST_P(LinuxPlatformOpenTerminal, RunsTheLineInTheDirectoryAndEndsInTheShell)
 
     const QString shell = sandbox.filePath(QStringLiteral("shells/fake sh"));
     ASSERT_TRUE(QDir().mkpath(QFileInfo(shell).path()));
-    ASSERT_TRUE(
-        qf::test::writeExecutable(shell, "#!/bin/sh\n"
-                                         "if [ \"$1\" = -l ] && [ \"$2\" = -c ]; then exec /bin/sh -c \"$3\"; fi\n"
-                                         "printf '%s\\n' \"$*\" > " +
-                                             quoted(shellMark) + "\n"));
+    ASSERT_TRUE(qf::test::writeExecutable(shell, "#!/bin/sh\n"
+                                                 "if [ \"$1 $2 $3\" = \"-l -i -c\" ]; then exec /bin/sh -c \"$4\"; fi\n"
+                                                 "printf '%s\\n' \"$*\" > " +
+                                                     quoted(shellMark) + "\n"));
 
     qf::test::ScopedEnv pathEnv("PATH", bin.toUtf8());
     qf::test::ScopedEnv homeEnv("HOME", home.toUtf8());
@@ -482,60 +481,16 @@ TEST(LinuxPlatformOsRelease, PackageLineFollowsTheDistributionFamily)
 
 // --- Node.js without Homebrew --------------------------------------------------------------
 
-TEST(LinuxPlatformNode, TarballForTheMachinesArchitecture)
+TEST(NodeReleaseTargets, OneArchivePerSystemAndProcessor)
 {
-    const auto archive = [](const char* cpu) {
-        const QString line = LinuxPlatform::nodeTarballCommand(q(cpu));
-        static const QRegularExpression name(
-            QStringLiteral("https://nodejs.org/dist/v[0-9.]+/node-v[0-9.]+-(linux-[a-z0-9]+)\\.tar\\.gz"));
-        return name.match(line).captured(1);
-    };
-    EXPECT_EQ(archive("x86_64"), q("linux-x64"));
-    EXPECT_EQ(archive("arm64"), q("linux-arm64"));
-    EXPECT_EQ(archive("aarch64"), q("linux-arm64"));
-    EXPECT_EQ(archive("armv7"), q("linux-armv7l"));
-    EXPECT_EQ(archive(""), q("linux-x64"));
-    EXPECT_EQ(LinuxPlatform().officialNodeInstallCommand(),
-              LinuxPlatform::nodeTarballCommand(QSysInfo::currentCpuArchitecture()));
-}
-
-// The tarball's top folder is stripped, so bin/node lands in ~/.local/bin; the three loose
-// files at its top are left out so they do not litter ~/.local.
-TEST(LinuxPlatformNode, TarballUnpacksUnderLocal)
-{
-    QTemporaryDir sandbox;
-    ASSERT_TRUE(sandbox.isValid());
-    const QString release = QStringLiteral("node-v20.10.0-linux-x64");
-    const QString staging = sandbox.filePath(QStringLiteral("staging/") + release);
-    ASSERT_TRUE(QDir().mkpath(staging + QStringLiteral("/bin")));
-    for (const QString& file : {QStringLiteral("bin/node"), QStringLiteral("CHANGELOG.md"), QStringLiteral("LICENSE"),
-                                QStringLiteral("README.md")}) {
-        QFile f(staging + QLatin1Char('/') + file);
-        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-    }
-    const QString tarball = sandbox.filePath(QStringLiteral("node.tar.gz"));
-    const qf::test::ShellRun pack = runShell(
-        QStringLiteral("/bin/sh"),
-        QStringLiteral("tar -czf ") + qf::shellQuote(tarball) + QStringLiteral(" -C staging ") + release,
-        sandbox.path(), sandbox.path());
-    ASSERT_TRUE(pack.finished);
-    ASSERT_EQ(pack.exitCode, 0) << pack.err.toStdString();
-
-    // Everything the line does after the download, fed from the local file instead.
-    QString line = LinuxPlatform::nodeTarballCommand(QStringLiteral("x86_64"));
-    const QString download = QStringLiteral("curl -fsSL https://nodejs.org/dist/v20.10.0/") + release +
-                             QStringLiteral(".tar.gz");
-    ASSERT_TRUE(line.contains(download));
-    line.replace(download, QStringLiteral("cat ") + qf::shellQuote(tarball));
-
-    const QString home = sandbox.filePath(QStringLiteral("home"));
-    ASSERT_TRUE(QDir().mkpath(home));
-    const qf::test::ShellRun run = runShell(QStringLiteral("/bin/sh"), line, home, home);
-    ASSERT_TRUE(run.finished);
-    ASSERT_EQ(run.exitCode, 0) << run.err.toStdString();
-    EXPECT_EQ(QDir(home + QStringLiteral("/.local")).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
-              QStringList{QStringLiteral("bin")});
-    EXPECT_TRUE(QFile::exists(home + QStringLiteral("/.local/bin/node")));
+    using Target = qf::NodeReleaseTarget;
+    EXPECT_EQ(LinuxPlatform::nodeReleaseTargetFor(q("x86_64")), (Target{q("linux-x64"), q("linux-x64")}));
+    EXPECT_EQ(LinuxPlatform::nodeReleaseTargetFor(q("arm64")), (Target{q("linux-arm64"), q("linux-arm64")}));
+    EXPECT_EQ(LinuxPlatform::nodeReleaseTargetFor(q("aarch64")), (Target{q("linux-arm64"), q("linux-arm64")}));
+    EXPECT_EQ(LinuxPlatform::nodeReleaseTargetFor(q("i386")), std::nullopt);
+    EXPECT_EQ(qf::MacPlatform::nodeReleaseTargetFor(q("arm64")), (Target{q("darwin-arm64"), q("osx-arm64-tar")}));
+    EXPECT_EQ(qf::MacPlatform::nodeReleaseTargetFor(q("x86_64")), (Target{q("darwin-x64"), q("osx-x64-tar")}));
+    EXPECT_EQ(qf::MacPlatform::nodeReleaseTargetFor(q("power")), std::nullopt);
 }
 
 } // namespace

@@ -64,15 +64,6 @@ TEST(MacPlatformVersion, NeedsMacOS14AndSaysWhichItIs)
     EXPECT_EQ(MacPlatform::operatingSystemCheck(13, 6, 1).details, QStringLiteral("macOS 13.6.1"));
 }
 
-TEST(MacPlatformItems, NodePackageCommand)
-{
-    const QString expected = QStringLiteral(
-        "curl -fsSL https://nodejs.org/dist/v20.10.0/node-v20.10.0.pkg -o /tmp/node-installer.pkg && sudo installer "
-        "-pkg /tmp/node-installer.pkg -target / && rm /tmp/node-installer.pkg");
-    EXPECT_EQ(MacPlatform::nodePackageCommand(), expected);
-    EXPECT_EQ(MacPlatform().officialNodeInstallCommand(), expected);
-}
-
 // Where there is no osascript (every system but macOS) the launch fails, which must come out
 // as exactly one diagnostic line. On a Mac this would open a real Terminal window.
 TEST(MacPlatformTerminal, LaunchFailureIsOneDiagnosticLine)

@@ -2,8 +2,10 @@
 #include "TestMachine.h"
 #include "ToolInstaller.h"
 
+#include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
+#include <QProcess>
 
 #include <ranges>
 
@@ -59,6 +61,52 @@ protected:
     }
 
     QList<SetupStep> steps(CLITool tool) { return *await(installer.setupSteps(tool)); }
+
+    // A release folder as nodejs.org publishes it, in the sandbox, and the installer pointed
+    // at it: an index with a newer current release, the newest LTS release `version` with a
+    // Linux archive (whose node prints `version`) and its checksum list, and an older LTS
+    // release. `checksum` replaces the archive's real checksum in the list.
+    void publishNodeRelease(const QString& version, const QByteArray& checksum = QByteArray())
+    {
+        const QString dist = sandbox.stateDirectory() + QStringLiteral("/dist");
+        const QString folder = QStringLiteral("node-") + version + QStringLiteral("-linux-x64");
+        const QString staging = sandbox.stateDirectory() + QStringLiteral("/staging/") + folder;
+        writeFile(staging + QStringLiteral("/bin/node"), "#!/bin/sh\necho " + version.toUtf8() + "\n");
+        QFile::setPermissions(staging + QStringLiteral("/bin/node"), QFileDevice::ReadOwner | QFileDevice::ExeOwner);
+        for (const char* loose : {"/CHANGELOG.md", "/LICENSE", "/README.md", "/lib/node_modules/npm/package.json"})
+            writeFile(staging + QLatin1String(loose), "{}\n");
+        const QString archive = dist + QLatin1Char('/') + version + QLatin1Char('/') + folder +
+                                QStringLiteral(".tar.gz");
+        QDir().mkpath(QFileInfo(archive).absolutePath());
+        QProcess tar;
+        tar.setWorkingDirectory(QFileInfo(staging).absolutePath());
+        tar.start(QStringLiteral("tar"), {QStringLiteral("-czf"), archive, folder});
+        ASSERT_TRUE(tar.waitForFinished(10000) && tar.exitCode() == 0) << tar.readAllStandardError().constData();
+
+        QFile file(archive);
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        const QByteArray sum = checksum.isEmpty()
+                                   ? QCryptographicHash::hash(file.readAll(), QCryptographicHash::Sha256).toHex()
+                                   : checksum;
+        writeFile(dist + QLatin1Char('/') + version + QStringLiteral("/SHASUMS256.txt"),
+                  QByteArray(64, 'a') + "  node-" + version.toUtf8() + "-darwin-arm64.tar.gz\n" + sum + "  " +
+                      folder.toUtf8() + ".tar.gz\n");
+        writeFile(dist + QStringLiteral("/index.json"),
+                  R"([{"version":"v25.2.0","files":["linux-x64","osx-arm64-tar"],"lts":false},
+                      {"version":")" +
+                      version.toUtf8() +
+                      R"(","files":["linux-arm64","linux-x64"],"lts":"Jod"},
+                      {"version":"v20.19.5","files":["linux-x64"],"lts":"Iron"}])");
+        installer.setNodeDistribution(QStringLiteral("file://") + dist);
+    }
+
+    static void writeFile(const QString& path, const QByteArray& bytes)
+    {
+        QDir().mkpath(QFileInfo(path).absolutePath());
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+    }
 
     ToolInstaller& installer = services.installer;
 };
@@ -140,16 +188,64 @@ TEST_F(ToolInstallerTest, AnOldNodeIsReplacedThroughHomebrew)
     EXPECT_TRUE(run.log.contains(QStringLiteral("Node.js v21.5.0 successfully!\n")));
 }
 
-TEST_F(ToolInstallerTest, WithoutHomebrewNodeComesFromTheOfficialRelease)
+TEST_F(ToolInstallerTest, WithoutHomebrewNodeComesFromTheNewestLTSRelease)
 {
-    sandbox.installFakes({"git", "npm"});
-    // Stands in for the platform's release installer: it puts node on the search path.
-    platform.nodeInstallCommand = QStringLiteral("echo fetching release; cp \"$FAKE_FIXTURES/node\" "
-                                                 "\"$FAKE_BIN/node\"; chmod +x \"$FAKE_BIN/node\"");
+    sandbox.installFakes({"git", "npm", "curl"});
+    publishNodeRelease(QStringLiteral("v22.11.0"));
     const SetupRun run = runSetup(CLITool::codex);
     ASSERT_TRUE(run.result && run.result->ok()) << run.error().toStdString();
-    EXPECT_TRUE(run.log.contains(QStringLiteral("Installing Node.js via official installer...\nfetching release\n")));
-    EXPECT_TRUE(run.reports.contains(Report{SetupStepType::installNode, kDone, QStringLiteral("v20.10.0")}));
+    EXPECT_TRUE(run.log.contains(QStringLiteral("Installing Node.js via official installer...\n"
+                                                "Node.js v22.11.0 (LTS \"Jod\") for linux-x64 from file://")))
+        << run.log.toStdString();
+    EXPECT_TRUE(
+        run.log.contains(QStringLiteral("SHA-256 checksum verified\nUnpacked Node.js v22.11.0 into ~/.local "
+                                        "(node and npm are in ~/.local/bin)\nNode.js v22.11.0 successfully!\n")));
+    EXPECT_TRUE(run.reports.contains(Report{SetupStepType::installNode, kDone, QStringLiteral("v22.11.0")}));
+    // The archive's top folder is stripped and its loose files left out.
+    EXPECT_EQ(QDir(sandbox.path(QStringLiteral(".local"))).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+              (QStringList{QStringLiteral("bin"), QStringLiteral("lib")}));
+    EXPECT_TRUE(sandbox.exists(QStringLiteral(".local/lib/node_modules/npm/package.json")));
+}
+
+TEST_F(ToolInstallerTest, ATamperedNodeArchiveIsRefusedWithNothingUnpacked)
+{
+    sandbox.installFakes({"git", "npm", "curl"});
+    publishNodeRelease(QStringLiteral("v22.11.0"), QByteArray(64, '0'));
+    const QString temporary = sandbox.stateDirectory() + QStringLiteral("/tmp");
+    QDir().mkpath(temporary);
+    sandbox.setEnv("TMPDIR", temporary.toUtf8());
+
+    const SetupRun run = runSetup(CLITool::geminiCLI);
+    EXPECT_EQ(run.error(), QStringLiteral("The Node.js download does not match its published checksum, so nothing "
+                                          "was installed. Please try again."));
+    EXPECT_FALSE(run.mentions(SetupStepType::installTool));
+    EXPECT_FALSE(sandbox.exists(QStringLiteral(".local")));
+    // The download went with the refusal.
+    EXPECT_TRUE(QDir(temporary).isEmpty());
+
+    // A list that does not name the archive, an index without an LTS release for this
+    // computer, no release for its processor, no download at all: each says what went
+    // wrong, and nothing is unpacked.
+    publishNodeRelease(QStringLiteral("v22.11.0"));
+    writeFile(sandbox.stateDirectory() + QStringLiteral("/dist/v22.11.0/SHASUMS256.txt"), "");
+    EXPECT_EQ(runSetup(CLITool::geminiCLI).error(),
+              QStringLiteral("The checksum list of Node.js v22.11.0 does not name node-v22.11.0-linux-x64.tar.gz, so "
+                             "nothing was installed."));
+    platform.releaseTarget = NodeReleaseTarget{QStringLiteral("darwin-arm64"), QStringLiteral("osx-arm64-tar")};
+    EXPECT_TRUE(
+        runSetup(CLITool::geminiCLI)
+            .error()
+            .startsWith(QStringLiteral("No long-term support release of Node.js for darwin-arm64 was found at ")));
+    platform.releaseTarget.reset();
+    EXPECT_EQ(runSetup(CLITool::geminiCLI).error(),
+              QStringLiteral("Node.js publishes no release for this computer's "
+                             "processor. Please install it manually from nodejs.org"));
+    platform.releaseTarget = NodeReleaseTarget{QStringLiteral("linux-x64"), QStringLiteral("linux-x64")};
+    installer.setNodeDistribution(QStringLiteral("file:///nonexistent/dist"));
+    EXPECT_TRUE(runSetup(CLITool::geminiCLI)
+                    .error()
+                    .startsWith(QStringLiteral("Could not download the list of Node.js releases: ")));
+    EXPECT_FALSE(sandbox.exists(QStringLiteral(".local")));
 }
 
 TEST_F(ToolInstallerTest, AnOlderNodeFirstOnThePathFailsTheNodeStep)
@@ -159,9 +255,8 @@ TEST_F(ToolInstallerTest, AnOlderNodeFirstOnThePathFailsTheNodeStep)
     sandbox.writeFile(QStringLiteral(".nvm/versions/node/v18.19.0/bin/node"), "#!/bin/sh\necho v18.19.0\n");
     QFile::setPermissions(sandbox.path(QStringLiteral(".nvm/versions/node/v18.19.0/bin/node")),
                           QFileDevice::ReadOwner | QFileDevice::ExeOwner);
-    platform.nodeInstallCommand = QStringLiteral(
-        "mkdir -p ~/.local/bin && cp \"$FAKE_FIXTURES/node\" ~/.local/bin/node "
-        "&& echo v22.11.0 > \"$FAKE_STATE/node-version\"");
+    sandbox.installFake(QStringLiteral("curl"));
+    publishNodeRelease(QStringLiteral("v22.11.0"));
 
     const SetupRun gemini = runSetup(CLITool::geminiCLI);
     EXPECT_EQ(
