@@ -259,8 +259,17 @@ QString CLITool::installCommand() const
 QString npmRemovalChain(const QString& package, const QStringList& npmPrograms)
 {
     QString chain;
+    // The npms where package managers put them, then the one the search path finds (on Linux
+    // usually the distribution's).
     for (const QString& npm : npmPrograms)
         chain += npm + QStringLiteral(" uninstall -g ") + package + QStringLiteral(" 2>/dev/null; ");
+    chain += QStringLiteral("command -v npm >/dev/null 2>&1 && npm uninstall -g ") + package +
+             QStringLiteral(" 2>/dev/null; ");
+    // The user's own prefix, where installs go when npm's global folder is not writable.
+    chain += QStringLiteral("if [ -e ~/.local/lib/node_modules/") + package +
+             QStringLiteral(" ]; then for npm in \"$(command -v npm)\" ~/.local/bin/npm; do [ -x \"$npm\" ] && "
+                            "npm_config_prefix=\"$HOME/.local\" \"$npm\" uninstall -g ") +
+             package + QStringLiteral(" 2>/dev/null && break; done; fi; ");
     return chain +
            QStringLiteral("for ver in ~/.nvm/versions/node/*; do [ -x \"$ver/bin/npm\" ] && "
                           "\"$ver/bin/npm\" --prefix \"$ver\" uninstall -g ") +
@@ -270,9 +279,12 @@ QString npmRemovalChain(const QString& package, const QStringList& npmPrograms)
 QString CLITool::uninstallCommand(const QStringList& npmPrograms) const
 {
     const QString chain = npmRemovalChain(npmPackage(), npmPrograms);
-    if (m_case == claudeCode)
-        return chain +
-               QStringLiteral("; rm -rf ~/.claude/local 2>/dev/null; rm -rf ~/.claude/downloads 2>/dev/null; exit 0");
+    if (m_case == claudeCode) {
+        // Also the maker's own installer's launcher and its versions.
+        return chain + QStringLiteral("; rm -rf ~/.claude/local 2>/dev/null; rm -rf ~/.claude/downloads 2>/dev/null; "
+                                      "rm -f ~/.local/bin/claude 2>/dev/null; rm -rf ~/.local/share/claude "
+                                      "2>/dev/null; exit 0");
+    }
     return chain + QStringLiteral("; exit 0");
 }
 

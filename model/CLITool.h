@@ -56,6 +56,8 @@ public:
     QString logoImageName() const; // image asset name
     QColor brandColor() const;
     bool requiresNodeJS() const;
+    // Installed as a global npm package (Claude Code comes from its maker's installer).
+    bool installsThroughNpm() const { return m_case != claudeCode; }
     // The oldest major version of Node.js the tool's package runs on (never below 18).
     int minimumNodeMajorVersion() const;
     // "Gemini CLI needs Node.js 20 or newer."

@@ -161,14 +161,41 @@ Result<void> ProfileWriter::store(const QString& path, const QString& variable, 
 
 Result<void> ProfileWriter::appendToFile(const QString& path, const QByteArray& bytes)
 {
+    const int error = append(path, bytes);
+    return error == 0 ? Result<void>() : Result<void>(saveFailed(path, error));
+}
+
+int ProfileWriter::append(const QString& path, const QByteArray& bytes)
+{
     // Never waits: a pipe with nobody reading it is an error rather than a hang.
     Descriptor file(::open(QFile::encodeName(path).constData(),
                            O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC | O_NOCTTY | O_NONBLOCK, 0644));
     if (file.get() < 0)
-        return saveFailed(path, errno);
+        return errno;
     if (!writeAll(file.get(), bytes) || !file.close())
-        return saveFailed(path, errno);
-    return {};
+        return errno;
+    return 0;
+}
+
+QByteArray ProfileWriter::searchPathBlock()
+{
+    return QByteArray("\n") + kSearchPathMark + "\nexport PATH=\"$HOME/.local/bin:$PATH\"\n";
+}
+
+Result<bool> ProfileWriter::addSearchPathBlock(const QString& path)
+{
+    // Once is enough: a profile that has the block (or is not an ordinary file we can read)
+    // is not appended to again.
+    if (QFileInfo(path).isFile()) {
+        QFile file(path);
+        if (file.open(QIODevice::ReadOnly) && file.readAll().contains(kSearchPathMark))
+            return false;
+    }
+    if (const int error = append(path, searchPathBlock()); error != 0) {
+        return ServiceError::message(
+            tr("Could not add ~/.local/bin to the search path in %1: %2").arg(path, systemError(error)));
+    }
+    return true;
 }
 
 Result<void> ProfileWriter::replaceFileContents(const QString& path, const QByteArray& bytes)

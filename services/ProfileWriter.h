@@ -10,6 +10,11 @@
 
 namespace qf {
 
+// The first line of the block that puts ~/.local/bin on the search path; it marks the block
+// as ours.
+inline constexpr char kSearchPathMark[] =
+    "# Added by Quillforge: programs installed for your user live in ~/.local/bin";
+
 // Stores an API key in a shell profile, in this process: no command is started, so the key
 // never appears in any process's arguments or environment. A key is data, never code:
 // whatever it holds, sourcing the profile in bash or zsh sets the variable to exactly that key.
@@ -50,6 +55,16 @@ public:
     static Result<void> replaceFileContents(const QString& path, const QByteArray& bytes);
     // Adds `bytes` at the end of the file at `path`, creating it when missing.
     static Result<void> appendToFile(const QString& path, const QByteArray& bytes);
+
+    // The marked block that puts ~/.local/bin first on the search path.
+    static QByteArray searchPathBlock();
+    // Appends that block to the profile at `path` (created when missing) unless it is there
+    // already: true when it was added. A link stays a link, permissions stay.
+    static Result<bool> addSearchPathBlock(const QString& path);
+
+private:
+    // Appends without ever waiting; 0, or the system's error code.
+    static int append(const QString& path, const QByteArray& bytes);
 };
 
 } // namespace qf

@@ -48,6 +48,11 @@ QString ShellRunner::searchPath(const QString& home, QStringList nvmVersionNames
     return directories.join(QLatin1Char(':'));
 }
 
+QString ShellRunner::inheritedSearchPath() const
+{
+    return m_configuration.inheritedPath.value_or(qEnvironmentVariable("PATH"));
+}
+
 QProcessEnvironment ShellRunner::commandEnvironment() const
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();

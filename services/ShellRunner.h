@@ -63,6 +63,10 @@ public:
     // but a command that shows no output for the inactivity bound is stopped.
     QCoro::Task<Result<void>> runWithStreaming(QString command, OutputHandler onOutput, QObject* context = nullptr);
 
+    // The search path the application itself was started with, which a new terminal window
+    // starts from too.
+    QString inheritedSearchPath() const;
+
     // The environment a command gets: the application's own, with PATH extended.
     QProcessEnvironment commandEnvironment() const;
 

@@ -5,8 +5,12 @@
 #include "ShellQuote.h"
 
 #include <QCoro/QCoroFuture>
+#include <QDir>
+#include <QFileInfo>
 #include <QTemporaryDir>
 #include <QtConcurrent/QtConcurrentRun>
+
+#include <unistd.h>
 
 namespace qf {
 
@@ -210,7 +214,22 @@ QCoro::Task<Result<void>> ToolInstaller::runSetup(CLITool tool, StepUpdate repor
     // 4. The tool itself.
     report(SetupStepType::installTool, SetupStepStatus::inProgress, tool.displayName());
     log(QStringLiteral("\nInstalling ") + tool.displayName() + QStringLiteral("...\n"));
-    const Result<void> installed = co_await m_shell.runWithStreaming(tool.installCommand(), log);
+    QString installCommand = tool.installCommand();
+    if (tool.installsThroughNpm()) {
+        // Without write access to npm's global folder the install would need administrator
+        // rights; the user's own ~/.local needs none. Only this one command is told so: the
+        // user's npm settings stay as they are.
+        const Result<QString> prefix = co_await m_shell.run(QStringLiteral("npm prefix -g"));
+        if (prefix && !prefix.value().isEmpty() && !isWritableNpmPrefix(prefix.value())) {
+            log(QStringLiteral("npm's global folder %1 is not writable for your user, so %2 goes into ~/.local "
+                               "instead (for this installation only; your npm settings stay as they are).\n")
+                    .arg(prefix.value(), tool.displayName()));
+            installCommand = QStringLiteral("npm_config_prefix=") +
+                             shellQuote(QDir::homePath() + QStringLiteral("/.local")) + QLatin1Char(' ') +
+                             installCommand;
+        }
+    }
+    const Result<void> installed = co_await m_shell.runWithStreaming(installCommand, log);
     if (!installed)
         co_return installed;
 
@@ -222,6 +241,16 @@ QCoro::Task<Result<void>> ToolInstaller::runSetup(CLITool tool, StepUpdate repor
                std::nullopt);
         co_return failure(InstallationError::verificationFailed);
     }
+    // What lives in ~/.local/bin must be found by the user's own terminal too.
+    const QString localPrograms = QDir::homePath() + QStringLiteral("/.local/bin/");
+    bool local = found.value().startsWith(localPrograms);
+    if (!local && tool.requiresNodeJS()) {
+        const Result<QString> node = co_await m_shell.run(QStringLiteral("command -v node"));
+        local = node && node.value().startsWith(localPrograms);
+    }
+    if (local)
+        co_await addLocalProgramsToSearchPath(tool, log);
+
     const std::optional<QString> version = co_await m_detector.getToolVersion(tool);
     report(SetupStepType::installTool, SetupStepStatus::completed, version);
     if (version)
@@ -260,6 +289,71 @@ QCoro::Task<Result<void>> ToolInstaller::uninstall(CLITool tool, Output log)
         QStringLiteral("' is still found in PATH. You may have multiple installations.\n"));
     log(QStringLiteral("Run 'which ") + tool.commandName() + QStringLiteral("' in Terminal to find other copies.\n"));
     co_return Result<void>();
+}
+
+bool ToolInstaller::isWritableNpmPrefix(const QString& prefix)
+{
+    // A global install writes the package under lib/node_modules and its command into bin;
+    // a folder that is not there yet is made in the nearest one that is.
+    for (const char* part : {"/lib/node_modules", "/bin"}) {
+        QString path = prefix + QLatin1String(part);
+        while (!QFileInfo::exists(path) && path.contains(QLatin1Char('/')) && path != QLatin1String("/"))
+            path = QFileInfo(path).absolutePath();
+        const QFileInfo info(path);
+        if (!info.isDir() || ::access(QFile::encodeName(path).constData(), W_OK | X_OK) != 0)
+            return false;
+    }
+    return true;
+}
+
+QCoro::Task<bool> ToolInstaller::newTerminalSearches(const QString& folder)
+{
+    // The line runs as a new terminal window's shell would run it: the user's shell, reading
+    // its start-up files, from the search path the application was started with.
+    QString line = QStringLiteral("PATH=") + shellQuote(m_shell.inheritedSearchPath()) +
+                   QStringLiteral("; export PATH; exec");
+    for (const QString& word : m_platform.terminalShellInvocation(QStringLiteral("printf '%s' \"$PATH\"")))
+        line += QLatin1Char(' ') + shellQuote(word);
+    const Result<QString> path = co_await m_shell.run(line, 30);
+    if (!path)
+        co_return false;
+    const QString home = QDir::homePath();
+    for (QString entry : path.value().split(QLatin1Char(':'))) {
+        if (entry.startsWith(QLatin1String("~/")))
+            entry.replace(0, 1, home);
+        while (entry.size() > 1 && entry.endsWith(QLatin1Char('/')))
+            entry.chop(1);
+        if (entry == folder)
+            co_return true;
+    }
+    co_return false;
+}
+
+QCoro::Task<void> ToolInstaller::addLocalProgramsToSearchPath(CLITool tool, const Output& log)
+{
+    const QString folder = QDir::homePath() + QStringLiteral("/.local/bin");
+    if (co_await newTerminalSearches(folder))
+        co_return;
+    const QString profile = m_detector.shellProfilePath();
+    const QString shown = QDir::home().relativeFilePath(profile).prepend(QStringLiteral("~/"));
+    QFuture<Result<bool>> adding = QtConcurrent::run(ProfileWriter::addSearchPathBlock, profile);
+    const Result<bool> added = co_await adding;
+    if (!added) {
+        log(QStringLiteral("Note: ") + added.error().errorDescription() +
+            QStringLiteral("\nTo start %1 from a terminal, add this line to your shell profile:\n"
+                           "export PATH=\"$HOME/.local/bin:$PATH\"\n")
+                .arg(tool.displayName()));
+        co_return;
+    }
+    if (added.value())
+        log(QStringLiteral("Added ~/.local/bin to the search path in %1, so new terminal windows find %2.\n")
+                .arg(shown, tool.displayName()));
+    if (!co_await newTerminalSearches(folder)) {
+        log(QStringLiteral("Note: %1 puts ~/.local/bin on the search path, but a new terminal window does not read "
+                           "it. To start %2 there, add ~/.local/bin to the search path in your shell's own start-up "
+                           "file.\n")
+                .arg(shown, tool.displayName()));
+    }
 }
 
 QString ToolInstaller::nodeShadowedMessage(CLITool tool, const QList<NodeInstall>& installs)

@@ -58,7 +58,15 @@ public:
     // versions and their folders when a new enough one is there too.
     static QString nodeShadowedMessage(CLITool tool, const QList<NodeInstall>& installs);
 
+    // Whether a global npm install into `prefix` needs no more rights than the user has.
+    static bool isWritableNpmPrefix(const QString& prefix);
+
 private:
+    // Whether the shell of a new terminal window has `folder` on its search path.
+    QCoro::Task<bool> newTerminalSearches(const QString& folder);
+    // Adds the block that puts ~/.local/bin on the search path to the shell profile when a new
+    // terminal window would not find programs there, and says what it did in the log.
+    QCoro::Task<void> addLocalProgramsToSearchPath(CLITool tool, const Output& log);
     // Makes ~/Developer unless something is there, and says which in the log.
     FolderCreation::Outcome prepareDeveloperFolder(const Output& onOutput);
     ServiceError failure(InstallationError error) const { return {error, m_platform.wording()}; }

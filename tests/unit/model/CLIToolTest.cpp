@@ -142,10 +142,12 @@ TEST(CLITool, UninstallLinesTryEveryNpmAndAlwaysSucceed)
         EXPECT_TRUE(line.endsWith(QStringLiteral("; exit 0"))) << name(tool);
         EXPECT_FALSE(line.contains(QLatin1Char('\n')));
     }
-    // Claude Code also loses its local copy and downloads, before the end, and nothing else.
+    // Claude Code also loses its local copy and downloads and its own installer's launcher and
+    // versions, before the end, and nothing else.
     const QString claude = CLITool(CLITool::claudeCode).uninstallCommand(npms);
     EXPECT_TRUE(claude.endsWith(
-        QStringLiteral("; rm -rf ~/.claude/local 2>/dev/null; rm -rf ~/.claude/downloads 2>/dev/null; exit 0")));
+        QStringLiteral("; rm -rf ~/.claude/local 2>/dev/null; rm -rf ~/.claude/downloads 2>/dev/null; "
+                       "rm -f ~/.local/bin/claude 2>/dev/null; rm -rf ~/.local/share/claude 2>/dev/null; exit 0")));
     EXPECT_FALSE(CLITool(CLITool::codex).uninstallCommand(npms).contains(QStringLiteral("rm -rf")));
 }
 

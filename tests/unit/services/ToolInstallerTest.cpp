@@ -373,26 +373,49 @@ TEST_F(ToolInstallerTest, TheProjectsFolder)
 
 TEST_F(ToolInstallerTest, UninstallRemovesEveryNpmCopy)
 {
-    // Gemini CLI in Homebrew's npm and in an nvm version: one line removes both.
+    // Gemini CLI in Homebrew's npm, in an nvm version, in the npm the search path finds and in
+    // the user's own prefix ~/.local: one line removes them all.
     sandbox.installFakeAt(QStringLiteral("npm"), sandbox.systemPath(QStringLiteral("/opt/homebrew/bin/npm")));
     sandbox.installFakeAt(QStringLiteral("gemini"), sandbox.systemPath(QStringLiteral("/opt/homebrew/bin/gemini")));
     const QString nvm = sandbox.path(QStringLiteral(".nvm/versions/node/v20.10.0/bin/"));
     sandbox.installFakeAt(QStringLiteral("npm"), nvm + QStringLiteral("npm"));
     sandbox.installFakeAt(QStringLiteral("gemini"), nvm + QStringLiteral("gemini"));
+    sandbox.installFakes({"gemini"});
+    sandbox.installFakeAt(QStringLiteral("gemini"), sandbox.path(QStringLiteral(".local/bin/gemini")));
+    QDir().mkpath(sandbox.path(QStringLiteral(".local/lib/node_modules/@google/gemini-cli")));
 
     QString log;
-    const auto result = await(installer.uninstall(CLITool::geminiCLI, [&](const QString& t) { log += t; }));
+    auto result = await(installer.uninstall(CLITool::geminiCLI, [&](const QString& t) { log += t; }));
     ASSERT_TRUE(result && result->ok());
     EXPECT_FALSE(QFile::exists(nvm + QStringLiteral("gemini")));
     EXPECT_FALSE(QFile::exists(sandbox.systemPath(QStringLiteral("/opt/homebrew/bin/gemini"))));
-    EXPECT_EQ(log, QStringLiteral("Uninstalling Gemini CLI...\nremoved 1 package\nremoved 1 package\n"
+    EXPECT_FALSE(sandbox.exists(QStringLiteral(".local/bin/gemini")));
+    EXPECT_FALSE(sandbox.exists(QStringLiteral(".local/lib/node_modules/@google/gemini-cli")));
+    // nvm's npm is the one the search path finds here; the sandbox's own npm still holds its
+    // copy, which is reported and which the next removal reaches.
+    EXPECT_EQ(log,
+              QStringLiteral("Uninstalling Gemini CLI...\nremoved 1 package\nremoved 1 package\nremoved 1 package\n"
+                             "up to date, audited 1 package\n"
+                             "\nNote: 'gemini' is still found in PATH. You may have multiple installations.\n"
+                             "Run 'which gemini' in Terminal to find other copies.\n"));
+    EXPECT_TRUE(QFile::exists(sandbox.binDirectory() + QStringLiteral("/gemini")));
+    QFile::remove(nvm + QStringLiteral("npm"));
+    sandbox.installFakes({"npm"});
+    log.clear();
+    result = await(installer.uninstall(CLITool::geminiCLI, [&](const QString& t) { log += t; }));
+    ASSERT_TRUE(result && result->ok());
+    EXPECT_FALSE(QFile::exists(sandbox.binDirectory() + QStringLiteral("/gemini")));
+    EXPECT_EQ(log, QStringLiteral("Uninstalling Gemini CLI...\nup to date, audited 1 package\nremoved 1 package\n"
                                   "\nGemini CLI has been uninstalled.\n"));
 }
 
-TEST_F(ToolInstallerTest, UninstallTellsAboutCopiesLeftOnThePath)
+TEST_F(ToolInstallerTest, UninstallRemovesClaudeCodesOwnLauncherAndTellsAboutOtherCopies)
 {
-    // Claude Code installed by other means, in ~/.local/bin; nothing for npm to remove.
+    // Claude Code from its maker's installer (the launcher in ~/.local/bin, its versions in
+    // ~/.local/share/claude) and another copy installed by other means.
     sandbox.installFakeAt(QStringLiteral("claude"), sandbox.path(QStringLiteral(".local/bin/claude")));
+    sandbox.writeFile(QStringLiteral(".local/share/claude/versions/1.0.42"), "binary");
+    sandbox.installFakes({"claude"});
     QDir().mkpath(sandbox.path(QStringLiteral(".claude/local")));
     QDir().mkpath(sandbox.path(QStringLiteral(".claude/downloads")));
     sandbox.writeFile(QStringLiteral(".claude/settings.json"), "{}");
@@ -403,9 +426,81 @@ TEST_F(ToolInstallerTest, UninstallTellsAboutCopiesLeftOnThePath)
     EXPECT_EQ(log, QStringLiteral("Uninstalling Claude Code...\n"
                                   "\nNote: 'claude' is still found in PATH. You may have multiple installations.\n"
                                   "Run 'which claude' in Terminal to find other copies.\n"));
+    EXPECT_FALSE(sandbox.exists(QStringLiteral(".local/bin/claude")));
+    EXPECT_FALSE(sandbox.exists(QStringLiteral(".local/share/claude")));
     EXPECT_FALSE(sandbox.exists(QStringLiteral(".claude/local")));
     EXPECT_FALSE(sandbox.exists(QStringLiteral(".claude/downloads")));
     EXPECT_TRUE(sandbox.exists(QStringLiteral(".claude/settings.json")));
+}
+
+TEST_F(ToolInstallerTest, AnUnwritableNpmFolderSendsTheToolToLocalAndTheTerminalFindsIt)
+{
+    sandbox.installFakes({"git", "node", "npm"});
+    // npm's global folder cannot take the package: its lib is a file (as root, permissions
+    // alone would not say no).
+    const QString prefix = sandbox.stateDirectory() + QStringLiteral("/usr");
+    writeFile(prefix + QStringLiteral("/lib"), "");
+    sandbox.setEnv("FAKE_NPM_PREFIX", prefix.toUtf8());
+    // The profile is a link into a dotfiles folder, with its own permissions and no line
+    // break at its end.
+    sandbox.writeFile(QStringLiteral("dotfiles/zshrc"), "alias ll='ls -l'");
+    QFile::setPermissions(sandbox.path(QStringLiteral("dotfiles/zshrc")),
+                          QFileDevice::ReadOwner | QFileDevice::WriteOwner);
+    QFile::link(sandbox.path(QStringLiteral("dotfiles/zshrc")), sandbox.path(QStringLiteral(".zshrc")));
+
+    const SetupRun run = runSetup(CLITool::codex);
+    ASSERT_TRUE(run.result && run.result->ok()) << run.error().toStdString();
+    EXPECT_TRUE(run.log.contains(QStringLiteral("npm's global folder %1 is not writable for your user, so Codex goes "
+                                                "into ~/.local instead (for this installation only; your npm settings "
+                                                "stay as they are).\n")
+                                     .arg(prefix)))
+        << run.log.toStdString();
+    QFile npmEnvironment(sandbox.stateDirectory() + QStringLiteral("/npm-env.log"));
+    ASSERT_TRUE(npmEnvironment.open(QIODevice::ReadOnly));
+    EXPECT_EQ(npmEnvironment.readAll(), "npm install -g @openai/codex with npm_config_prefix=" +
+                                            sandbox.path(QStringLiteral(".local")).toUtf8() + "\n");
+    EXPECT_TRUE(sandbox.exists(QStringLiteral(".local/bin/codex")));
+    EXPECT_FALSE(sandbox.exists(QStringLiteral(".npmrc")));
+
+    // The user's terminal did not search ~/.local/bin: the profile gets the block, once.
+    EXPECT_TRUE(run.log.contains(
+        QStringLiteral("Added ~/.local/bin to the search path in ~/.zshrc, so new terminal windows find Codex.\n")));
+    const QByteArray profile = "alias ll='ls -l'\n"
+                               "# Added by Quillforge: programs installed for your user live in ~/.local/bin\n"
+                               "export PATH=\"$HOME/.local/bin:$PATH\"\n";
+    EXPECT_EQ(sandbox.readFile(QStringLiteral("dotfiles/zshrc")), profile);
+    EXPECT_TRUE(QFileInfo(sandbox.path(QStringLiteral(".zshrc"))).isSymLink());
+    EXPECT_EQ(QFileInfo(sandbox.path(QStringLiteral("dotfiles/zshrc"))).permissions() & 0x7077, // owner, group, others
+              QFileDevice::ReadOwner | QFileDevice::WriteOwner);
+
+    // A second install finds it on the search path and adds nothing.
+    const SetupRun again = runSetup(CLITool::codex);
+    ASSERT_TRUE(again.result && again.result->ok()) << again.error().toStdString();
+    EXPECT_FALSE(again.log.contains(QStringLiteral("search path"))) << again.log.toStdString();
+    EXPECT_EQ(sandbox.readFile(QStringLiteral("dotfiles/zshrc")), profile);
+
+    // The block makes bash find the programs too.
+    platform.terminalShell = QStringLiteral("/bin/bash");
+    QFile::remove(sandbox.path(QStringLiteral(".zshrc")));
+    sandbox.writeFile(QStringLiteral(".bashrc"), "");
+    sandbox.writeFile(QStringLiteral(".bash_profile"), ". ~/.bashrc\n");
+    const SetupRun bash = runSetup(CLITool::codex);
+    ASSERT_TRUE(bash.result && bash.result->ok()) << bash.error().toStdString();
+    EXPECT_TRUE(bash.log.contains(QStringLiteral("Added ~/.local/bin to the search path in ~/.bash_profile")))
+        << bash.log.toStdString();
+    EXPECT_FALSE(bash.log.contains(QStringLiteral("Note:"))) << bash.log.toStdString();
+}
+
+TEST_F(ToolInstallerTest, AWritableNpmFolderIsUsedAsItIs)
+{
+    sandbox.installFakes({"git", "node", "npm"});
+    const SetupRun run = runSetup(CLITool::geminiCLI);
+    ASSERT_TRUE(run.result && run.result->ok()) << run.error().toStdString();
+    EXPECT_FALSE(run.log.contains(QStringLiteral("~/.local"))) << run.log.toStdString();
+    EXPECT_FALSE(QFile::exists(sandbox.stateDirectory() + QStringLiteral("/npm-env.log")));
+    EXPECT_FALSE(sandbox.exists(QStringLiteral(".zshrc")));
+    EXPECT_TRUE(ToolInstaller::isWritableNpmPrefix(sandbox.stateDirectory()));
+    EXPECT_FALSE(ToolInstaller::isWritableNpmPrefix(sandbox.stateDirectory() + QStringLiteral("/npm.log")));
 }
 
 TEST_F(ToolInstallerTest, UninstallThatCannotLookAfterwardsSaysSo)
