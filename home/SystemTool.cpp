@@ -4,6 +4,7 @@
 #include "DeveloperFolder.h"
 
 #include <QCoreApplication>
+#include <QDir>
 
 #include <vector>
 
@@ -57,11 +58,37 @@ QList<SystemTool> systemToolCatalogue(const Platform& platform)
             .name = QStringLiteral("Node.js"),
             .icon = QStringLiteral("server.rack"),
             .description = optionalNote,
-            .uninstallCommand = QStringLiteral("brew uninstall node"),
+            // Known once the copy that commands find has been located.
+            .uninstallCommand = std::nullopt,
             .stepNumber = 4,
             .isOptional = true,
         },
     };
+}
+
+QCoro::Task<NodeCopy> nodeCopyAt(const QString& path, ShellRunner& shell)
+{
+    if (path == QDir::homePath() + QStringLiteral("/.local/bin/node"))
+        co_return NodeCopy::localRelease;
+    const Result<QString> brew = co_await shell.run(QStringLiteral("brew --prefix"));
+    if (brew && !brew.value().isEmpty() && path == brew.value() + QStringLiteral("/bin/node"))
+        co_return NodeCopy::homebrew;
+    co_return NodeCopy::other;
+}
+
+std::optional<QString> nodeRemovalCommand(NodeCopy copy)
+{
+    switch (copy) {
+    case NodeCopy::homebrew: return QStringLiteral("brew uninstall node");
+    case NodeCopy::localRelease:
+        // What the release archive put into ~/.local; global packages installed there stay.
+        return QStringLiteral("rm -f ~/.local/bin/node ~/.local/bin/npm ~/.local/bin/npx ~/.local/bin/corepack && "
+                              "rm -rf ~/.local/lib/node_modules/npm ~/.local/lib/node_modules/corepack "
+                              "~/.local/include/node ~/.local/share/doc/node ~/.local/share/man/man1/node.1 "
+                              "~/.local/share/systemtap/tapset/node.stp");
+    case NodeCopy::other: return std::nullopt;
+    }
+    Q_UNREACHABLE();
 }
 
 QCoro::Task<SystemTool> detectSystemTool(SystemTool tool, ShellRunner& shell, DeveloperToolsItem developerTools)
@@ -101,6 +128,14 @@ QCoro::Task<SystemTool> detectSystemTool(SystemTool tool, ShellRunner& shell, De
             break;
         tool.isInstalled = true;
         tool.version = version.value();
+        const Result<QString> where = co_await shell.run(QStringLiteral("command -v node"));
+        const NodeCopy copy = where ? co_await nodeCopyAt(where.value(), shell) : NodeCopy::other;
+        tool.uninstallCommand = nodeRemovalCommand(copy);
+        if (!tool.uninstallCommand) {
+            tool.uninstallNote =
+                trText("This Node.js (%1) was installed by another program. Remove it the way it was installed.")
+                    .arg(where ? where.value() : QStringLiteral("node"));
+        }
         break;
     }
     }

@@ -35,6 +35,18 @@ struct SystemTool {
     friend bool operator==(const SystemTool&, const SystemTool&) = default;
 };
 
+// Where the Node.js that commands find came from.
+enum class NodeCopy {
+    homebrew,     // Homebrew's
+    localRelease, // the release archive unpacked into ~/.local
+    other,        // anything else (a system package, nvm, an installer): not Quillforge's to remove
+};
+
+// Which copy the node at `path` is (Homebrew's when it is in Homebrew's own bin folder).
+QCoro::Task<NodeCopy> nodeCopyAt(const QString& path, ShellRunner& shell);
+// The line that removes that copy; nothing for a copy Quillforge did not install.
+std::optional<QString> nodeRemovalCommand(NodeCopy copy);
+
 // The four items in dashboard order, with the projects folder's presence already known.
 QList<SystemTool> systemToolCatalogue(const Platform& platform);
 

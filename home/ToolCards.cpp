@@ -286,7 +286,14 @@ void SystemToolCard::setTool(const SystemTool& tool)
     render();
 }
 
-bool SystemToolCard::canRemove() const { return m_tool.isInstalled && m_tool.id != SystemToolID::developerFolder; }
+bool SystemToolCard::canRemove() const
+{
+    // Node.js is offered for removal only as a copy Quillforge can remove; its sheet would have
+    // nothing else to say.
+    if (m_tool.id == SystemToolID::node && !m_tool.uninstallCommand)
+        return false;
+    return m_tool.isInstalled && m_tool.id != SystemToolID::developerFolder;
+}
 
 void SystemToolCard::render()
 {

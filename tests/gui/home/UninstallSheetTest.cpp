@@ -1,3 +1,4 @@
+#include "CoroTest.h"
 #include "LogView.h"
 #include "TestMachine.h"
 #include "TestSupport.h"
@@ -17,6 +18,12 @@ namespace {
 
 class SheetTest : public ::testing::Test, protected test::TestMachine {
 protected:
+    // The item as the dashboard knows it once it has looked at the machine.
+    SystemTool detected(SystemToolID id)
+    {
+        return *test::await(detectSystemTool(item(id), services.runner, platform.developerTools));
+    }
+
     SystemTool item(SystemToolID id) const
     {
         for (const SystemTool& tool : systemToolCatalogue(platform))
@@ -124,7 +131,7 @@ TEST_F(SheetTest, AIToolSheetLogIsBehindDetails)
 TEST_F(SheetTest, SystemToolSheetRunsTheItemsCommand)
 {
     sandbox.installFakes({"brew", "node"});
-    SystemToolUninstallSheet* sheet = systemSheet(item(SystemToolID::node));
+    SystemToolUninstallSheet* sheet = systemSheet(detected(SystemToolID::node));
     const QPointer<SystemToolUninstallSheet> guard(sheet);
     EXPECT_EQ(test::child<QLabel>(sheet, QStringLiteral("sheetDescription"))->text(),
               QStringLiteral("This will remove Node.js from your system."));
@@ -232,7 +239,8 @@ TEST_F(SheetTest, EveryControlHasAName)
     button(&ai, "uninstallButton")->click();
     waitUntilIdle(&ai);
     button(&ai, "detailsButton")->click();
-    SystemToolUninstallSheet* system = systemSheet(item(SystemToolID::node));
+    sandbox.installFakes({"brew", "node"});
+    SystemToolUninstallSheet* system = systemSheet(detected(SystemToolID::node));
     for (QWidget* sheet : {static_cast<QWidget*>(&ai), static_cast<QWidget*>(system)}) {
         for (QWidget* control : test::focusableControls(sheet)) {
             EXPECT_FALSE(control->accessibleName().trimmed().isEmpty())

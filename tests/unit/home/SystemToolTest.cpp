@@ -49,8 +49,11 @@ TEST_F(SystemToolTest, TheCatalogue)
         EXPECT_EQ(tool.stepNumber, i + 1);
         // Only the two items the setup installs itself are optional.
         EXPECT_EQ(tool.isOptional, tool.id == SystemToolID::homebrew || tool.id == SystemToolID::node);
-        // Every item says how it goes away: a command, or a note why it does not.
-        EXPECT_NE(tool.uninstallCommand.has_value(), tool.uninstallNote.has_value()) << tool.key.toStdString();
+        // Every item says how it goes away: a command, or a note why it does not. Node.js
+        // knows only once its copy has been found.
+        if (tool.id != SystemToolID::node) {
+            EXPECT_NE(tool.uninstallCommand.has_value(), tool.uninstallNote.has_value()) << tool.key.toStdString();
+        }
         EXPECT_FALSE(tool.name.isEmpty());
         EXPECT_FALSE(tool.version.has_value());
         keys.insert(tool.key);
@@ -153,4 +156,38 @@ TEST_F(SystemToolTest, TerminalLaunchesGoToThePlatformEveryTime)
     services.terminal.openInTerminal(QStringLiteral("codex"), QStringLiteral("~/Developer"));
     ASSERT_EQ(platform.terminals.size(), 2);
     EXPECT_EQ(platform.terminals[0], qMakePair(QStringLiteral("codex"), QStringLiteral("~/Developer")));
+}
+
+TEST_F(SystemToolTest, NodeIsOfferedForRemovalOnlyAsACopyQuillforgeCanRemove)
+{
+    // Homebrew's Node.js goes through Homebrew.
+    sandbox.installFakes({"brew", "node"});
+    EXPECT_EQ(item(detect(), SystemToolID::node).uninstallCommand, QStringLiteral("brew uninstall node"));
+
+    // The release archive's copy in ~/.local: its files go, the global packages beside it stay.
+    sandbox.removeFake(QStringLiteral("node"));
+    for (const char* file : {".local/bin/npm", ".local/bin/npx", ".local/lib/node_modules/npm/package.json",
+                             ".local/include/node/node.h", ".local/share/man/man1/node.1",
+                             ".local/lib/node_modules/@google/gemini-cli/package.json", ".local/bin/gemini"})
+        sandbox.writeFile(QString::fromLatin1(file), "x");
+    sandbox.installFakeAt(QStringLiteral("node"), sandbox.path(QStringLiteral(".local/bin/node")));
+    const SystemTool local = item(detect(), SystemToolID::node);
+    ASSERT_TRUE(local.uninstallCommand.has_value());
+    ASSERT_TRUE(await(services.runner.run(*local.uninstallCommand))->ok());
+    for (const char* gone : {".local/bin/node", ".local/bin/npm", ".local/bin/npx", ".local/lib/node_modules/npm",
+                             ".local/include/node", ".local/share/man/man1/node.1"})
+        EXPECT_FALSE(sandbox.exists(QString::fromLatin1(gone))) << gone;
+    EXPECT_TRUE(sandbox.exists(QStringLiteral(".local/lib/node_modules/@google/gemini-cli/package.json")));
+    EXPECT_TRUE(sandbox.exists(QStringLiteral(".local/bin/gemini")));
+
+    // Any other copy (here nvm's, with no Homebrew at all) is not offered, and says why.
+    sandbox.removeFake(QStringLiteral("brew"));
+    const QString nvm = sandbox.path(QStringLiteral(".nvm/versions/node/v22.11.0/bin/node"));
+    sandbox.installFakeAt(QStringLiteral("node"), nvm);
+    const SystemTool other = item(detect(), SystemToolID::node);
+    EXPECT_TRUE(other.isInstalled);
+    EXPECT_EQ(other.uninstallCommand, std::nullopt);
+    EXPECT_EQ(other.uninstallNote,
+              QStringLiteral("This Node.js (%1) was installed by another program. Remove it the way it was installed.")
+                  .arg(nvm));
 }
