@@ -29,6 +29,7 @@ QList<SystemTool> systemToolCatalogue(const Platform& platform)
             .description = tools.description,
             .uninstallCommand = tools.uninstallCommand,
             .uninstallNote = tools.uninstallNote,
+            .uninstallShownAs = tools.uninstallShownAs,
             .stepNumber = 1,
         },
         SystemTool{

@@ -29,6 +29,8 @@ struct SystemTool {
     std::optional<QString> version;
     std::optional<QString> uninstallCommand;
     std::optional<QString> uninstallNote;
+    // How the removal's log names the command, when not as it is.
+    std::optional<QString> uninstallShownAs;
     std::optional<int> stepNumber;
     bool isOptional = false;
 

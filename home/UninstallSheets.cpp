@@ -268,7 +268,7 @@ void SystemToolUninstallSheet::performUninstall()
     if (!m_tool.uninstallCommand)
         return;
     const QString command = *m_tool.uninstallCommand;
-    appendOutput(QStringLiteral("Running: ") + command + QStringLiteral("\n\n"));
+    appendOutput(QStringLiteral("Running: ") + m_tool.uninstallShownAs.value_or(command) + QStringLiteral("\n\n"));
     // The command may outlive the sheet ("Cancel" stays while it runs): its output then goes
     // nowhere and the next load of the dashboard shows what it did.
     const QPointer<SystemToolUninstallSheet> self(this);
@@ -281,7 +281,11 @@ void SystemToolUninstallSheet::performUninstall()
                        this),
                    this, [this](const Result<void>& result) {
                        if (!result) {
-                           finish(result.error().errorDescription());
+                           const ShellError* error = result.error().shellError();
+                           const bool declined = error && error->kind() == ShellError::commandFailed &&
+                                                 error->exitCode() == kAdministratorDeclined;
+                           finish(declined ? ToolInstaller::administratorDeclinedMessage(m_tool.name)
+                                           : result.error().errorDescription());
                            return;
                        }
                        finish(std::nullopt);

@@ -361,6 +361,14 @@ DeveloperToolsItem LinuxPlatform::gitToolsItem()
     };
 }
 
+QString LinuxPlatform::administratorLine(const QString& command)
+{
+    // pkexec ends with 126 itself when its dialog is dismissed.
+    return QStringLiteral("if command -v pkexec >/dev/null 2>&1; then pkexec /bin/sh -c ") + shellQuote(command) +
+           QStringLiteral("; else echo 'This needs administrator rights, and no password dialog (pkexec) was found.' "
+                          ">&2; exit 1; fi");
+}
+
 void LinuxPlatform::startDeveloperToolsInstaller()
 {
     openTerminal(packageInstallLine(m_osRelease), QStringLiteral("~"), {});

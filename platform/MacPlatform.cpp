@@ -2,6 +2,7 @@
 
 #include "Diagnostics.h"
 #include "MacWindowStyle.h"
+#include "ShellQuote.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -172,9 +173,25 @@ DeveloperToolsItem MacPlatform::commandLineToolsItem()
         .presenceCommand = QStringLiteral("xcode-select -p"),
         .versionCommand = QStringLiteral("xcodebuild -version 2>/dev/null | head -1"),
         .versionPrefix = QStringLiteral("Xcode "),
-        .uninstallCommand = QStringLiteral("sudo rm -rf /Library/Developer/CommandLineTools"),
+        .uninstallCommand = administratorLine(QStringLiteral("rm -rf /Library/Developer/CommandLineTools")),
         .uninstallNote = std::nullopt,
+        .uninstallShownAs = QStringLiteral("rm -rf /Library/Developer/CommandLineTools (as administrator)"),
     };
+}
+
+QString MacPlatform::administratorLine(const QString& command)
+{
+    QString script = command;
+    script.replace(QLatin1Char('\\'), QStringLiteral("\\\\")).replace(QLatin1Char('"'), QStringLiteral("\\\""));
+    const QString osascript =
+        QStringLiteral("osascript -e ") +
+        shellQuote(QStringLiteral("do shell script \"") + script + QStringLiteral("\" with administrator privileges"));
+    // The dialog's "Cancel" is AppleScript's error -128: no message of osascript's, only the
+    // exit code that says so.
+    return QStringLiteral("out=$(") + osascript +
+           QStringLiteral(" 2>&1); code=$?; case \"$out\" in *\"(-128)\"*) exit %1 ;; esac; "
+                          "[ -n \"$out\" ] && printf '%s\\n' \"$out\"; exit $code")
+               .arg(kAdministratorDeclined);
 }
 
 void MacPlatform::startDeveloperToolsInstaller()

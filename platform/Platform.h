@@ -57,6 +57,8 @@ struct DeveloperToolsItem {
     QString versionPrefix;
     std::optional<QString> uninstallCommand;
     std::optional<QString> uninstallNote;
+    // How the removal's log names the command, when the line itself would only confuse.
+    std::optional<QString> uninstallShownAs;
 };
 
 // How the application looks on this system.
@@ -135,6 +137,11 @@ public:
     // Starts the system's installer for the developer tools; errors are swallowed.
     virtual void startDeveloperToolsInstaller() = 0;
 
+    // A shell line that runs `command` with administrator rights, asking for them through the
+    // system's own password dialog. When the user cancels the dialog the line ends with
+    // `kAdministratorDeclined`; where no such dialog exists it fails with a message.
+    virtual QString administratorCommand(const QString& command) const = 0;
+
     // The official Node.js archive for this computer's system and processor; nothing when
     // nodejs.org publishes none for it.
     virtual std::optional<NodeReleaseTarget> nodeReleaseTarget() const = 0;
@@ -142,6 +149,9 @@ public:
 
 // The backend for the system this binary was built for.
 std::unique_ptr<Platform> createNativePlatform();
+
+// The exit code of an administrator command whose password dialog was cancelled.
+inline constexpr int kAdministratorDeclined = 126;
 
 // Where Node.js releases come from when Homebrew is not there: the release index, each
 // release's folder with its archives and checksum list.

@@ -24,6 +24,7 @@ public:
     DeveloperToolsItem developerToolsItem() const override;
     void startDeveloperToolsInstaller() override;
     QStringList terminalShellInvocation(const QString& line) const override;
+    QString administratorCommand(const QString& command) const override { return administratorLine(command); }
     std::optional<NodeReleaseTarget> nodeReleaseTarget() const override;
 
     // The texts of a Mac: the ones the whole application was designed with.
@@ -37,6 +38,9 @@ public:
     // osascript's arguments for a script: one -e per line.
     static QStringList osascriptArguments(const QString& script);
     static DeveloperToolsItem commandLineToolsItem();
+    // `command` through AppleScript's "with administrator privileges": the system's password
+    // dialog; its "Cancel" (error -128) becomes kAdministratorDeclined.
+    static QString administratorLine(const QString& command);
     // The archive for a Mac with this processor (as Qt names it: arm64, x86_64).
     static std::optional<NodeReleaseTarget> nodeReleaseTargetFor(const QString& cpuArchitecture);
 };
@@ -59,6 +63,7 @@ public:
     DeveloperToolsItem developerToolsItem() const override;
     void startDeveloperToolsInstaller() override;
     QStringList terminalShellInvocation(const QString& line) const override;
+    QString administratorCommand(const QString& command) const override { return administratorLine(command); }
     std::optional<NodeReleaseTarget> nodeReleaseTarget() const override;
 
     // The texts of a Linux system whose os-release says `osRelease`.
@@ -91,6 +96,9 @@ public:
     // The package manager line that installs git and the build tools, by distribution.
     static QString packageInstallLine(const QMap<QString, QString>& osRelease);
     static DeveloperToolsItem gitToolsItem();
+    // `command` through pkexec (the desktop's password dialog) when it is there; otherwise a
+    // failure that says administrator rights are needed.
+    static QString administratorLine(const QString& command);
     // The archive for a Linux system with this processor (as Qt names it: x86_64, arm64, ...).
     static std::optional<NodeReleaseTarget> nodeReleaseTargetFor(const QString& cpuArchitecture);
 

@@ -276,7 +276,29 @@ QCoro::Task<Result<void>> ToolInstaller::uninstall(CLITool tool, Output log)
         log(QStringLiteral("Note: ") + removal.error().errorDescription() + QLatin1Char('\n'));
     }
 
-    const Result<QString> stillThere = co_await m_shell.run(QStringLiteral("which ") + tool.commandName());
+    Result<QString> stillThere = co_await m_shell.run(QStringLiteral("which ") + tool.commandName());
+    if (stillThere && tool.installsThroughNpm()) {
+        // A copy in a global npm folder that the user cannot write (installed with sudo, say)
+        // goes with administrator rights, asked for through the system's own dialog.
+        const Result<QString> npm = co_await m_shell.run(QStringLiteral("command -v npm"));
+        const Result<QString> prefix = co_await m_shell.run(QStringLiteral("npm prefix -g"));
+        if (npm && prefix && stillThere.value() == prefix.value() + QStringLiteral("/bin/") + tool.commandName() &&
+            !isWritableNpmPrefix(prefix.value())) {
+            log(QStringLiteral("\nRemoving %1 from %2 needs administrator rights.\n")
+                    .arg(tool.displayName(), prefix.value()));
+            const Result<void> removed = co_await m_shell.runWithStreaming(
+                m_platform.administratorCommand(shellQuote(npm.value()) + QStringLiteral(" uninstall -g ") +
+                                                tool.npmPackage()),
+                log);
+            if (!removed) {
+                const ShellError* error = removed.error().shellError();
+                if (error && error->kind() == ShellError::commandFailed && error->exitCode() == kAdministratorDeclined)
+                    co_return ServiceError::message(administratorDeclinedMessage(tool.displayName()));
+                log(QStringLiteral("Note: ") + removed.error().errorDescription() + QLatin1Char('\n'));
+            }
+            stillThere = co_await m_shell.run(QStringLiteral("which ") + tool.commandName());
+        }
+    }
     if (!stillThere) {
         // Only an answer of the search counts as "gone"; a search that could not run says nothing.
         const ShellError* error = stillThere.error().shellError();
@@ -289,6 +311,11 @@ QCoro::Task<Result<void>> ToolInstaller::uninstall(CLITool tool, Output log)
         QStringLiteral("' is still found in PATH. You may have multiple installations.\n"));
     log(QStringLiteral("Run 'which ") + tool.commandName() + QStringLiteral("' in Terminal to find other copies.\n"));
     co_return Result<void>();
+}
+
+QString ToolInstaller::administratorDeclinedMessage(const QString& name)
+{
+    return QObject::tr("The password dialog was cancelled, so %1 was not removed.").arg(name);
 }
 
 bool ToolInstaller::isWritableNpmPrefix(const QString& prefix)

@@ -58,6 +58,8 @@ public:
     // versions and their folders when a new enough one is there too.
     static QString nodeShadowedMessage(CLITool tool, const QList<NodeInstall>& installs);
 
+    // What a removal says when the user cancelled the administrator password dialog.
+    static QString administratorDeclinedMessage(const QString& name);
     // Whether a global npm install into `prefix` needs no more rights than the user has.
     static bool isWritableNpmPrefix(const QString& prefix);
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "PlatformBackends.h"
+#include "ShellQuote.h"
 
 #include <QList>
 #include <QPair>
@@ -52,6 +53,11 @@ public:
         return {terminalShell, QStringLiteral("-l"), QStringLiteral("-i"), QStringLiteral("-c"), line};
     }
     std::optional<NodeReleaseTarget> nodeReleaseTarget() const override { return releaseTarget; }
+    // Through the fake `sudo`, which runs the command unless told to refuse.
+    QString administratorCommand(const QString& command) const override
+    {
+        return QStringLiteral("sudo /bin/sh -c ") + shellQuote(command);
+    }
 
     SystemWording words = MacPlatform::standardWording();
     ApplicationLook look;

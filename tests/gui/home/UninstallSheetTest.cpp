@@ -151,25 +151,45 @@ TEST_F(SheetTest, SystemToolSheetRunsTheItemsCommand)
     EXPECT_TRUE(guard.isNull());
 }
 
-TEST_F(SheetTest, SystemToolSheetShowsTheRunnersFailure)
+TEST_F(SheetTest, TheCommandLineToolsGoThroughThePasswordDialog)
 {
-    // The Command Line Tools' removal needs sudo, which cannot ask for a password here.
-    sandbox.installFakes({"sudo"});
+    // osascript stands in for the system's dialog: it records the script and answers as told.
+    QFile osascript(sandbox.binDirectory() + QStringLiteral("/osascript"));
+    ASSERT_TRUE(osascript.open(QIODevice::WriteOnly));
+    osascript.write("#!/bin/sh\nprintf '%s\\n' \"$2\" > \"$FAKE_STATE/osascript.log\"\n"
+                    "case \"$FAKE_DIALOG\" in\n"
+                    "cancel) echo '0:76: execution error: User canceled. (-128)' >&2; exit 1 ;;\n"
+                    "fail) echo '0:76: execution error: rm: Operation not permitted (1)' >&2; exit 1 ;;\n"
+                    "esac\n");
+    osascript.close();
+    osascript.setPermissions(QFileDevice::ReadOwner | QFileDevice::ExeOwner);
     SystemToolUninstallSheet* sheet = systemSheet(item(SystemToolID::developerTools));
-    QElapsedTimer clock;
-    clock.start();
+
+    // Cancelled: a failed removal with a plain message, and nothing of osascript's.
+    sandbox.setEnv("FAKE_DIALOG", "cancel");
     button(sheet, "uninstallButton")->click();
     waitUntilIdle(sheet);
-    EXPECT_LT(clock.elapsed(), 15000) << "sudo must not wait for an answer";
-    EXPECT_EQ(sheet->errorMessage(), QStringLiteral("Command failed with exit code 1: Command failed"));
-    EXPECT_TRUE(sheet->output().startsWith(
-        QStringLiteral("Running: sudo rm -rf /Library/Developer/CommandLineTools\n\nsudo: a terminal is required")));
+    EXPECT_EQ(sheet->errorMessage(),
+              QStringLiteral("The password dialog was cancelled, so Xcode CLI Tools was not removed."));
+    EXPECT_EQ(sheet->output(),
+              QStringLiteral("Running: rm -rf /Library/Developer/CommandLineTools (as administrator)\n\n"))
+        << sheet->output().toStdString();
+    EXPECT_EQ(QString::fromUtf8(sandbox.readFile(QStringLiteral("../state/osascript.log"))),
+              QStringLiteral("do shell script \"rm -rf /Library/Developer/CommandLineTools\" with administrator "
+                             "privileges\n"));
     EXPECT_TRUE(offered(sheet, "uninstallButton"));
 
-    // A retry starts the log afresh with its "Running: " line.
+    // Any other failure shows what the system said.
+    sandbox.setEnv("FAKE_DIALOG", "fail");
     button(sheet, "uninstallButton")->click();
-    EXPECT_EQ(sheet->output(), QStringLiteral("Running: sudo rm -rf /Library/Developer/CommandLineTools\n\n"));
     waitUntilIdle(sheet);
+    EXPECT_EQ(sheet->errorMessage(), QStringLiteral("Command failed with exit code 1: Command failed"));
+    EXPECT_TRUE(sheet->output().endsWith(QStringLiteral("rm: Operation not permitted (1)\n")));
+
+    sandbox.setEnv("FAKE_DIALOG", "");
+    button(sheet, "uninstallButton")->click();
+    waitUntilIdle(sheet);
+    EXPECT_TRUE(sheet->uninstallComplete());
     sheet->close();
 }
 

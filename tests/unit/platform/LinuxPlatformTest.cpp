@@ -481,6 +481,38 @@ TEST(LinuxPlatformOsRelease, PackageLineFollowsTheDistributionFamily)
 
 // --- Node.js without Homebrew --------------------------------------------------------------
 
+// Administrator rights come only through the desktop's password dialog; without one the
+// line fails with a message instead of waiting for a password nobody can type.
+TEST(LinuxPlatformAdministrator, ThroughPkexecOrAClearFailure)
+{
+    QTemporaryDir sandbox;
+    ASSERT_TRUE(sandbox.isValid());
+    const QString marker = sandbox.filePath(QStringLiteral("it's done"));
+    const QString line = LinuxPlatform::administratorLine(QStringLiteral("touch ") + qf::shellQuote(marker));
+    // A search path without pkexec, whatever this machine has.
+    ASSERT_TRUE(QDir().mkpath(sandbox.filePath(q("empty"))));
+    const QString withoutDialog = QStringLiteral("PATH=") + qf::shellQuote(sandbox.filePath(q("empty"))) +
+                                  QStringLiteral("; ") + line;
+    qf::test::ShellRun run = runShell(QStringLiteral("/bin/sh"), withoutDialog, sandbox.path(), sandbox.path());
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_EQ(run.err, QByteArray("This needs administrator rights, and no password dialog (pkexec) was found.\n"));
+    EXPECT_FALSE(QFile::exists(marker));
+
+    // pkexec runs the command as it was given, or says the dialog was dismissed.
+    ASSERT_TRUE(QDir().mkpath(sandbox.filePath(q("bin"))));
+    ASSERT_TRUE(qf::test::writeExecutable(sandbox.filePath(q("bin/pkexec")),
+                                          "#!/bin/sh\n[ -n \"$DISMISS\" ] && exit 126\nexec \"$@\"\n"));
+    const QString withDialog = QStringLiteral("PATH=") + qf::shellQuote(sandbox.filePath(q("bin"))) +
+                               QStringLiteral(":/usr/bin:/bin; export PATH; ");
+    run = runShell(QStringLiteral("/bin/sh"), withDialog + QStringLiteral("DISMISS=1; export DISMISS; ") + line,
+                   sandbox.path(), sandbox.path());
+    EXPECT_EQ(run.exitCode, qf::kAdministratorDeclined);
+    EXPECT_FALSE(QFile::exists(marker));
+    run = runShell(QStringLiteral("/bin/sh"), withDialog + line, sandbox.path(), sandbox.path());
+    EXPECT_EQ(run.exitCode, 0) << run.err.toStdString();
+    EXPECT_TRUE(QFile::exists(marker));
+}
+
 TEST(NodeReleaseTargets, OneArchivePerSystemAndProcessor)
 {
     using Target = qf::NodeReleaseTarget;

@@ -503,6 +503,35 @@ TEST_F(ToolInstallerTest, AWritableNpmFolderIsUsedAsItIs)
     EXPECT_FALSE(ToolInstaller::isWritableNpmPrefix(sandbox.stateDirectory() + QStringLiteral("/npm.log")));
 }
 
+TEST_F(ToolInstallerTest, ACopyInAFolderOnlyAnAdministratorMayChangeGoesThroughThePasswordDialog)
+{
+    // Gemini CLI in npm's global folder, which the user's npm may not change.
+    sandbox.installFakes({"npm", "gemini", "sudo"});
+    const QString prefix = QFileInfo(sandbox.binDirectory()).absolutePath();
+    writeFile(prefix + QStringLiteral("/lib"), "");
+    sandbox.setEnv("FAKE_NPM_PREFIX", prefix.toUtf8());
+    sandbox.setEnv("FAKE_NPM_DENIED", "1");
+
+    // Cancelled: the removal fails with a plain message and the tool stays.
+    sandbox.setEnv("FAKE_SUDO_CANCEL", "1");
+    QString log;
+    auto result = await(installer.uninstall(CLITool::geminiCLI, [&](const QString& t) { log += t; }));
+    ASSERT_TRUE(result && !result->ok());
+    EXPECT_EQ(result->error().errorDescription(),
+              QStringLiteral("The password dialog was cancelled, so Gemini CLI was not removed."));
+    EXPECT_TRUE(QFile::exists(sandbox.binDirectory() + QStringLiteral("/gemini")));
+
+    sandbox.setEnv("FAKE_SUDO_ALLOW", "1");
+    log.clear();
+    result = await(installer.uninstall(CLITool::geminiCLI, [&](const QString& t) { log += t; }));
+    ASSERT_TRUE(result && result->ok()) << result->error().errorDescription().toStdString();
+    EXPECT_FALSE(QFile::exists(sandbox.binDirectory() + QStringLiteral("/gemini")));
+    EXPECT_TRUE(log.endsWith(QStringLiteral("\nRemoving Gemini CLI from %1 needs administrator rights.\n"
+                                            "removed 1 package\n\nGemini CLI has been uninstalled.\n")
+                                 .arg(prefix)))
+        << log.toStdString();
+}
+
 TEST_F(ToolInstallerTest, UninstallThatCannotLookAfterwardsSaysSo)
 {
     // A shell that cannot start: the removal is noted, and since the search for the tool
