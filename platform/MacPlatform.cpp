@@ -1,6 +1,7 @@
 #include "PlatformBackends.h"
 
 #include "Diagnostics.h"
+#include "MacVolume.h"
 #include "MacWindowStyle.h"
 #include "ShellQuote.h"
 
@@ -148,6 +149,13 @@ void MacPlatform::openTerminal(const QString& command, const QString& directory,
 }
 
 QString MacPlatform::terminalDescription() const { return QStringLiteral("Terminal.app (through AppleScript)"); }
+
+DiskSpace MacPlatform::availableDiskSpace(const QString& path) const
+{
+    if (const std::optional<DiskSpace> space = importantUsageSpace(path))
+        return *space;
+    return Platform::availableDiskSpace(path);
+}
 
 QStringList MacPlatform::programDirectories() const
 {

@@ -17,6 +17,8 @@ public:
     void configureMainWindow(QWidget* window) override;
     Qt::WindowFlags sheetWindowFlags() const override { return Qt::Sheet; }
     OperatingSystemCheck checkOperatingSystem() const override;
+    // As Finder shows it, purgeable space included.
+    DiskSpace availableDiskSpace(const QString& path) const override;
     QStringList programDirectories() const override;
     QStringList globalNpmPrograms() const override;
     void openTerminal(const QString& command, const QString& directory, TerminalOutcome outcome) override;

@@ -1,6 +1,7 @@
 #include "PlatformBackends.h"
 #include "PlatformTestTools.h"
 
+#include <QDir>
 #include <QFile>
 #include <QTest>
 
@@ -91,3 +92,13 @@ TEST(MacPlatformTerminal, LaunchFailureIsOneDiagnosticLine)
 }
 
 } // namespace
+
+// Where the capacity for important usage cannot be read (every system but macOS), the free
+// space still comes from the volume as Qt sees it.
+TEST(MacPlatformDiskSpace, AlwaysAnAnswerForARealVolume)
+{
+    const qf::DiskSpace space = qf::MacPlatform().availableDiskSpace(QDir::tempPath());
+    ASSERT_TRUE(space.bytes.has_value()) << space.error.toStdString();
+    EXPECT_GT(*space.bytes, 0);
+    EXPECT_TRUE(space.error.isEmpty());
+}
