@@ -63,9 +63,10 @@ public:
     // Whether a global npm install into `prefix` needs no more rights than the user has.
     static bool isWritableNpmPrefix(const QString& prefix);
 
-private:
     // Whether the shell of a new terminal window has `folder` on its search path.
     QCoro::Task<bool> newTerminalSearches(const QString& folder);
+
+private:
     // Adds the block that puts ~/.local/bin on the search path to the shell profile when a new
     // terminal window would not find programs there, and says what it did in the log.
     QCoro::Task<void> addLocalProgramsToSearchPath(CLITool tool, const Output& log);

@@ -9,12 +9,14 @@
 #include "CLITool.h"
 #include "Errors.h"
 #include "Platform.h"
+#include "ProfileWriter.h"
 #include "Services.h"
 #include "SetupModel.h"
 #include "SystemTool.h"
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QList>
 #include <QString>
@@ -248,6 +250,45 @@ QCoro::Task<void> printRequirements(Services& services)
     }
 }
 
+// How an installation would go on this machine: where Node.js would come from, where npm
+// would put a tool, and whether the user's terminal finds what lands in ~/.local/bin.
+QCoro::Task<void> printInstallRoutes(Services& services)
+{
+    printHeading(QStringLiteral("Installation routes"));
+    const Result<QString> brew = co_await services.runner.run(QStringLiteral("which brew"));
+    QString route;
+    if (brew) {
+        route = QStringLiteral("Homebrew (") + brew.value() + QStringLiteral("): brew install node");
+    } else if (const std::optional<NodeReleaseTarget> target = services.platform.nodeReleaseTarget()) {
+        route = QStringLiteral("newest LTS release for ") + target->platform + QStringLiteral(" from ") +
+                QLatin1String(kNodeDistribution) + QStringLiteral(" (checked against SHASUMS256.txt) into ~/.local");
+    } else {
+        route = QStringLiteral("none: no Node.js release for this processor");
+    }
+    printField(QStringLiteral("Node.js route"), route);
+
+    const Result<QString> prefix = co_await services.runner.run(QStringLiteral("npm prefix -g"));
+    QString npm;
+    if (!prefix || prefix.value().isEmpty())
+        npm = QStringLiteral("no npm on the search path yet (it comes with Node.js)");
+    else if (ToolInstaller::isWritableNpmPrefix(prefix.value()))
+        npm = prefix.value() + QStringLiteral(" (npm's global folder, writable)");
+    else
+        npm = QDir::homePath() + QStringLiteral("/.local (npm's global folder ") + prefix.value() +
+              QStringLiteral(" is not writable)");
+    printField(QStringLiteral("npm prefix"), npm);
+
+    const QString profile = services.detector.shellProfilePath();
+    QFile file(profile);
+    const bool present = file.open(QIODevice::ReadOnly) && file.readAll().contains(kSearchPathMark);
+    printField(QStringLiteral("PATH block"),
+               (present ? QStringLiteral("present in ") : QStringLiteral("not in ")) + profile);
+    const bool searched =
+        co_await services.installer.newTerminalSearches(QDir::homePath() + QStringLiteral("/.local/bin"));
+    printField(QStringLiteral("New terminal"), searched ? QStringLiteral("its shell searches ~/.local/bin")
+                                                        : QStringLiteral("its shell does not search ~/.local/bin"));
+}
+
 void printProfileAndTerminal(Services& services)
 {
     printHeading(QStringLiteral("Shell profile and terminal"));
@@ -293,6 +334,8 @@ QCoro::Task<void> probe(Services& services)
     co_await printSupportingItems(services);
     std::fflush(stdout);
     co_await printRequirements(services);
+    std::fflush(stdout);
+    co_await printInstallRoutes(services);
     printProfileAndTerminal(services);
     printSystemTexts(services);
     std::fflush(stdout);
