@@ -42,18 +42,14 @@ TEST(SystemDetectorRules, NodeVersions)
 
 TEST(SystemDetectorRules, EachToolNeedsTheNodeOfItsPackage)
 {
-    EXPECT_FALSE(SystemDetector::evaluateNodeVersion(QStringLiteral("v19.9.0"),
-                                                     CLITool(CLITool::geminiCLI).minimumNodeMajorVersion())
-                     .meetsRequirement);
-    EXPECT_TRUE(SystemDetector::evaluateNodeVersion(QStringLiteral("v20.0.0"),
-                                                    CLITool(CLITool::geminiCLI).minimumNodeMajorVersion())
-                    .meetsRequirement);
-    EXPECT_TRUE(SystemDetector::evaluateNodeVersion(QStringLiteral("v19.9.0"),
-                                                    CLITool(CLITool::codex).minimumNodeMajorVersion())
-                    .meetsRequirement);
-    EXPECT_FALSE(SystemDetector::evaluateNodeVersion(QStringLiteral("v17.9.1"),
-                                                     CLITool(CLITool::codex).minimumNodeMajorVersion())
-                     .meetsRequirement);
+    const auto meets = [](const char* version, CLITool tool) {
+        return SystemDetector::evaluateNodeVersion(QString::fromLatin1(version), tool.minimumNodeMajorVersion())
+            .meetsRequirement;
+    };
+    EXPECT_FALSE(meets("v19.9.0", CLITool::geminiCLI));
+    EXPECT_TRUE(meets("v20.0.0", CLITool::geminiCLI));
+    EXPECT_TRUE(meets("v19.9.0", CLITool::codex));
+    EXPECT_FALSE(meets("v17.9.1", CLITool::codex));
     // No tool goes below the floor of 18.
     for (const CLITool& tool : CLITool::allCases())
         EXPECT_GE(tool.minimumNodeMajorVersion(), SystemDetector::minimumNodeMajorVersion);
