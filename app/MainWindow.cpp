@@ -1,10 +1,14 @@
 #include "MainWindow.h"
 
+#include "AboutDialog.h"
+#include "HomeView.h"
 #include "InstallationState.h"
 #include "Services.h"
 #include "Theme.h"
 
+#include <QAction>
 #include <QGuiApplication>
+#include <QMenuBar>
 #include <QScreen>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -26,8 +30,21 @@ MainWindow::MainWindow(InstallationState& state, Services& services, ScreenFacto
 
     if (!factory) {
         factory = [this](InstallationStep step, InstallationState& shared) {
-            return makeScreen(step, shared, m_services, m_installation);
+            QWidget* screen = makeScreen(step, shared, m_services, m_installation);
+            if (auto* home = qobject_cast<HomeView*>(screen))
+                connect(home, &HomeView::aboutRequested, this, &MainWindow::showAbout);
+            return screen;
         };
+    }
+    if (services.platform.hasApplicationMenu()) {
+        // The system's application menu holds "About Quillforge"; the bar itself is never
+        // drawn in the window.
+        auto* menuBar = new QMenuBar(nullptr);
+        auto* about = new QAction(tr("About Quillforge"), menuBar);
+        about->setMenuRole(QAction::AboutRole);
+        connect(about, &QAction::triggered, this, &MainWindow::showAbout);
+        menuBar->addMenu(tr("Help"))->addAction(about);
+        connect(this, &QObject::destroyed, menuBar, &QObject::deleteLater);
     }
     m_content = new ContentView(state, std::move(factory), this);
     auto* layout = new QVBoxLayout(this);
@@ -43,6 +60,26 @@ void MainWindow::showEvent(QShowEvent* event)
         // Runs once the window exists on screen.
         QTimer::singleShot(0, this, &MainWindow::configure);
     }
+}
+
+void MainWindow::bringToFront()
+{
+    if (isMinimized())
+        setWindowState((windowState() & ~Qt::WindowMinimized) | Qt::WindowActive);
+    show();
+    raise();
+    activateWindow();
+}
+
+void MainWindow::showAbout()
+{
+    if (!m_about) {
+        m_about = new AboutDialog(m_services.platform, this);
+        m_about->setAttribute(Qt::WA_DeleteOnClose);
+    }
+    m_about->open();
+    m_about->raise();
+    m_about->activateWindow();
 }
 
 void MainWindow::configure()

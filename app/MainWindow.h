@@ -3,6 +3,8 @@
 #include "ContentView.h"
 #include "InstallationController.h"
 
+#include <QDialog>
+#include <QPointer>
 #include <QWidget>
 
 namespace qf {
@@ -23,6 +25,12 @@ public:
     InstallationController& installationController() { return m_installation; }
     bool isConfigured() const { return m_configured; }
 
+    // Shows the window in front of the others, unminimised, with the keyboard focus.
+    void bringToFront();
+    // "About Quillforge", over the window; one at a time.
+    void showAbout();
+    QDialog* aboutDialog() const { return m_about; }
+
     static constexpr int minimumWidth = 550;
     static constexpr int minimumHeight = 450;
 
@@ -37,6 +45,7 @@ private:
     InstallationController m_installation;
     ContentView* m_content;
     bool m_configured = false;
+    QPointer<QDialog> m_about;
 };
 
 // The screen of each step, built fresh each time the step is entered.

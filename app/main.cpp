@@ -1,19 +1,40 @@
+#include "CommandLine.h"
 #include "InstallationState.h"
 #include "MainWindow.h"
 #include "Services.h"
+#include "SingleInstance.h"
 #include "StartupProbe.h"
 #include "Theme.h"
 
 #include <QApplication>
+#include <QIcon>
+
+#include <cstdio>
 
 int main(int argc, char* argv[])
 {
+    // `--version` and `--help` are answered without a window, and without a display.
+    if (const std::optional<int> status = qf::answerCommandLine(argc, argv))
+        return *status;
+
+    qf::describeApplication();
     QApplication app(argc, argv);
-    QCoreApplication::setOrganizationName(QStringLiteral("Quillforge"));
-    QCoreApplication::setOrganizationDomain(QStringLiteral("quillforge.app"));
-    QCoreApplication::setApplicationName(QStringLiteral("Quillforge"));
-    QGuiApplication::setApplicationDisplayName(QStringLiteral("Quillforge"));
-    QGuiApplication::setDesktopFileName(QStringLiteral("app.quillforge.Quillforge"));
+    if (const QString problem = qf::commandLineProblem(QCoreApplication::arguments()); !problem.isEmpty()) {
+        std::fprintf(stderr, "%s\n", qUtf8Printable(problem));
+        return 1;
+    }
+
+    // One window per user: a second launch brings the first one to the front instead.
+    qf::SingleInstance instance(qf::SingleInstance::defaultDirectory());
+    switch (instance.claim()) {
+    case qf::SingleInstance::Role::handedOver: return 0;
+    case qf::SingleInstance::Role::unanswered:
+        std::fprintf(stderr, "Quillforge is already running but does not answer. Quit it and open Quillforge again.\n");
+        return 1;
+    case qf::SingleInstance::Role::first:
+    case qf::SingleInstance::Role::unguarded: break;
+    }
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/images/QuillforgeLogo.svg")));
 
     // The one set of services of this run: every screen and controller gets it from here.
     const std::unique_ptr<qf::Platform> platform = qf::createNativePlatform();
@@ -22,6 +43,8 @@ int main(int argc, char* argv[])
 
     qf::InstallationState state;
     qf::MainWindow window(state, services);
+    QObject::connect(&instance, &qf::SingleInstance::activationRequested, &window,
+                     [&window] { window.bringToFront(); });
     qf::reportFirstFrameIfRequested(&window);
     window.show();
     return app.exec();

@@ -9,6 +9,7 @@
 #include "UninstallSheets.h"
 
 #include "ActivityIndicator.h"
+#include "Button.h"
 #include "ImageView.h"
 #include "Label.h"
 #include "Layout.h"
@@ -60,6 +61,19 @@ HomeView::HomeView(InstallationState& state, Services& services, QWidget* parent
     // Header: the logo and name, and what this screen is.
     auto* header = vstack(8, QMargins(0, 20, 0, 0));
     auto* brand = hstack(10);
+    // Where the system has no application menu, "About Quillforge" sits at the header's end;
+    // a space as wide on the other side keeps the name centred.
+    Button* about = nullptr;
+    if (!services.platform.hasApplicationMenu()) {
+        about = new Button(QString(), Button::Style::borderless);
+        about->setObjectName(QStringLiteral("aboutButton"));
+        about->setAccessibleName(tr("About Quillforge"));
+        about->setToolTip(tr("About Quillforge"));
+        about->setLeadingSymbol(QStringLiteral("info.circle"), 16);
+        about->setContentTint(Tint(Role::secondary));
+        connect(about, &QAbstractButton::clicked, this, &HomeView::aboutRequested);
+        brand->addSpacing(about->sizeHint().width());
+    }
     brand->addStretch(1);
     auto* logo = new ImageView(QStringLiteral("QuillforgeLogo"), 36);
     logo->setAccessibleName(tr("Quillforge"));
@@ -68,6 +82,8 @@ HomeView::HomeView(InstallationState& state, Services& services, QWidget* parent
     name->setObjectName(QStringLiteral("homeTitle"));
     brand->addWidget(name, 0, Qt::AlignVCenter);
     brand->addStretch(1);
+    if (about)
+        brand->addWidget(about, 0, Qt::AlignTop);
     header->addLayout(brand);
     auto* subtitle = new Label(tr("Your AI Coding Assistants"), Theme::font(13, QFont::Medium, FontDesign::rounded),
                                Tint(Role::secondary));
@@ -235,7 +251,7 @@ void HomeView::renderSheets()
 {
     // A sheet shows while its field holds an item; closing it, by any means, clears the field.
     const auto present = [this](RemovalSheet* sheet, auto& field) {
-        connect(sheet, &QDialog::finished, this, [this, sheet, &field] {
+        connect(sheet, &QDialog::finished, this, [sheet, &field] {
             field.reset();
             sheet->deleteLater();
         });

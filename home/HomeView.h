@@ -50,6 +50,8 @@ public:
 Q_SIGNALS:
     // The newest load's results are on screen.
     void loadFinished();
+    // "About Quillforge" was pressed (on systems whose application menu does not hold it).
+    void aboutRequested();
 
 protected:
     void showEvent(QShowEvent* event) override;

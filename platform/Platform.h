@@ -105,6 +105,9 @@ public:
     // How a sheet of the main window is made: on macOS a real sheet, elsewhere a dialog
     // window in front of the main window. Either way it is window-modal.
     virtual Qt::WindowFlags sheetWindowFlags() const { return Qt::Dialog; }
+    // Whether the system shows the application's own menu (with "About Quillforge") outside the
+    // window, as macOS does; elsewhere the window offers the about information itself.
+    virtual bool hasApplicationMenu() const { return false; }
 
     virtual OperatingSystemCheck checkOperatingSystem() const = 0;
     // Free space on the volume that holds `path`.

@@ -16,6 +16,7 @@ public:
     ApplicationLook applicationLook() const override;
     void configureMainWindow(QWidget* window) override;
     Qt::WindowFlags sheetWindowFlags() const override { return Qt::Sheet; }
+    bool hasApplicationMenu() const override { return true; }
     OperatingSystemCheck checkOperatingSystem() const override;
     // As Finder shows it, purgeable space included.
     DiskSpace availableDiskSpace(const QString& path) const override;

@@ -55,6 +55,7 @@ const QHash<QString, SymbolSource>& catalogue()
         {QStringLiteral("lightbulb.fill"), {"lightbulb-fill"}},
         {QStringLiteral("mug"), {"coffee", "coffee-bold"}},
         {QStringLiteral("person.circle.fill"), {"user-circle-fill"}},
+        {QStringLiteral("info.circle"), {"info", "info-bold"}},
         {QStringLiteral("questionmark.circle"), {"question", "question-bold"}},
         {QStringLiteral("questionmark.circle.fill"), {"question-fill"}},
         {QStringLiteral("server.rack"), {"hard-drives", "hard-drives-bold"}},

@@ -14,6 +14,8 @@
 #include "SetupModel.h"
 #include "SystemTool.h"
 
+#include "QuillforgeVersion.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -124,6 +126,9 @@ void printHeader(Services& services)
 {
     printLine(QStringLiteral("Quillforge support probe"));
     printLine(QStringLiteral("========================"));
+    printField(QStringLiteral("Version"),
+               QStringLiteral("Quillforge %1 (Qt %2)")
+                   .arg(QString::fromLatin1(release::version), QString::fromLatin1(qVersion())));
 
     const RequirementStatus os = services.detector.checkOperatingSystem();
     printField(QStringLiteral("Operating system"),
@@ -347,6 +352,14 @@ int main(int argc, char* argv[])
 {
     QCoreApplication app(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("quillforge-probe"));
+    for (const QString& argument : QCoreApplication::arguments().mid(1)) {
+        if (argument == QStringLiteral("--version") || argument == QStringLiteral("-v")) {
+            std::printf("quillforge-probe %s\n", release::version);
+            return 0;
+        }
+        std::printf("Usage: quillforge-probe\nPrints what Quillforge finds on this computer and changes nothing.\n");
+        return argument == QStringLiteral("--help") || argument == QStringLiteral("-h") ? 0 : 1;
+    }
 
     const std::unique_ptr<Platform> platform = createNativePlatform();
     Services services(*platform);

@@ -44,6 +44,7 @@ public:
             outcome(opened);
     }
     QString terminalDescription() const override { return QStringLiteral("fake terminal"); }
+    bool hasApplicationMenu() const override { return applicationMenu; }
     void revealFolder(const QString& path) override { revealed.append(path); }
     void openURL(const QUrl& url) override { openedURLs.append(url); }
     DeveloperToolsItem developerToolsItem() const override { return developerTools; }
@@ -73,6 +74,8 @@ public:
     // Whether a terminal window opens; whether the answer waits for `releaseTerminalOutcomes`.
     bool terminalOpens = true;
     bool holdTerminalOutcomes = false;
+    // Whether "About Quillforge" lives in a menu of the system's, as on macOS.
+    bool applicationMenu = false;
 
     int windowsConfigured = 0;
     int installersStarted = 0;

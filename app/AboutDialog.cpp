@@ -1,0 +1,84 @@
+#include "AboutDialog.h"
+
+#include "CommandLine.h"
+#include "Platform.h"
+#include "QuillforgeVersion.h"
+#include "SharedComponents.h"
+
+#include "Button.h"
+#include "ImageView.h"
+#include "Label.h"
+#include "Layout.h"
+
+#include <QUrl>
+
+namespace qf {
+
+using namespace ui;
+
+AboutDialog::AboutDialog(Platform& platform, QWidget* parent)
+    : QDialog(parent, platform.sheetWindowFlags()),
+      m_details(QStringLiteral("%1, %2").arg(qf::versionDetails(), platform.checkOperatingSystem().details))
+{
+    setObjectName(QStringLiteral("aboutDialog"));
+    setWindowModality(Qt::WindowModal);
+    setWindowTitle(tr("About Quillforge"));
+    setFixedWidth(380);
+
+    auto* column = vstack(this, 6, QMargins(32, 28, 32, 24));
+    auto* logo = new ImageView(QStringLiteral("QuillforgeLogo"), 72);
+    logo->setAccessibleName(tr("Quillforge"));
+    column->addWidget(logo, 0, Qt::AlignHCenter);
+    column->addSpacing(6);
+
+    auto* name = new Label(tr("Quillforge"), Theme::font(20, QFont::Bold, FontDesign::rounded));
+    name->setObjectName(QStringLiteral("aboutName"));
+    column->addWidget(name, 0, Qt::AlignHCenter);
+    auto* version = new Label(tr("Version %1").arg(QString::fromLatin1(release::version)), Theme::callout(),
+                              Tint(Role::secondary));
+    version->setObjectName(QStringLiteral("aboutVersion"));
+    version->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    column->addWidget(version, 0, Qt::AlignHCenter);
+    column->addSpacing(8);
+
+    auto* summary = new Label(tr("Gets an AI coding assistant running on your computer, no terminal experience "
+                                 "needed."),
+                              Theme::body());
+    summary->setWrapping(true);
+    summary->setAlignment(Qt::AlignHCenter);
+    column->addWidget(summary);
+
+    auto* website = new Button(QStringLiteral("quillforge.app"), Button::Style::link);
+    website->setObjectName(QStringLiteral("aboutWebsite"));
+    website->setAccessibleName(tr("Open the Quillforge website"));
+    // The platform outlives every window of the application.
+    connect(website, &QAbstractButton::clicked, this,
+            [&platform] { platform.openURL(QUrl(QString::fromLatin1(release::homepage))); });
+    column->addWidget(website, 0, Qt::AlignHCenter);
+    column->addSpacing(6);
+
+    auto* credits = new Label(
+        tr("Built with Qt %1. Icons from Phosphor, under the MIT licence.").arg(QString::fromLatin1(qVersion())),
+        Theme::caption(), Tint(Role::secondary));
+    credits->setObjectName(QStringLiteral("aboutCredits"));
+    credits->setWrapping(true);
+    credits->setAlignment(Qt::AlignHCenter);
+    column->addWidget(credits);
+    column->addSpacing(14);
+
+    auto* buttons = hstack(10);
+    auto* copy = new CopyButton(m_details, CopyButton::CopyButtonStyle::bordered);
+    copy->setObjectName(QStringLiteral("aboutCopyDetails"));
+    copy->setTitle(tr("Copy Version Details"));
+    copy->setAccessibleName(tr("Copy Version Details"));
+    buttons->addWidget(copy);
+    buttons->addStretch(1);
+    auto* close = new Button(tr("Close"), Button::Style::prominent);
+    close->setObjectName(QStringLiteral("aboutClose"));
+    connect(close, &QAbstractButton::clicked, this, &QDialog::accept);
+    buttons->addWidget(close);
+    column->addLayout(buttons);
+    close->setFocus();
+}
+
+} // namespace qf

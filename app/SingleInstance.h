@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QLockFile>
+#include <QObject>
+#include <QString>
+
+#include <memory>
+
+class QLocalServer;
+
+namespace qf {
+
+// Keeps one copy of Quillforge per user: two copies would race on the shell profile and on
+// npm. The first copy holds a lock in a private folder of the user's and listens beside it; a
+// later copy finds the lock held, asks the first one to come to the front and steps aside. A
+// lock left by a copy that crashed belongs to no running process and is taken over.
+class SingleInstance : public QObject {
+    Q_OBJECT
+
+public:
+    enum class Role {
+        first,      // this copy runs the window and answers later launches
+        handedOver, // a running copy was asked to come to the front: this one exits
+        unanswered, // a running copy holds the lock but did not answer
+        unguarded,  // the lock could not be made at all (an unwritable folder): run anyway
+    };
+
+    // `directory` holds the lock and the socket; it is made when missing.
+    explicit SingleInstance(QString directory, QObject* parent = nullptr);
+    ~SingleInstance() override;
+
+    // The user's private folder for it: the per-user runtime folder.
+    static QString defaultDirectory();
+
+    // Decides this copy's role; waits at most a few seconds, for a copy that is just starting.
+    Role claim();
+
+    QString lockPath() const;
+    QString socketPath() const;
+
+Q_SIGNALS:
+    // Another launch asked for the window.
+    void activationRequested();
+
+private:
+    bool listen();
+    bool askRunningCopy() const;
+
+    QString m_directory;
+    std::unique_ptr<QLockFile> m_lock;
+    QLocalServer* m_server = nullptr;
+};
+
+} // namespace qf

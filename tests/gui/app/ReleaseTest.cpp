@@ -1,0 +1,253 @@
+#include "AboutDialog.h"
+#include "CommandLine.h"
+#include "FakePlatform.h"
+#include "InstallationState.h"
+#include "MainWindow.h"
+#include "Preferences.h"
+#include "QuillforgeVersion.h"
+#include "Services.h"
+#include "TestSupport.h"
+
+#include <QAbstractButton>
+#include <QBuffer>
+#include <QClipboard>
+#include <QFile>
+#include <QImage>
+#include <QLabel>
+#include <QMap>
+#include <QProcess>
+#include <QSettings>
+#include <QXmlStreamReader>
+#include <QtEndian>
+
+using namespace qf;
+
+namespace {
+
+const QString version = QString::fromLatin1(release::version);
+
+QByteArray readFile(const QString& path)
+{
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
+    return file.readAll();
+}
+
+// A property list's top-level dictionary: each key with its string value, "true"/"false"
+// for Booleans.
+QMap<QString, QString> readPropertyList(const QString& path)
+{
+    QMap<QString, QString> entries;
+    QXmlStreamReader xml(readFile(path));
+    QString key;
+    while (!xml.atEnd()) {
+        if (xml.readNext() != QXmlStreamReader::StartElement)
+            continue;
+        const auto name = xml.name();
+        if (name == QLatin1String("plist") || name == QLatin1String("dict"))
+            continue;
+        if (name == QLatin1String("key")) {
+            key = xml.readElementText();
+        } else if (name == QLatin1String("true") || name == QLatin1String("false")) {
+            entries.insert(key, name.toString());
+        } else {
+            entries.insert(key, xml.readElementText());
+        }
+    }
+    EXPECT_FALSE(xml.hasError()) << path.toStdString() << ": " << xml.errorString().toStdString();
+    return entries;
+}
+
+struct AppRun {
+    int exitCode = -1;
+    QString output;
+    QString errors;
+};
+
+// The built application, started with `arguments` and no display at all.
+AppRun runApp(const QStringList& arguments, bool withOffscreenDisplay = false)
+{
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+        environment.remove(QString::fromLatin1(name));
+    if (withOffscreenDisplay)
+        environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+    process.setProcessEnvironment(environment);
+    process.start(QStringLiteral(QF_APP_BINARY), arguments);
+    EXPECT_TRUE(process.waitForFinished(20000));
+    return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
+            QString::fromUtf8(process.readAllStandardOutput()), QString::fromUtf8(process.readAllStandardError())};
+}
+
+} // namespace
+
+TEST(Release, TheOneVersionReachesEveryPlaceItIsShown)
+{
+    ASSERT_FALSE(version.isEmpty());
+    const QString generated = QStringLiteral(QF_GENERATED_DIR);
+
+    // `quillforge --version`, and what a person copies from the about window for support.
+    EXPECT_EQ(runApp({QStringLiteral("--version")}).output, QStringLiteral("Quillforge %1\n").arg(version));
+    EXPECT_TRUE(versionDetails().startsWith(QStringLiteral("Quillforge %1 (Qt ").arg(version)));
+    test::FakePlatform platform;
+    platform.osCheck.details = QStringLiteral("Debian GNU/Linux 12 (bookworm)");
+    AboutDialog about(platform);
+    EXPECT_EQ(test::child<QLabel>(&about, QStringLiteral("aboutVersion"))->text(),
+              QStringLiteral("Version %1").arg(version));
+    EXPECT_TRUE(about.versionDetails().endsWith(QStringLiteral(", Debian GNU/Linux 12 (bookworm)")));
+
+    // The bundle's Info.plist, the AppStream release, the manual pages and the package changelog.
+    const auto plist = readPropertyList(generated + QStringLiteral("/Info.plist"));
+    EXPECT_EQ(plist.value(QStringLiteral("CFBundleShortVersionString")), version);
+    EXPECT_EQ(plist.value(QStringLiteral("CFBundleVersion")), version);
+    const QString metainfo =
+        QString::fromUtf8(readFile(generated + QStringLiteral("/app.quillforge.Quillforge.metainfo.xml")));
+    EXPECT_TRUE(metainfo.contains(
+        QStringLiteral("<release version=\"%1\" date=\"%2\">").arg(version, QString::fromLatin1(release::date))));
+    for (const char* page : {"/quillforge.1", "/quillforge-probe.1"})
+        EXPECT_TRUE(readFile(generated + QString::fromLatin1(page))
+                        .contains(QByteArray("\"Quillforge " + QByteArray(release::version) + '"')));
+    EXPECT_TRUE(readFile(generated + QStringLiteral("/changelog"))
+                    .startsWith(QByteArray("quillforge (" + QByteArray(release::version) + ')')));
+
+    // Nothing was left for a later substitution to fill in.
+    for (const QString& file :
+         {QStringLiteral("/Info.plist"), QStringLiteral("/app.quillforge.Quillforge.metainfo.xml")}) {
+        const QByteArray text = readFile(generated + file);
+        EXPECT_FALSE(text.contains('@') || text.contains("${")) << file.toStdString();
+    }
+}
+
+TEST(Release, VersionAndHelpAnswerWithoutAWindowAndUnknownOptionsAreRefused)
+{
+    // No display is set: a launch that tried to open a window could not even start.
+    const AppRun help = runApp({QStringLiteral("--help")});
+    EXPECT_EQ(help.exitCode, 0);
+    for (const char* option : {"--help", "--version"})
+        EXPECT_TRUE(help.output.contains(QString::fromLatin1(option))) << help.output.toStdString();
+    EXPECT_TRUE(help.output.contains(QStringLiteral("Claude Code, Gemini CLI or Codex")));
+
+    const AppRun shortForm = runApp({QStringLiteral("-v")});
+    EXPECT_EQ(shortForm.exitCode, 0);
+    EXPECT_EQ(shortForm.output, QStringLiteral("Quillforge %1\n").arg(version));
+
+    const AppRun unknown = runApp({QStringLiteral("--frobnicate")}, true);
+    EXPECT_EQ(unknown.exitCode, 1);
+    EXPECT_TRUE(unknown.errors.contains(QStringLiteral("frobnicate"))) << unknown.errors.toStdString();
+    EXPECT_TRUE(unknown.errors.contains(QStringLiteral("quillforge --help")));
+    EXPECT_FALSE(commandLineProblem({QStringLiteral("quillforge"), QStringLiteral("notes.txt")}).isEmpty());
+    EXPECT_TRUE(commandLineProblem({QStringLiteral("quillforge")}).isEmpty());
+}
+
+TEST(Release, TheMacBundleDescribesItselfCompletely)
+{
+    const auto plist = readPropertyList(QStringLiteral(QF_GENERATED_DIR "/Info.plist"));
+    EXPECT_EQ(plist.value(QStringLiteral("CFBundleIdentifier")), QString::fromLatin1(release::applicationId));
+    EXPECT_EQ(plist.value(QStringLiteral("CFBundleExecutable")), QStringLiteral("Quillforge"));
+    EXPECT_EQ(plist.value(QStringLiteral("CFBundleName")), QStringLiteral("Quillforge"));
+    EXPECT_EQ(plist.value(QStringLiteral("CFBundlePackageType")), QStringLiteral("APPL"));
+    EXPECT_EQ(plist.value(QStringLiteral("CFBundleIconFile")), QStringLiteral("Quillforge.icns"));
+    EXPECT_EQ(plist.value(QStringLiteral("LSMinimumSystemVersion")), QStringLiteral("14.0"));
+    EXPECT_EQ(plist.value(QStringLiteral("LSApplicationCategoryType")),
+              QStringLiteral("public.app-category.developer-tools"));
+    EXPECT_EQ(plist.value(QStringLiteral("NSHighResolutionCapable")), QStringLiteral("true"));
+    // Without this text macOS refuses the Apple events that open Terminal.
+    const QString why = plist.value(QStringLiteral("NSAppleEventsUsageDescription"));
+    EXPECT_TRUE(why.contains(QStringLiteral("Terminal")) && why.contains(QStringLiteral("System Events")))
+        << why.toStdString();
+
+    // The hardened runtime gets exactly one exception: sending Apple events.
+    const auto entitlements =
+        readPropertyList(QStringLiteral(QF_SOURCE_DIR "/resources/macos/Quillforge.entitlements"));
+    EXPECT_EQ(entitlements.keys(), QStringList{QStringLiteral("com.apple.security.automation.apple-events")});
+    EXPECT_EQ(entitlements.value(QStringLiteral("com.apple.security.automation.apple-events")), QStringLiteral("true"));
+}
+
+TEST(Release, TheIconsHaveEverySizeTheyClaim)
+{
+    const QString icons = QStringLiteral(QF_ICON_DIR);
+    for (const int size : {16, 22, 24, 32, 48, 64, 128, 256, 512}) {
+        const QImage png(QStringLiteral("%1/hicolor/%2x%2/apps/app.quillforge.Quillforge.png").arg(icons).arg(size));
+        EXPECT_EQ(png.size(), QSize(size, size));
+        EXPECT_TRUE(test::hasVisiblePixels(png));
+    }
+
+    // The .icns: a header with the whole length, then typed PNG images of Apple's sizes.
+    const QByteArray icns = readFile(icons + QStringLiteral("/Quillforge.icns"));
+    ASSERT_GT(icns.size(), 8);
+    EXPECT_EQ(icns.left(4), QByteArray("icns"));
+    EXPECT_EQ(qFromBigEndian<quint32>(icns.constData() + 4), quint32(icns.size()));
+    const QMap<QByteArray, int> expected = {{"icp4", 16},  {"icp5", 32},  {"icp6", 64},   {"ic07", 128},
+                                            {"ic08", 256}, {"ic09", 512}, {"ic10", 1024}, {"ic11", 32},
+                                            {"ic12", 64},  {"ic13", 256}, {"ic14", 512}};
+    QMap<QByteArray, int> found;
+    for (qsizetype offset = 8; offset + 8 <= icns.size();) {
+        const QByteArray type = icns.mid(offset, 4);
+        const quint32 length = qFromBigEndian<quint32>(icns.constData() + offset + 4);
+        ASSERT_GE(length, 8u);
+        ASSERT_LE(offset + qsizetype(length), icns.size());
+        const QImage image = QImage::fromData(icns.mid(offset + 8, length - 8), "PNG");
+        found.insert(type, image.width());
+        EXPECT_EQ(image.width(), image.height()) << type.toStdString();
+        offset += length;
+    }
+    EXPECT_EQ(found, expected);
+
+    // The desktop entry names the icon and the program the package installs.
+    const QString entry =
+        QString::fromUtf8(readFile(QStringLiteral(QF_SOURCE_DIR "/resources/linux/app.quillforge.Quillforge.desktop")));
+    EXPECT_TRUE(entry.contains(QStringLiteral("\nExec=quillforge\n")));
+    EXPECT_TRUE(entry.contains(QStringLiteral("\nIcon=app.quillforge.Quillforge\n")));
+}
+
+TEST(Release, TheDashboardOpensTheAboutWindowWhereTheSystemHasNoApplicationMenu)
+{
+    test::clearPreferences();
+    Preferences::setHasCompletedOnboarding(true);
+    test::FakePlatform platform;
+    Services services(platform);
+    InstallationState state;
+    MainWindow window(state, services);
+    window.show();
+
+    auto* about = test::child<QAbstractButton>(window.contentView(), QStringLiteral("aboutButton"));
+    ASSERT_NE(about, nullptr);
+    EXPECT_EQ(about->accessibleName(), QStringLiteral("About Quillforge"));
+    about->click();
+    about->click(); // one window, however often it is asked for
+    ASSERT_NE(window.aboutDialog(), nullptr);
+    EXPECT_EQ(window.findChildren<AboutDialog*>().size(), 1);
+    EXPECT_TRUE(window.aboutDialog()->isVisible());
+    EXPECT_TRUE(window.aboutDialog()->isModal() || window.aboutDialog()->windowModality() == Qt::WindowModal);
+
+    test::child<QAbstractButton>(window.aboutDialog(), QStringLiteral("aboutCopyDetails"))->click();
+    EXPECT_TRUE(QGuiApplication::clipboard()->text().startsWith(QStringLiteral("Quillforge %1").arg(version)));
+    test::child<QAbstractButton>(window.aboutDialog(), QStringLiteral("aboutWebsite"))->click();
+    EXPECT_EQ(platform.openedURLs.value(0), QUrl(QStringLiteral("https://quillforge.app")));
+    test::child<QAbstractButton>(window.aboutDialog(), QStringLiteral("aboutClose"))->click();
+    test::settle();
+    EXPECT_EQ(window.aboutDialog(), nullptr);
+
+    // A Mac keeps it in the application menu, so the dashboard shows no button for it.
+    test::FakePlatform mac;
+    mac.applicationMenu = true;
+    Services macServices(mac);
+    InstallationState macState;
+    MainWindow macWindow(macState, macServices);
+    EXPECT_EQ(macWindow.contentView()->findChild<QWidget*>(QStringLiteral("aboutButton")), nullptr);
+}
+
+TEST(Release, BringingToFrontRestoresAMinimisedWindow)
+{
+    test::clearPreferences();
+    test::FakePlatform platform;
+    Services services(platform);
+    InstallationState state;
+    MainWindow window(state, services);
+    window.showMinimized();
+    test::settle();
+    window.bringToFront();
+    EXPECT_FALSE(window.isMinimized());
+    EXPECT_TRUE(window.isVisible());
+}
