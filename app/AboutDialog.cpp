@@ -10,6 +10,7 @@
 #include "Label.h"
 #include "Layout.h"
 
+#include <QLayout>
 #include <QUrl>
 
 namespace qf {
@@ -79,6 +80,9 @@ AboutDialog::AboutDialog(Platform& platform, QWidget* parent)
     buttons->addWidget(close);
     column->addLayout(buttons);
     close->setFocus();
+    // Fixed in both directions: nothing in it grows.
+    const int height = layout()->hasHeightForWidth() ? layout()->heightForWidth(width()) : sizeHint().height();
+    setFixedHeight(height);
 }
 
 } // namespace qf

@@ -31,7 +31,7 @@ foreach(name quillforge.1 quillforge-probe.1 changelog)
 endforeach()
 add_custom_target(quillforge_docs ALL DEPENDS ${compressed})
 install(FILES ${generated}/quillforge.1.gz ${generated}/quillforge-probe.1.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
-install(FILES ${generated}/changelog.gz resources/linux/copyright DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(FILES ${generated}/changelog.gz resources/linux/copyright DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/quillforge)
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME quillforge)
@@ -45,12 +45,13 @@ set(CPACK_DEBIAN_PACKAGE_SECTION devel)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_HOMEPAGE ${PROJECT_HOMEPAGE_URL})
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
-# The shared libraries the programs link come from dpkg-shlibdeps; what Quillforge runs or
-# loads without linking it is named here: Qt's platform plugins (no window without them), the
-# shell its commands run in, curl for downloads; git is offered but installed from the window.
+# The shared libraries the programs link come from dpkg-shlibdeps (Qt's X11 platform plug-in
+# comes with libqt6gui6); what Quillforge runs without linking it is named here: the shell its
+# commands run in and curl for downloads. git is offered but can be installed from the window;
+# the Wayland plug-in lets it run without XWayland.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-set(CPACK_DEBIAN_PACKAGE_DEPENDS "qt6-qpa-plugins, zsh, curl")
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "git, fonts-inter")
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "zsh, curl")
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "git, fonts-inter, qt6-wayland")
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION "set up AI coding assistants without using a terminal
 Quillforge gets an AI coding assistant (Claude Code, Gemini CLI or Codex)
 running on the computer of someone who has never opened a terminal. It

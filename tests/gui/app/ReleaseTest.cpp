@@ -251,3 +251,50 @@ TEST(Release, BringingToFrontRestoresAMinimisedWindow)
     EXPECT_FALSE(window.isMinimized());
     EXPECT_TRUE(window.isVisible());
 }
+
+TEST(Release, TheMacPackageStepsSignNotariseOnlyWithCredentialsAndMakeADiskImage)
+{
+    const auto dryRun = [](const QStringList& environment) {
+        QProcess process;
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        for (const char* name : {"QUILLFORGE_SIGN_IDENTITY", "QUILLFORGE_NOTARY_PROFILE", "APPLE_ID", "APPLE_TEAM_ID",
+                                 "APPLE_APP_PASSWORD"})
+            env.remove(QString::fromLatin1(name));
+        for (const QString& assignment : environment)
+            env.insert(assignment.section(QLatin1Char('='), 0, 0), assignment.section(QLatin1Char('='), 1));
+        process.setProcessEnvironment(env);
+        process.start(QStringLiteral("bash"), {QStringLiteral(QF_SOURCE_DIR "/scripts/package"),
+                                               QStringLiteral("--dry-run"), QStringLiteral("--macos")});
+        EXPECT_TRUE(process.waitForFinished(20000));
+        EXPECT_EQ(process.exitCode(), 0) << process.readAllStandardError().toStdString();
+        return QString::fromUtf8(process.readAllStandardOutput());
+    };
+    const QString entitled = QStringLiteral("--options runtime --entitlements resources/macos/Quillforge.entitlements");
+
+    // Without credentials: built, bundled with Qt, signed ad hoc with the hardened runtime, not
+    // notarised, and put on a disk image, each said plainly.
+    const QString plain = dryRun({});
+    for (const QString& step :
+         {QStringLiteral("+ cmake --preset package"), QStringLiteral("+ macdeployqt build/package/root/Quillforge.app"),
+          QStringLiteral("%1 --sign - build/package/root/Quillforge.app").arg(entitled),
+          QStringLiteral("Notarisation skipped"),
+          QStringLiteral("+ hdiutil create -volname Quillforge -srcfolder build/package/dmg"),
+          QStringLiteral("Package: build/package/Quillforge-%1.dmg").arg(version)})
+        EXPECT_TRUE(plain.contains(step)) << step.toStdString() << "\n" << plain.toStdString();
+    EXPECT_FALSE(plain.contains(QStringLiteral("notarytool")));
+
+    // With a Developer ID and a notary profile: signed with it, notarised and stapled, app and image.
+    const QString full = dryRun({QStringLiteral("QUILLFORGE_SIGN_IDENTITY=Developer ID Application: Quillforge"),
+                                 QStringLiteral("QUILLFORGE_NOTARY_PROFILE=quillforge")});
+    EXPECT_TRUE(
+        full.contains(QStringLiteral("%1 --sign Developer ID Application: Quillforge build/package/root/Quillforge.app")
+                          .arg(entitled)));
+    EXPECT_EQ(full.count(QStringLiteral("+ xcrun notarytool submit")), 2);
+    EXPECT_TRUE(full.contains(QStringLiteral("+ xcrun stapler staple build/package/root/Quillforge.app")));
+    EXPECT_TRUE(full.contains(QStringLiteral("+ xcrun stapler staple build/package/Quillforge-%1.dmg").arg(version)));
+    EXPECT_FALSE(full.contains(QStringLiteral("skipped")));
+
+    // Credentials without a Developer ID cannot notarise: it says so instead of failing at Apple.
+    EXPECT_TRUE(dryRun({QStringLiteral("QUILLFORGE_NOTARY_PROFILE=quillforge")})
+                    .contains(QStringLiteral("Notarisation needs a Developer ID signature")));
+}
