@@ -4,12 +4,16 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QRegularExpression>
+#include <QLocale>
 
 #include <cerrno>
+#include <chrono>
 #include <cstring>
+#include <functional>
+#include <thread>
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -17,30 +21,40 @@ namespace qf {
 
 namespace {
 
-QString systemError(int error) { return QString::fromLocal8Bit(std::strerror(error)); }
+// Why a profile could not be changed: the system's error code, or one of these.
+constexpr int notAnOrdinaryFile = -1;
+constexpr int anotherWriterBusy = -2;
+
+QString reasonText(int error)
+{
+    if (error == notAnOrdinaryFile)
+        return ProfileWriter::tr("it is not an ordinary file");
+    if (error == anotherWriterBusy)
+        return ProfileWriter::tr("another change to it did not finish; try again");
+    return QString::fromLocal8Bit(std::strerror(error));
+}
 
 ServiceError saveFailed(const QString& path, int error)
 {
     return ServiceError::message(
-        ProfileWriter::tr("Could not save the API key to %1: %2").arg(path, systemError(error)));
+        ProfileWriter::tr("Could not save the API key to %1: %2").arg(path, reasonText(error)));
 }
 
-// Writes all of `bytes` to `fd` at its current offset; false with errno set when it could not.
-bool writeAll(int fd, const QByteArray& bytes)
+// Writes all of `bytes` at `offset`; the number of bytes written before a failure, with errno set.
+qsizetype writeAllAt(int fd, const QByteArray& bytes, off_t offset)
 {
-    const char* data = bytes.constData();
-    qsizetype left = bytes.size();
-    while (left > 0) {
-        const ssize_t written = ::write(fd, data, static_cast<size_t>(left));
+    qsizetype done = 0;
+    while (done < bytes.size()) {
+        const ssize_t written = ::pwrite(fd, bytes.constData() + done, static_cast<size_t>(bytes.size() - done),
+                                         offset + done);
         if (written < 0) {
             if (errno == EINTR)
                 continue;
-            return false;
+            return done;
         }
-        data += written;
-        left -= written;
+        done += written;
     }
-    return true;
+    return done;
 }
 
 // A file descriptor closed when it goes out of scope.
@@ -65,6 +79,159 @@ public:
 private:
     int m_fd;
 };
+
+// The file a profile path names: the path itself, or where its links lead (also when the
+// file there does not exist yet).
+QString resolvedTarget(const QString& path)
+{
+    QString target = path;
+    for (int depth = 0; depth < 40 && QFileInfo(target).isSymLink(); ++depth)
+        target = QFileInfo(target).symLinkTarget();
+    return target;
+}
+
+// Holds the lock that every change of the profiles in one folder takes: an advisory lock on the
+// folder itself, which a rename inside it never replaces. Released when it goes out of scope,
+// and by the system when a process ends, so a crashed writer never blocks the next.
+class FolderLock {
+public:
+    explicit FolderLock(const QString& file)
+        : m_fd(
+              ::open(QFile::encodeName(QFileInfo(file).absolutePath()).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC))
+    {
+        // A folder that cannot be opened for reading is written to unlocked, as before.
+        if (m_fd.get() < 0)
+            return;
+        using namespace std::chrono_literals;
+        const auto deadline = std::chrono::steady_clock::now() + 10s;
+        while (::flock(m_fd.get(), LOCK_EX | LOCK_NB) != 0) {
+            if ((errno != EWOULDBLOCK && errno != EINTR) || std::chrono::steady_clock::now() > deadline) {
+                m_failed = errno == EWOULDBLOCK;
+                return;
+            }
+            // Changes take milliseconds; this runs on a worker thread.
+            std::this_thread::sleep_for(10ms);
+        }
+    }
+    bool failed() const { return m_failed; }
+
+private:
+    Descriptor m_fd;
+    bool m_failed = false;
+};
+
+// The profile as it is now: nothing when it does not exist yet. Refused (with the reason's
+// code) when it is not an ordinary file; whether its owner made it read-only.
+struct Current {
+    int error = 0;
+    std::optional<QByteArray> bytes;
+    bool readOnly = false;
+};
+
+Current readCurrent(const QString& target)
+{
+    const QByteArray name = QFile::encodeName(target);
+    struct stat status {};
+    if (::stat(name.constData(), &status) != 0)
+        return errno == ENOENT ? Current{} : Current{errno, std::nullopt};
+    if (!S_ISREG(status.st_mode))
+        return {notAnOrdinaryFile, std::nullopt};
+    // Read-only for its owner means "do not change", for root as well, and whether the folder
+    // would let a copy be renamed over it or not. Reading it is still fine.
+    const bool readOnly = (status.st_mode & S_IWUSR) == 0 ||
+                          (::geteuid() != 0 && ::access(name.constData(), W_OK) != 0);
+    Descriptor file(::open(name.constData(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK));
+    if (file.get() < 0)
+        return {errno, std::nullopt};
+    QByteArray bytes;
+    char buffer[65536];
+    for (;;) {
+        const ssize_t got = ::read(file.get(), buffer, sizeof buffer);
+        if (got < 0) {
+            if (errno == EINTR)
+                continue;
+            return {errno, std::nullopt};
+        }
+        if (got == 0)
+            break;
+        bytes.append(buffer, got);
+    }
+    return {0, bytes, readOnly};
+}
+
+// Rewrites a file that other names share where it is. When a write fails, what was there is
+// put back, so the file is as before.
+int rewriteInPlace(const QByteArray& name, const QByteArray& bytes, const QByteArray& before)
+{
+    Descriptor file(::open(name.constData(), O_WRONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK));
+    if (file.get() < 0)
+        return errno;
+    const qsizetype written = writeAllAt(file.get(), bytes, 0);
+    if (written < bytes.size() || ::ftruncate(file.get(), static_cast<off_t>(bytes.size())) != 0 ||
+        ::fsync(file.get()) != 0) {
+        const int error = errno;
+        (void)writeAllAt(file.get(), before.left(written), 0);
+        (void)::ftruncate(file.get(), static_cast<off_t>(before.size()));
+        return error;
+    }
+    return file.close() ? 0 : errno;
+}
+
+// Writes the whole new text of a profile: in one step by renaming a finished copy over it, or in
+// place for a file with several names. 0, or why it failed (the file then is as it was).
+int writeWhole(const QString& target, const QByteArray& bytes, const std::optional<QByteArray>& before)
+{
+    const QByteArray name = QFile::encodeName(target);
+    struct stat status {};
+    const bool exists = ::stat(name.constData(), &status) == 0;
+    if (exists && status.st_nlink > 1 && before)
+        return rewriteInPlace(name, bytes, *before);
+
+    const QFileInfo info(target);
+    QByteArray temporary =
+        QFile::encodeName(info.absolutePath() + QStringLiteral("/.") + info.fileName() + QStringLiteral(".XXXXXX"));
+    Descriptor copy(::mkstemp(temporary.data()));
+    if (copy.get() < 0)
+        return errno;
+    const auto abandon = [&temporary](int error) {
+        ::unlink(temporary.constData());
+        return error;
+    };
+    ::fcntl(copy.get(), F_SETFD, FD_CLOEXEC);
+    if (exists) {
+        // The same owner (when this process may say so) and the same permissions as before.
+        if (::fchown(copy.get(), status.st_uid, status.st_gid) != 0 && errno != EPERM)
+            return abandon(errno);
+        if (::fchmod(copy.get(), status.st_mode & 07777) != 0)
+            return abandon(errno);
+    }
+    // A new profile may hold a key: it is the user's alone (mkstemp made it 0600).
+    if (writeAllAt(copy.get(), bytes, 0) < bytes.size() || ::fsync(copy.get()) != 0 || !copy.close())
+        return abandon(errno);
+    if (::rename(temporary.constData(), name.constData()) != 0)
+        return abandon(errno);
+    return 0;
+}
+
+// Every change of a profile: under the folder's lock, the profile as it is now (empty when it
+// does not exist yet) goes to `edit`, whose new text (nothing: leave it as it is) is written
+// whole. 0, or why it could not be.
+int editProfile(const QString& path, const std::function<std::optional<QByteArray>(const QByteArray&)>& edit)
+{
+    const QString target = resolvedTarget(path);
+    const FolderLock lock(target);
+    if (lock.failed())
+        return anotherWriterBusy;
+    const Current current = readCurrent(target);
+    if (current.error != 0)
+        return current.error;
+    const std::optional<QByteArray> changed = edit(current.bytes.value_or(QByteArray()));
+    if (!changed || changed == current.bytes)
+        return 0;
+    if (current.readOnly)
+        return EACCES;
+    return writeWhole(target, *changed, current.bytes);
+}
 
 } // namespace
 
@@ -104,35 +271,92 @@ QString ProfileWriter::exportLine(const QString& variable, const QString& key)
     return QStringLiteral("export ") + variable + QLatin1Char('=') + shellQuote(key, Quoting::always);
 }
 
-std::optional<QByteArray> ProfileWriter::rewrite(const QByteArray& profile, const QString& variable,
-                                                 const QString& line)
+ProfileWriter::ProfileChange ProfileWriter::withExport(const QByteArray& profile, const QString& variable,
+                                                       const QString& displayName, const QString& line)
 {
-    // Byte for character (Latin-1), so that every byte of a profile in any encoding comes back
-    // as it was. The name, "export" and the quoting are ASCII; a value may hold any byte, so
-    // the blanks that end an unquoted word are spelled out (\s would also take 0x85 and 0xA0,
-    // which occur inside UTF-8 characters).
-    const QString text = QString::fromLatin1(profile);
-    static const QString value =
-        QStringLiteral(R"((?:"(?:[^"\\]|\\[\s\S])*"|'[^']*'|\\[^\n]|[^ \t\n\r\f\v;&|()<>"'\\`])*)");
-    const QRegularExpression pattern(QStringLiteral("(?<![A-Za-z0-9_])export[ \\t]+") +
-                                     QRegularExpression::escape(variable) + QLatin1Char('=') + value);
-    if (!pattern.isValid())
-        return std::nullopt;
-    const QString replacement = QString::fromLatin1(line.toUtf8());
-    QString result;
-    qsizetype copied = 0;
+    const QByteArray name = variable.toUtf8();
+    const QByteArray lineBytes = line.toUtf8();
+    const QByteArray assignment = name + '=';
+    const QByteArray prefix = "export " + assignment;
+    const QByteArray value = lineBytes.startsWith(prefix) ? lineBytes.mid(prefix.size()) : lineBytes;
+
+    const auto isBlank = [](char c) { return c == ' ' || c == '\t'; };
+    // Where an unquoted word ends: a blank, the line's end or an operator.
+    const auto endsWord = [](char c) {
+        return c == ' ' || c == '\t' || c == '\r' || c == '\n' || c == ';' || c == '&' || c == '|' || c == '(' ||
+               c == ')' || c == '<' || c == '>';
+    };
+
+    ProfileChange change;
     bool found = false;
-    for (auto it = pattern.globalMatch(text); it.hasNext();) {
-        const QRegularExpressionMatch match = it.next();
+    bool lastComputed = false;
+    bool continuation = false; // the line before ended in a backslash: this one is not a command
+    qsizetype position = 0;
+    while (position < profile.size()) {
+        qsizetype end = profile.indexOf('\n', position);
+        end = end < 0 ? profile.size() : end + 1;
+        const QByteArray physical = profile.mid(position, end - position);
+        position = end;
+        QByteArray content = physical;
+        while (content.endsWith('\n') || content.endsWith('\r'))
+            content.chop(1);
+        const bool continued = continuation;
+        continuation = content.endsWith('\\');
+
+        // The first word: `export NAME=` or `NAME=`, after any indentation.
+        qsizetype i = 0;
+        while (i < content.size() && isBlank(content.at(i)))
+            ++i;
+        if (!continued && content.mid(i).startsWith("export") && i + 6 < content.size() && isBlank(content.at(i + 6))) {
+            i += 6;
+            while (i < content.size() && isBlank(content.at(i)))
+                ++i;
+        }
+        if (continued || !content.mid(i).startsWith(assignment)) {
+            change.profile += physical;
+            continue;
+        }
         found = true;
-        result += QStringView(text).sliced(copied, match.capturedStart() - copied);
-        result += replacement; // as it is: no "$1" or backslash is interpreted
-        copied = match.capturedEnd();
+        const qsizetype start = i + name.size() + 1;
+
+        // The value: literal, or computed (anything a shell would expand or join).
+        qsizetype stop = start;
+        bool literal = true;
+        const char first = start < content.size() ? content.at(start) : '\n';
+        if (first == '"' || first == '\'') {
+            const qsizetype close = content.indexOf(first, start + 1);
+            if (close < 0) {
+                literal = false;
+            } else {
+                const QByteArray inside = content.mid(start + 1, close - start - 1);
+                if (first == '"' && (inside.contains('$') || inside.contains('`') || inside.contains('\\')))
+                    literal = false;
+                stop = close + 1;
+                if (stop < content.size() && !endsWord(content.at(stop)))
+                    literal = false; // joined to more text
+            }
+        } else {
+            while (stop < content.size() && !endsWord(content.at(stop)))
+                ++stop;
+            for (const char c : content.mid(start, stop - start)) {
+                if (QByteArrayView("$`\\\"'{}*?[]~!").contains(c))
+                    literal = false;
+            }
+        }
+        if (literal) {
+            change.profile += physical.left(start) + value + physical.mid(stop);
+            lastComputed = false;
+        } else {
+            change.profile += physical;
+            lastComputed = true;
+        }
     }
-    if (!found)
-        return std::nullopt;
-    result += QStringView(text).sliced(copied);
-    return result.toLatin1();
+    if (!found || lastComputed) {
+        change.profile += appendedBlock(displayName, line);
+        change.appended = true;
+        change.afterComputedValue = found;
+    }
+    return change;
 }
 
 QByteArray ProfileWriter::appendedBlock(const QString& displayName, const QString& line)
@@ -140,41 +364,25 @@ QByteArray ProfileWriter::appendedBlock(const QString& displayName, const QStrin
     return (QStringLiteral("\n# ") + displayName + QStringLiteral(" API Key\n") + line + QLatin1Char('\n')).toUtf8();
 }
 
-Result<void> ProfileWriter::store(const QString& path, const QString& variable, const QString& displayName,
-                                  const QString& line)
+Result<ProfileWriter::ProfileChange> ProfileWriter::store(const QString& path, const QString& variable,
+                                                          const QString& displayName, const QString& line)
 {
-    // Only an ordinary file is read: a folder, a pipe or a device in its place is not a profile.
-    if (QFileInfo(path).isFile()) {
-        QFile file(path);
-        if (file.open(QIODevice::ReadOnly)) {
-            const QByteArray profile = file.readAll();
-            file.close();
-            if (const std::optional<QByteArray> rewritten = rewrite(profile, variable, line)) {
-                if (*rewritten == profile)
-                    return {};
-                return replaceFileContents(path, *rewritten);
-            }
-        }
-    }
-    return appendToFile(path, appendedBlock(displayName, line));
+    ProfileChange change;
+    const int error = editProfile(path, [&](const QByteArray& current) -> std::optional<QByteArray> {
+        change = withExport(current, variable, displayName, line);
+        return change.profile;
+    });
+    if (error != 0)
+        return saveFailed(path, error);
+    return change;
 }
 
-Result<void> ProfileWriter::appendToFile(const QString& path, const QByteArray& bytes)
+Result<void> ProfileWriter::replaceFileContents(const QString& path, const QByteArray& bytes)
 {
-    const int error = append(path, bytes);
-    return error == 0 ? Result<void>() : Result<void>(saveFailed(path, error));
-}
-
-int ProfileWriter::append(const QString& path, const QByteArray& bytes)
-{
-    // Never waits: a pipe with nobody reading it is an error rather than a hang.
-    Descriptor file(::open(QFile::encodeName(path).constData(),
-                           O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC | O_NOCTTY | O_NONBLOCK, 0644));
-    if (file.get() < 0)
-        return errno;
-    if (!writeAll(file.get(), bytes) || !file.close())
-        return errno;
-    return 0;
+    if (const int error = editProfile(path, [&bytes](const QByteArray&) { return std::optional<QByteArray>(bytes); });
+        error != 0)
+        return saveFailed(path, error);
+    return {};
 }
 
 QByteArray ProfileWriter::searchPathBlock()
@@ -184,69 +392,19 @@ QByteArray ProfileWriter::searchPathBlock()
 
 Result<bool> ProfileWriter::addSearchPathBlock(const QString& path)
 {
-    // Once is enough: a profile that has the block (or is not an ordinary file we can read)
-    // is not appended to again.
-    if (QFileInfo(path).isFile()) {
-        QFile file(path);
-        if (file.open(QIODevice::ReadOnly) && file.readAll().contains(kSearchPathMark))
-            return false;
-    }
-    if (const int error = append(path, searchPathBlock()); error != 0) {
+    // Once is enough; a block cut off after its mark (by an older version) is not the block.
+    bool added = false;
+    const int error = editProfile(path, [&added](const QByteArray& current) -> std::optional<QByteArray> {
+        const QByteArray block = searchPathBlock();
+        if (current.contains(block.mid(1, block.size() - 2)))
+            return std::nullopt;
+        added = true;
+        return current + block;
+    });
+    if (error != 0)
         return ServiceError::message(
-            tr("Could not add ~/.local/bin to the search path in %1: %2").arg(path, systemError(error)));
-    }
-    return true;
-}
-
-Result<void> ProfileWriter::replaceFileContents(const QString& path, const QByteArray& bytes)
-{
-    // A profile that is a link stays a link: the file it points to is the one rewritten.
-    const QFileInfo info(path);
-    const QString target = info.isSymLink() ? info.canonicalFilePath() : path;
-    const QByteArray targetName = QFile::encodeName(target);
-    struct stat status {};
-    if (::stat(targetName.constData(), &status) != 0)
-        return saveFailed(path, errno);
-
-    if (status.st_nlink > 1) {
-        // Other names share this file: it is rewritten where it is, so that they all see the
-        // new key. The room is claimed first, so a full disk fails before anything changes.
-        Descriptor file(::open(targetName.constData(), O_WRONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK));
-        if (file.get() < 0)
-            return saveFailed(path, errno);
-        if (bytes.size() > status.st_size) {
-            const int reserved = ::posix_fallocate(file.get(), 0, static_cast<off_t>(bytes.size()));
-            if (reserved != 0 && reserved != EOPNOTSUPP && reserved != EINVAL)
-                return saveFailed(path, reserved);
-        }
-        if (!writeAll(file.get(), bytes) || ::ftruncate(file.get(), static_cast<off_t>(bytes.size())) != 0 ||
-            ::fsync(file.get()) != 0 || !file.close())
-            return saveFailed(path, errno);
-        return {};
-    }
-
-    // A finished copy next to it, renamed over it in one step.
-    const QFileInfo targetInfo(target);
-    QByteArray temporary = QFile::encodeName(targetInfo.absolutePath() + QStringLiteral("/.") + targetInfo.fileName() +
-                                             QStringLiteral(".XXXXXX"));
-    Descriptor copy(::mkstemp(temporary.data()));
-    if (copy.get() < 0)
-        return saveFailed(path, errno);
-    const auto abandon = [&](int error) {
-        ::unlink(temporary.constData());
-        return saveFailed(path, error);
-    };
-    ::fcntl(copy.get(), F_SETFD, FD_CLOEXEC);
-    // The same owner (when this process may say so) and the same permissions as before.
-    if (::fchown(copy.get(), status.st_uid, status.st_gid) != 0 && errno != EPERM)
-        return abandon(errno);
-    if (::fchmod(copy.get(), status.st_mode & 07777) != 0)
-        return abandon(errno);
-    if (!writeAll(copy.get(), bytes) || ::fsync(copy.get()) != 0 || !copy.close())
-        return abandon(errno);
-    if (::rename(temporary.constData(), targetName.constData()) != 0)
-        return abandon(errno);
-    return {};
+            tr("Could not add ~/.local/bin to the search path in %1: %2").arg(path, reasonText(error)));
+    return added;
 }
 
 } // namespace qf

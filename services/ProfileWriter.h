@@ -34,37 +34,46 @@ public:
     // `export NAME="key"` for plain keys; other keys single-quoted so nothing in them expands.
     static QString exportLine(const QString& variable, const QString& key);
 
-    // `profile` with every `export NAME=value` of exactly this name replaced by `line`: only
-    // the export and its value (a double-quoted string, a single-quoted string, an unquoted
-    // word, or several of them joined) are replaced; what comes before and after it on its
-    // line stays, so a commented line stays commented. Nothing when no such export exists.
-    static std::optional<QByteArray> rewrite(const QByteArray& profile, const QString& variable, const QString& line);
+    // What saving an export does to a profile's text.
+    struct ProfileChange {
+        QByteArray profile;
+        // The export went in as a new block at the end.
+        bool appended = false;
+        // ... because the profile sets the variable from a command, another variable or an
+        // escape, which is never edited: the new line after it is the one that counts.
+        bool afterComputedValue = false;
+    };
+
+    // `profile` with the key of `line` (an `export NAME=value` line of exportLine) in it. An
+    // export is a line whose first word is `export NAME=` or `NAME=`; where its value is a plain
+    // literal (an unquoted word, a single-quoted string, a double-quoted string without `$`,
+    // backquotes or backslashes) only that value is replaced and the rest of the line stays.
+    // Without such an export, or when the last one computes its value, the block
+    // (appendedBlock) is added at the end instead; nothing else changes, byte for byte.
+    static ProfileChange withExport(const QByteArray& profile, const QString& variable, const QString& displayName,
+                                    const QString& line);
     // The block added to a profile without the export: an empty line, "# <tool> API Key",
     // the export line.
     static QByteArray appendedBlock(const QString& displayName, const QString& line);
 
-    // Puts `line` into the profile at `path`: rewritten in place where it exports the variable
-    // already, otherwise appended (creating the file). A link stays a link, a file with more
-    // than one name stays one file, permissions stay; on failure the profile is as it was.
-    static Result<void> store(const QString& path, const QString& variable, const QString& displayName,
-                              const QString& line);
+    // Puts `line` into the profile at `path` (created when missing). Every change of a profile
+    // takes a lock, so two writers never lose each other's change, and completes or leaves the
+    // file as it was: a failure at any byte leaves no partial line. A link stays a link (even
+    // one whose file does not exist yet), a file with more than one name stays one file,
+    // permissions stay; a read-only profile or one that is not an ordinary file is refused.
+    static Result<ProfileChange> store(const QString& path, const QString& variable, const QString& displayName,
+                                       const QString& line);
 
-    // Writes `bytes` over the file at `path` (through a symbolic link to its target) keeping
-    // its permissions: in one step by renaming a finished copy over it, or, for a file with
-    // several hard links, in place after making sure the room for it is there.
+    // Writes `bytes` over the file at `path` (through a symbolic link to its target) with the
+    // same guarantees: in one step by renaming a finished copy over it, or, for a file with
+    // several hard links, in place, putting back what was there when a write fails.
     static Result<void> replaceFileContents(const QString& path, const QByteArray& bytes);
-    // Adds `bytes` at the end of the file at `path`, creating it when missing.
-    static Result<void> appendToFile(const QString& path, const QByteArray& bytes);
 
     // The marked block that puts ~/.local/bin first on the search path.
     static QByteArray searchPathBlock();
     // Appends that block to the profile at `path` (created when missing) unless it is there
-    // already: true when it was added. A link stays a link, permissions stay.
+    // complete already: true when it was added. The same guarantees as `store`.
     static Result<bool> addSearchPathBlock(const QString& path);
-
-private:
-    // Appends without ever waiting; 0, or the system's error code.
-    static int append(const QString& path, const QByteArray& bytes);
 };
 
 } // namespace qf

@@ -417,11 +417,11 @@ QCoro::Task<Result<void>> ToolInstaller::saveAPIKey(QString key, CLITool tool)
     const QString line = ProfileWriter::exportLine(variable, key);
     // The files are handled on a worker thread: a slow or stuck home folder never freezes the
     // window.
-    QFuture<Result<void>> storing = QtConcurrent::run(
+    QFuture<Result<ProfileWriter::ProfileChange>> storing = QtConcurrent::run(
         [profile, variable, displayName, line] { return ProfileWriter::store(profile, variable, displayName, line); });
-    const Result<void> stored = co_await storing;
+    const Result<ProfileWriter::ProfileChange> stored = co_await storing;
     if (!stored)
-        co_return stored;
+        co_return stored.error();
     qputenv(variable.toUtf8().constData(), key.toUtf8());
     co_return Result<void>();
 }

@@ -64,44 +64,67 @@ TEST(ProfileWriter, ExportLines)
     EXPECT_FALSE(ProfileWriter::rejectionReason(QStringLiteral("   ")).has_value());
 }
 
-TEST(ProfileWriter, RewriteReplacesOnlyAnExportOfThatNameAndItsValue)
+TEST(ProfileWriter, OnlyAPlainLiteralValueIsEditedAndOnlyThatValue)
 {
     const QString line = QStringLiteral("export OPENAI_API_KEY=\"new\"");
-    const auto rewritten = [&line](const QByteArray& profile) {
-        return ProfileWriter::rewrite(profile, QStringLiteral("OPENAI_API_KEY"), line);
+    const auto edited = [&line](const QByteArray& profile) {
+        const auto change = ProfileWriter::withExport(profile, QStringLiteral("OPENAI_API_KEY"),
+                                                      QStringLiteral("Codex"), line);
+        EXPECT_FALSE(change.appended) << profile.toStdString();
+        return change.profile;
     };
-    EXPECT_EQ(rewritten("# my settings\r\n"
-                        "export OPENAI_API_KEY=\"old\"\r\n"
-                        "#export OPENAI_API_KEY=older\n"
-                        "export OPENAI_API_KEY_2=keep\n"
-                        "export AZURE_OPENAI_API_KEY=keep\n"
-                        "alias x=y"),
-              QByteArray("# my settings\r\n"
-                         "export OPENAI_API_KEY=\"new\"\r\n"
-                         "#export OPENAI_API_KEY=\"new\"\n"
-                         "export OPENAI_API_KEY_2=keep\n"
-                         "export AZURE_OPENAI_API_KEY=keep\n"
-                         "alias x=y"));
-    // Only the export and its value: what follows on the line stays.
-    EXPECT_EQ(rewritten("export ANTHROPIC_API_KEY=\"a\"; export OPENAI_API_KEY=\"o\\\"d\" # note; x=1\n"),
-              QByteArray("export ANTHROPIC_API_KEY=\"a\"; export OPENAI_API_KEY=\"new\" # note; x=1\n"));
-    EXPECT_EQ(rewritten("export OPENAI_API_KEY='o;d' && echo hi\n"),
+    // A literal value in any quoting, indented or not, exported or a plain assignment: the value
+    // changes and the rest of its line (and every other line, byte for byte) stays.
+    EXPECT_EQ(edited("# my settings\r\nexport OPENAI_API_KEY=\"old\"\r\nexport OPENAI_API_KEY_2=keep\n"
+                     "export AZURE_OPENAI_API_KEY=keep\nalias x=y"),
+              QByteArray("# my settings\r\nexport OPENAI_API_KEY=\"new\"\r\nexport OPENAI_API_KEY_2=keep\n"
+                         "export AZURE_OPENAI_API_KEY=keep\nalias x=y"));
+    EXPECT_EQ(edited("export OPENAI_API_KEY='o;d' && echo hi\n"),
               QByteArray("export OPENAI_API_KEY=\"new\" && echo hi\n"));
-    EXPECT_EQ(rewritten("[ -n x ] && export OPENAI_API_KEY=old\\ er\"q\"'s'|cat\n"),
-              QByteArray("[ -n x ] && export OPENAI_API_KEY=\"new\"|cat\n"));
-    // An exact name only: a longer name, or the name in a comment, is no export of it.
-    EXPECT_EQ(rewritten("export AZURE_OPENAI_API_KEY=x\n# OPENAI_API_KEY is set elsewhere\n"), std::nullopt);
-    EXPECT_EQ(rewritten("reexport OPENAI_API_KEY=x\n"), std::nullopt);
-    // Not UTF-8 (Latin-1 "café", a stray 0xFF, "à" whose UTF-8 holds 0xA0): every other byte stays.
-    EXPECT_EQ(rewritten("# caf\xE9 \xFF\nexport OPENAI_API_KEY=\"\xE9\"\nexport X=\xC3\xA0\n"),
+    EXPECT_EQ(edited("  OPENAI_API_KEY=old # mine\n"), QByteArray("  OPENAI_API_KEY=\"new\" # mine\n"));
+    EXPECT_EQ(edited("\texport  OPENAI_API_KEY=\n"), QByteArray("\texport  OPENAI_API_KEY=\"new\"\n"));
+    EXPECT_EQ(edited("# caf\xE9 \xFF\nexport OPENAI_API_KEY=\"\xE9\"\nexport X=\xC3\xA0\n"),
               QByteArray("# caf\xE9 \xFF\nexport OPENAI_API_KEY=\"new\"\nexport X=\xC3\xA0\n"));
-    EXPECT_EQ(ProfileWriter::rewrite("export K=\xC3\xA0"
-                                     "b c",
-                                     QStringLiteral("K"), QStringLiteral("export K=1")),
-              QByteArray("export K=1 c"));
-    // The replacement goes in literally: no group references, no escapes.
-    EXPECT_EQ(ProfileWriter::rewrite("export K=1", QStringLiteral("K"), QStringLiteral("export K='$1\\0&'")),
+    // A computed value before a literal one: the later literal is edited and counts.
+    EXPECT_EQ(edited("export OPENAI_API_KEY=$(cat ~/k)\nexport OPENAI_API_KEY=old\n"),
+              QByteArray("export OPENAI_API_KEY=$(cat ~/k)\nexport OPENAI_API_KEY=\"new\"\n"));
+    // The key goes in literally: no group references, no escapes.
+    EXPECT_EQ(ProfileWriter::withExport("export K=1", QStringLiteral("K"), QStringLiteral("T"),
+                                        QStringLiteral("export K='$1\\0&'"))
+                  .profile,
               QByteArray("export K='$1\\0&'"));
+}
+
+TEST_F(ApiKeyTest, AComputedValueIsNeverEditedAndTheNewExportComesAfterIt)
+{
+    // Values that a shell computes (a command, backquotes, an ANSI-C string, a variable, an
+    // escape, a quote joined to more text, a string still open): the line stays as the user
+    // wrote it, the export is added at the end, and both shells end with the new key and no
+    // syntax error.
+    sandbox.writeFile(QStringLiteral("openai-key"), "from-file");
+    const QList<QByteArray> computed{"export OPENAI_API_KEY=$(cat ~/openai-key)\n",
+                                     "export OPENAI_API_KEY=`cat ~/openai-key`\n",
+                                     "export OPENAI_API_KEY=$'sk-\\'x'\nalias next=line\n",
+                                     "export OPENAI_API_KEY=\"$HOME/k\"\n",
+                                     "export OPENAI_API_KEY=\"a\\\"b\"\n",
+                                     "export OPENAI_API_KEY=\"a\"b\n",
+                                     "OPENAI_API_KEY=~/k\n",
+                                     "export OPENAI_API_KEY=\"sk-cut-off"};
+    for (const QByteArray& before : computed) {
+        SCOPED_TRACE(before.toStdString());
+        const auto change = ProfileWriter::withExport(before, QStringLiteral("OPENAI_API_KEY"), QStringLiteral("Codex"),
+                                                      QStringLiteral("export OPENAI_API_KEY=\"sk-new\""));
+        EXPECT_TRUE(change.appended);
+        EXPECT_TRUE(change.afterComputedValue);
+        EXPECT_EQ(change.profile, before + "\n# Codex API Key\nexport OPENAI_API_KEY=\"sk-new\"\n");
+        if (before.count('"') % 2 == 1)
+            continue; // a string the user left open swallows what follows in any shell
+        sandbox.writeFile(QStringLiteral(".zshrc"), change.profile);
+        for (const char* shell : {"/bin/zsh", "/bin/bash"})
+            EXPECT_EQ(sourced(QString::fromLatin1(shell), QStringLiteral(".zshrc"), QStringLiteral("OPENAI_API_KEY")),
+                      QByteArray("sk-new"))
+                << shell;
+    }
 }
 
 TEST_F(ApiKeyTest, FirstSaveCreatesTheProfileBlock)
@@ -150,10 +173,14 @@ TEST_F(ApiKeyTest, MentionsAndCommentedLines)
               QByteArray("sk-proj-1"));
     EXPECT_EQ(qgetenv("OPENAI_API_KEY"), QByteArray("sk-proj-1"));
 
-    // A commented-out export line is rewritten and stays commented.
-    sandbox.writeFile(QStringLiteral(".zshrc"), "# export OPENAI_API_KEY=\"old\"\n");
-    ASSERT_TRUE(save(QStringLiteral("sk-proj-2"), CLITool::codex).ok());
-    EXPECT_EQ(profile(), QByteArray("# export OPENAI_API_KEY=\"sk-proj-2\"\n"));
+    // A commented-out export, or one inside another command, is no export: the key is added.
+    for (const QByteArray& before :
+         {QByteArray("# export OPENAI_API_KEY=\"old\"\n"), QByteArray("echo \"export OPENAI_API_KEY=old\"\n"),
+          QByteArray("[ -n x ] && export OPENAI_API_KEY=old\n")}) {
+        sandbox.writeFile(QStringLiteral(".zshrc"), before);
+        ASSERT_TRUE(save(QStringLiteral("sk-proj-2"), CLITool::codex).ok());
+        EXPECT_EQ(profile(), before + "\n# Codex API Key\nexport OPENAI_API_KEY=\"sk-proj-2\"\n");
+    }
     qunsetenv("OPENAI_API_KEY");
 }
 
@@ -305,29 +332,15 @@ TEST_F(ApiKeyTest, AHardLinkedProfileStaysOneFile)
     qunsetenv("ANTHROPIC_API_KEY");
 }
 
-TEST_F(ApiKeyTest, AFullDiskIsNamed)
-{
-    if (!QFileInfo::exists(QStringLiteral("/dev/full")))
-        GTEST_SKIP() << "no /dev/full on this system";
-    // A profile on a full disk: every write ends in ENOSPC.
-    ASSERT_TRUE(QFile::link(QStringLiteral("/dev/full"), sandbox.path(QStringLiteral(".zshrc"))));
-    const Result<void> result = save(QStringLiteral("sk-ant-1"), CLITool::claudeCode);
-    ASSERT_FALSE(result.ok());
-    EXPECT_EQ(result.error().errorDescription(),
-              QStringLiteral("Could not save the API key to %1: No space left on device")
-                  .arg(sandbox.path(QStringLiteral(".zshrc"))));
-    EXPECT_FALSE(qEnvironmentVariableIsSet("ANTHROPIC_API_KEY"));
-}
-
 TEST_F(ApiKeyTest, AProfileThatCannotBeAppendedToIsAClearError)
 {
     // ~/.zshrc is a folder: no profile exists as a file, and appending to that path fails.
     QDir().mkpath(sandbox.path(QStringLiteral(".zshrc")));
     const Result<void> result = save(QStringLiteral("sk-1"), CLITool::claudeCode);
     ASSERT_FALSE(result.ok());
-    EXPECT_EQ(
-        result.error().errorDescription(),
-        QStringLiteral("Could not save the API key to %1: Is a directory").arg(sandbox.path(QStringLiteral(".zshrc"))));
+    EXPECT_EQ(result.error().errorDescription(),
+              QStringLiteral("Could not save the API key to %1: it is not an ordinary file")
+                  .arg(sandbox.path(QStringLiteral(".zshrc"))));
     EXPECT_TRUE(QDir(sandbox.path(QStringLiteral(".zshrc"))).isEmpty());
     EXPECT_FALSE(qEnvironmentVariableIsSet("ANTHROPIC_API_KEY"));
 }

@@ -1,0 +1,311 @@
+#include "ProfileWriter.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace qf;
+
+namespace {
+
+QByteArray read(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<missing>");
+}
+
+void write(const QString& path, const QByteArray& bytes)
+{
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    ASSERT_EQ(file.write(bytes), bytes.size());
+}
+
+struct HelperRun {
+    int exitCode = -1;
+    QString output;
+};
+
+// Saves `key-0` .. `key-<iterations - 1>` and the search-path block from another process.
+QProcess* startHelper(const QString& profile, const QString& variable, int iterations, qint64 sizeLimit = -1)
+{
+    auto* process = new QProcess;
+    QStringList arguments{profile, variable, QStringLiteral("Codex"), QString::number(iterations)};
+    if (sizeLimit >= 0)
+        arguments << QString::number(sizeLimit);
+    process->start(QStringLiteral(QF_PROFILE_WRITER_HELPER), arguments);
+    return process;
+}
+
+HelperRun finish(QProcess* process)
+{
+    EXPECT_TRUE(process->waitForFinished(30000));
+    HelperRun run{process->exitStatus() == QProcess::NormalExit ? process->exitCode() : -1,
+                  QString::fromUtf8(process->readAllStandardOutput()).trimmed()};
+    delete process;
+    return run;
+}
+
+HelperRun runHelper(const QString& profile, const QString& variable, int iterations, qint64 sizeLimit = -1)
+{
+    return finish(startHelper(profile, variable, iterations, sizeLimit));
+}
+
+QStringList entries(const QString& folder)
+{
+    return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+}
+
+// A small tmpfs of its own, where this process may mount one (as root, where `mount` knows tmpfs).
+class SmallDisk {
+public:
+    explicit SmallDisk(const QString& folder, const char* size) : m_folder(folder)
+    {
+        QDir().mkpath(folder);
+        QProcess mount;
+        mount.start(QStringLiteral("mount"), {QStringLiteral("-t"), QStringLiteral("tmpfs"), QStringLiteral("-o"),
+                                              QStringLiteral("size=%1,mode=0755").arg(QString::fromLatin1(size)),
+                                              QStringLiteral("tmpfs"), folder});
+        m_mounted = mount.waitForFinished(10000) && mount.exitStatus() == QProcess::NormalExit && mount.exitCode() == 0;
+    }
+    ~SmallDisk()
+    {
+        if (m_mounted)
+            QProcess::execute(QStringLiteral("umount"), {QStringLiteral("-l"), m_folder});
+    }
+    bool mounted() const { return m_mounted; }
+
+    // Fills every byte the disk has left.
+    void fill() const
+    {
+        QFile filler(m_folder + QStringLiteral("/filler"));
+        ASSERT_TRUE(filler.open(QIODevice::WriteOnly | QIODevice::Append));
+        const QByteArray block(512, 'x');
+        while (filler.write(block) == block.size() && filler.flush()) {
+        }
+        QFile small(m_folder + QStringLiteral("/filler-bytes"));
+        ASSERT_TRUE(small.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
+        while (small.write("x", 1) == 1) {
+        }
+    }
+    void free() const
+    {
+        QFile::remove(m_folder + QStringLiteral("/filler"));
+        QFile::remove(m_folder + QStringLiteral("/filler-bytes"));
+    }
+
+private:
+    QString m_folder;
+    bool m_mounted = false;
+};
+
+const QByteArray pathBlockExport = "export PATH=\"$HOME/.local/bin:$PATH\"";
+
+} // namespace
+
+TEST(ProfileWriterFiles, TwoWritersAtOnceLoseNothing)
+{
+    // Two copies (or a copy and a save still running) each save their key and the search-path
+    // block over and over, at the same time.
+    QTemporaryDir home;
+    const QString profile = home.filePath(QStringLiteral(".zshrc"));
+    write(profile, "alias ll='ls -l'\n");
+    constexpr int rounds = 300;
+    QProcess* first = startHelper(profile, QStringLiteral("OPENAI_API_KEY"), rounds);
+    QProcess* second = startHelper(profile, QStringLiteral("GEMINI_API_KEY"), rounds);
+    const HelperRun one = finish(first);
+    const HelperRun two = finish(second);
+    ASSERT_EQ(one.exitCode, 0) << one.output.toStdString();
+    ASSERT_EQ(two.exitCode, 0) << two.output.toStdString();
+
+    const QByteArray result = read(profile);
+    EXPECT_TRUE(result.startsWith("alias ll='ls -l'\n"));
+    EXPECT_EQ(result.count("export OPENAI_API_KEY="), 1) << result.toStdString();
+    EXPECT_EQ(result.count("export GEMINI_API_KEY="), 1) << result.toStdString();
+    EXPECT_TRUE(result.contains("export OPENAI_API_KEY=\"key-299\"\n")) << result.toStdString();
+    EXPECT_TRUE(result.contains("export GEMINI_API_KEY=\"key-299\"\n")) << result.toStdString();
+    EXPECT_EQ(result.count(kSearchPathMark), 1) << result.toStdString();
+    EXPECT_EQ(entries(home.path()), QStringList{QStringLiteral(".zshrc")});
+}
+
+TEST(ProfileWriterFiles, AFailureAtAnyByteLeavesTheProfileAsBeforeOrAsIntended)
+{
+    // Every write past a limit fails, as on a disk that is full at that byte. Whatever the
+    // limit, each file is as it was or as intended: never a partial line. That holds for a key
+    // appended, a key rewritten, and a file that other names share (rewritten in place).
+    struct Case {
+        const char* name;
+        QByteArray before;
+        bool hardLinked;
+    };
+    const Case cases[] = {{"append", "x=1\n", false},
+                          {"rewrite", "export OPENAI_API_KEY=\"old\"\n", false},
+                          {"shared file", "export OPENAI_API_KEY=\"old-and-longer\"\n", true}};
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        QTemporaryDir home;
+        const QString profile = home.filePath(QStringLiteral(".zshrc"));
+        const QString other = home.filePath(QStringLiteral("dotfiles-zshrc"));
+        const auto reset = [&] {
+            QFile::remove(profile);
+            QFile::remove(other);
+            write(profile, c.before);
+            if (c.hardLinked) {
+                ASSERT_EQ(::link(QFile::encodeName(profile).constData(), QFile::encodeName(other).constData()), 0);
+            }
+        };
+
+        // What one save and then the block make of it, with room enough.
+        reset();
+        ASSERT_EQ(runHelper(profile, QStringLiteral("OPENAI_API_KEY"), 1).exitCode, 0);
+        const QByteArray intended = read(profile);
+        const QList<QByteArray> allowed{
+            c.before,
+            ProfileWriter::withExport(
+                c.before, QStringLiteral("OPENAI_API_KEY"), QStringLiteral("Codex"),
+                ProfileWriter::exportLine(QStringLiteral("OPENAI_API_KEY"), QStringLiteral("key-0")))
+                .profile,
+            intended};
+
+        for (qint64 limit = 0; limit <= intended.size() + 1; ++limit) {
+            reset();
+            const HelperRun run = runHelper(profile, QStringLiteral("OPENAI_API_KEY"), 1, limit);
+            const QByteArray now = read(profile);
+            EXPECT_TRUE(allowed.contains(now)) << "limit " << limit << ":\n" << now.toStdString();
+            if (run.exitCode != 0) {
+                EXPECT_TRUE(run.output.contains(QStringLiteral("File too large"))) << run.output.toStdString();
+            }
+            if (c.hardLinked) {
+                EXPECT_EQ(read(other), now); // still one file
+            }
+            QStringList expected{QStringLiteral(".zshrc")};
+            if (c.hardLinked)
+                expected.append(QStringLiteral("dotfiles-zshrc"));
+            EXPECT_EQ(entries(home.path()), expected) << "limit " << limit; // nothing left behind
+        }
+    }
+}
+
+TEST(ProfileWriterFiles, AFullDiskIsNamedAndBreaksNothing)
+{
+    QTemporaryDir root;
+    const SmallDisk disk(root.filePath(QStringLiteral("disk")), "64k");
+    if (!disk.mounted())
+        GTEST_SKIP() << "a small tmpfs cannot be mounted here (needs root and tmpfs): the full-disk case is not run";
+    const QString profile = root.filePath(QStringLiteral("disk/.zshrc"));
+    const QByteArray before = "alias ll='ls -l'\nexport ANTHROPIC_API_KEY=\"old\"\n";
+    write(profile, before);
+    disk.fill();
+
+    const QString line = ProfileWriter::exportLine(QStringLiteral("OPENAI_API_KEY"), QStringLiteral("sk-proj-1"));
+    const auto appended = ProfileWriter::store(profile, QStringLiteral("OPENAI_API_KEY"), QStringLiteral("Codex"),
+                                               line);
+    ASSERT_FALSE(appended.ok());
+    EXPECT_EQ(appended.error().errorDescription(),
+              QStringLiteral("Could not save the API key to %1: No space left on device").arg(profile));
+    const auto rewritten = ProfileWriter::store(
+        profile, QStringLiteral("ANTHROPIC_API_KEY"), QStringLiteral("Claude Code"),
+        ProfileWriter::exportLine(QStringLiteral("ANTHROPIC_API_KEY"), QStringLiteral("sk-ant-a-much-longer-key")));
+    ASSERT_FALSE(rewritten.ok());
+    const auto block = ProfileWriter::addSearchPathBlock(profile);
+    ASSERT_FALSE(block.ok());
+    EXPECT_TRUE(block.error().errorDescription().endsWith(QStringLiteral("No space left on device")));
+    EXPECT_EQ(read(profile), before);
+
+    // Once there is room again, the next save and the block go in whole.
+    disk.free();
+    ASSERT_TRUE(ProfileWriter::store(profile, QStringLiteral("OPENAI_API_KEY"), QStringLiteral("Codex"), line).ok());
+    const auto added = ProfileWriter::addSearchPathBlock(profile);
+    ASSERT_TRUE(added.ok());
+    EXPECT_TRUE(added.value());
+    EXPECT_EQ(read(profile), before + "\n# Codex API Key\n" + line.toUtf8() + "\n" + ProfileWriter::searchPathBlock());
+    EXPECT_EQ(entries(root.filePath(QStringLiteral("disk"))), QStringList{QStringLiteral(".zshrc")});
+}
+
+TEST(ProfileWriterFiles, AReadOnlyProfileIsRefusedWhateverTheChange)
+{
+    // The owner made it read-only: neither a rewrite nor an append changes it, even where the
+    // folder would allow replacing it (and for root, whom permissions do not stop).
+    QTemporaryDir home;
+    const QString profile = home.filePath(QStringLiteral(".zshrc"));
+    const QByteArray before = "export OPENAI_API_KEY=\"old\"\n";
+    write(profile, before);
+    ASSERT_EQ(::chmod(QFile::encodeName(profile).constData(), 0444), 0);
+
+    const auto rewritten = ProfileWriter::store(
+        profile, QStringLiteral("OPENAI_API_KEY"), QStringLiteral("Codex"),
+        ProfileWriter::exportLine(QStringLiteral("OPENAI_API_KEY"), QStringLiteral("new")));
+    ASSERT_FALSE(rewritten.ok());
+    EXPECT_EQ(rewritten.error().errorDescription(),
+              QStringLiteral("Could not save the API key to %1: Permission denied").arg(profile));
+    const auto appended = ProfileWriter::store(
+        profile, QStringLiteral("GEMINI_API_KEY"), QStringLiteral("Gemini CLI"),
+        ProfileWriter::exportLine(QStringLiteral("GEMINI_API_KEY"), QStringLiteral("new")));
+    ASSERT_FALSE(appended.ok());
+    EXPECT_TRUE(appended.error().errorDescription().endsWith(QStringLiteral("Permission denied")));
+    const auto block = ProfileWriter::addSearchPathBlock(profile);
+    ASSERT_FALSE(block.ok());
+    EXPECT_EQ(block.error().errorDescription(),
+              QStringLiteral("Could not add ~/.local/bin to the search path in %1: Permission denied").arg(profile));
+    EXPECT_EQ(read(profile), before);
+    EXPECT_EQ(QFileInfo(profile).permissions() & QFile::WriteOwner, 0);
+
+    // Where nothing needs to change, a read-only profile is no error: the key is there already.
+    const auto same = ProfileWriter::store(
+        profile, QStringLiteral("OPENAI_API_KEY"), QStringLiteral("Codex"),
+        ProfileWriter::exportLine(QStringLiteral("OPENAI_API_KEY"), QStringLiteral("old")));
+    EXPECT_TRUE(same.ok());
+}
+
+TEST(ProfileWriterFiles, AnUnfinishedSearchPathBlockIsCompletedOnce)
+{
+    // A block cut off after its first line (by an older version on a full disk) would have
+    // kept every later install saying "already added".
+    QTemporaryDir home;
+    const QString profile = home.filePath(QStringLiteral(".bashrc"));
+    const QByteArray cut = QByteArray("alias ll='ls -l'\n\n") + kSearchPathMark + "\n";
+    write(profile, cut);
+    const auto added = ProfileWriter::addSearchPathBlock(profile);
+    ASSERT_TRUE(added.ok());
+    EXPECT_TRUE(added.value());
+    EXPECT_EQ(read(profile), cut + ProfileWriter::searchPathBlock());
+    const auto again = ProfileWriter::addSearchPathBlock(profile);
+    ASSERT_TRUE(again.ok());
+    EXPECT_FALSE(again.value());
+    EXPECT_EQ(read(profile).count(pathBlockExport), 1);
+}
+
+TEST(ProfileWriterFiles, OnlyOrdinaryFilesAreWrittenAndLinksAreFollowed)
+{
+    QTemporaryDir home;
+    const QString profile = home.filePath(QStringLiteral(".zshrc"));
+    const QString line = ProfileWriter::exportLine(QStringLiteral("OPENAI_API_KEY"), QStringLiteral("k"));
+
+    // A link to a file that does not exist yet: the file is made where the link points.
+    ASSERT_TRUE(QFile::link(home.filePath(QStringLiteral("dotfiles/zshrc")), profile));
+    QDir().mkpath(home.filePath(QStringLiteral("dotfiles")));
+    ASSERT_TRUE(ProfileWriter::store(profile, QStringLiteral("OPENAI_API_KEY"), QStringLiteral("Codex"), line).ok());
+    EXPECT_TRUE(QFileInfo(profile).isSymLink());
+    EXPECT_EQ(read(home.filePath(QStringLiteral("dotfiles/zshrc"))),
+              "\n# Codex API Key\nexport OPENAI_API_KEY=\"k\"\n");
+
+    // A device in its place is no profile: refused, and nothing is made beside the device.
+    if (QFileInfo::exists(QStringLiteral("/dev/null"))) {
+        const QString device = home.filePath(QStringLiteral(".bashrc"));
+        ASSERT_TRUE(QFile::link(QStringLiteral("/dev/null"), device));
+        const QStringList devBefore = entries(QStringLiteral("/dev"));
+        const auto stored = ProfileWriter::store(device, QStringLiteral("OPENAI_API_KEY"), QStringLiteral("Codex"),
+                                                 line);
+        ASSERT_FALSE(stored.ok());
+        EXPECT_EQ(stored.error().errorDescription(),
+                  QStringLiteral("Could not save the API key to %1: it is not an ordinary file").arg(device));
+        EXPECT_EQ(entries(QStringLiteral("/dev")), devBefore);
+    }
+}
