@@ -2,7 +2,7 @@
 // for Linux desktops, and the .icns of the macOS bundle (PNG images in Apple's container, the
 // tile inset on Apple's icon grid so it sits among other apps' icons).
 //
-//   quillforge-icon-render <logo.svg> <hicolor folder> <icon name> <file.icns>
+//   quillforge-icon-render <logo.svg> <hicolor folder> <icon name> <file.icns> <size>...
 
 #include <QBuffer>
 #include <QDir>
@@ -63,8 +63,9 @@ int main(int argc, char* argv[])
 {
     QGuiApplication app(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
-    if (arguments.size() != 5) {
-        std::fprintf(stderr, "usage: quillforge-icon-render <logo.svg> <hicolor folder> <icon name> <file.icns>\n");
+    if (arguments.size() < 6) {
+        std::fprintf(stderr,
+                     "usage: quillforge-icon-render <logo.svg> <hicolor folder> <icon name> <file.icns> <size>...\n");
         return 2;
     }
     QSvgRenderer svg(arguments.at(1));
@@ -74,7 +75,8 @@ int main(int argc, char* argv[])
     }
 
     // The artwork is a full-bleed tile: at theme sizes it fills the square as it is.
-    for (const int size : {16, 22, 24, 32, 48, 64, 128, 256, 512}) {
+    for (const QString& sizeText : arguments.mid(5)) {
+        const int size = sizeText.toInt();
         const QString path = QStringLiteral("%1/%2x%2/apps/%3.png").arg(arguments.at(2)).arg(size).arg(arguments.at(3));
         if (!write(path, png(render(svg, size, 1.0))))
             return 1;

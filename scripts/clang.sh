@@ -1,6 +1,6 @@
-# Shared by the scripts: finds (and on Debian or Ubuntu installs) the newest clang the system
-# offers with its libc++, and exports QUILLFORGE_CLANGXX, plus QUILLFORGE_LIBCXX_FLAGS where a
-# libc++ separate from the system's standard library is there to compile against.
+# Shared by the scripts, after env.sh: finds (and on Debian or Ubuntu installs) the newest clang
+# the system offers with its libc++, and exports QUILLFORGE_CLANGXX, plus QUILLFORGE_LIBCXX_FLAGS
+# where a libc++ separate from the system's standard library is there to compile against.
 if [ "$(uname -s)" = Darwin ]; then
     # Apple's clang, whose standard library already is libc++.
     export QUILLFORGE_CLANGXX=clang++
@@ -17,17 +17,8 @@ elif command -v apt-get >/dev/null 2>&1; then
         echo "No clang package with libc++ is offered here; install clang and libc++ and run this again." >&2
         exit 1
     fi
-    clang_packages=("clang-$clang_version" "libc++-$clang_version-dev" "libc++abi-$clang_version-dev" python3-minimal)
-    clang_missing=()
-    for package in "${clang_packages[@]}"; do
-        dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q "install ok installed" || clang_missing+=("$package")
-    done
-    if [ ${#clang_missing[@]} -gt 0 ]; then
-        echo "Installing: ${clang_missing[*]}"
-        if [ "$(id -u)" -eq 0 ]; then clang_root=(); else clang_root=(sudo); fi
-        "${clang_root[@]}" apt-get update -qq
-        "${clang_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${clang_missing[@]}"
-    fi
+    ensure_debian_packages "clang-$clang_version" "libc++-$clang_version-dev" "libc++abi-$clang_version-dev" \
+        python3-minimal
     export QUILLFORGE_CLANGXX="clang++-$clang_version"
     export QUILLFORGE_LIBCXX_FLAGS="-stdlib=libc++"
 else

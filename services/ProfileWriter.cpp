@@ -377,14 +377,6 @@ Result<ProfileWriter::ProfileChange> ProfileWriter::store(const QString& path, c
     return change;
 }
 
-Result<void> ProfileWriter::replaceFileContents(const QString& path, const QByteArray& bytes)
-{
-    if (const int error = editProfile(path, [&bytes](const QByteArray&) { return std::optional<QByteArray>(bytes); });
-        error != 0)
-        return saveFailed(path, error);
-    return {};
-}
-
 QByteArray ProfileWriter::searchPathBlock()
 {
     return QByteArray("\n") + kSearchPathMark + "\nexport PATH=\"$HOME/.local/bin:$PATH\"\n";

@@ -64,11 +64,6 @@ public:
     static Result<ProfileChange> store(const QString& path, const QString& variable, const QString& displayName,
                                        const QString& line);
 
-    // Writes `bytes` over the file at `path` (through a symbolic link to its target) with the
-    // same guarantees: in one step by renaming a finished copy over it, or, for a file with
-    // several hard links, in place, putting back what was there when a write fails.
-    static Result<void> replaceFileContents(const QString& path, const QByteArray& bytes);
-
     // The marked block that puts ~/.local/bin first on the search path.
     static QByteArray searchPathBlock();
     // Appends that block to the profile at `path` (created when missing) unless it is there

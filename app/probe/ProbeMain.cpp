@@ -14,6 +14,7 @@
 #include "SetupModel.h"
 #include "SystemTool.h"
 
+#include "CommandLine.h"
 #include "QuillforgeVersion.h"
 
 #include <QCoreApplication>
@@ -126,9 +127,7 @@ void printHeader(Services& services)
 {
     printLine(QStringLiteral("Quillforge support probe"));
     printLine(QStringLiteral("========================"));
-    printField(QStringLiteral("Version"),
-               QStringLiteral("Quillforge %1 (Qt %2)")
-                   .arg(QString::fromLatin1(release::version), QString::fromLatin1(qVersion())));
+    printField(QStringLiteral("Version"), versionDetails());
 
     const RequirementStatus os = services.detector.checkOperatingSystem();
     printField(QStringLiteral("Operating system"),

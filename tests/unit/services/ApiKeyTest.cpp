@@ -362,11 +362,14 @@ TEST_F(ApiKeyTest, AProfileThatCannotBeRewrittenIsLeftAlone)
             ::chmod(dir.toLocal8Bit().constData(), (info.st_mode & 07777) | 0055);
     }
 
-    auto attempt = [&] { return ProfileWriter::replaceFileContents(file, "export GEMINI_API_KEY=\"new\"\n"); };
+    auto attempt = [&] {
+        return ProfileWriter::store(file, QStringLiteral("GEMINI_API_KEY"), QStringLiteral("Gemini CLI"),
+                                    QStringLiteral("export GEMINI_API_KEY=\"new\""));
+    };
 
     bool ok = true;
     if (geteuid() != 0) {
-        const Result<void> result = attempt();
+        const auto result = attempt();
         ok = result.ok();
         if (!ok) {
             EXPECT_TRUE(result.error().errorDescription().contains(file));

@@ -106,6 +106,13 @@ private:
     bool m_mounted = false;
 };
 
+// Saves `key` for `variable` as the API key screen does.
+Result<ProfileWriter::ProfileChange> saveKey(const QString& profile, const QString& variable, const QString& toolName,
+                                             const QString& key)
+{
+    return ProfileWriter::store(profile, variable, toolName, ProfileWriter::exportLine(variable, key));
+}
+
 const QByteArray pathBlockExport = "export PATH=\"$HOME/.local/bin:$PATH\"";
 
 } // namespace
@@ -210,9 +217,8 @@ TEST(ProfileWriterFiles, AFullDiskIsNamedAndBreaksNothing)
     ASSERT_FALSE(appended.ok());
     EXPECT_EQ(appended.error().errorDescription(),
               QStringLiteral("Could not save the API key to %1: No space left on device").arg(profile));
-    const auto rewritten = ProfileWriter::store(
-        profile, QStringLiteral("ANTHROPIC_API_KEY"), QStringLiteral("Claude Code"),
-        ProfileWriter::exportLine(QStringLiteral("ANTHROPIC_API_KEY"), QStringLiteral("sk-ant-a-much-longer-key")));
+    const auto rewritten = saveKey(profile, QStringLiteral("ANTHROPIC_API_KEY"), QStringLiteral("Claude Code"),
+                                   QStringLiteral("sk-ant-a-much-longer-key"));
     ASSERT_FALSE(rewritten.ok());
     const auto block = ProfileWriter::addSearchPathBlock(profile);
     ASSERT_FALSE(block.ok());
@@ -239,15 +245,13 @@ TEST(ProfileWriterFiles, AReadOnlyProfileIsRefusedWhateverTheChange)
     write(profile, before);
     ASSERT_EQ(::chmod(QFile::encodeName(profile).constData(), 0444), 0);
 
-    const auto rewritten = ProfileWriter::store(
-        profile, QStringLiteral("OPENAI_API_KEY"), QStringLiteral("Codex"),
-        ProfileWriter::exportLine(QStringLiteral("OPENAI_API_KEY"), QStringLiteral("new")));
+    const auto rewritten = saveKey(profile, QStringLiteral("OPENAI_API_KEY"), QStringLiteral("Codex"),
+                                   QStringLiteral("new"));
     ASSERT_FALSE(rewritten.ok());
     EXPECT_EQ(rewritten.error().errorDescription(),
               QStringLiteral("Could not save the API key to %1: Permission denied").arg(profile));
-    const auto appended = ProfileWriter::store(
-        profile, QStringLiteral("GEMINI_API_KEY"), QStringLiteral("Gemini CLI"),
-        ProfileWriter::exportLine(QStringLiteral("GEMINI_API_KEY"), QStringLiteral("new")));
+    const auto appended = saveKey(profile, QStringLiteral("GEMINI_API_KEY"), QStringLiteral("Gemini CLI"),
+                                  QStringLiteral("new"));
     ASSERT_FALSE(appended.ok());
     EXPECT_TRUE(appended.error().errorDescription().endsWith(QStringLiteral("Permission denied")));
     const auto block = ProfileWriter::addSearchPathBlock(profile);
@@ -258,9 +262,8 @@ TEST(ProfileWriterFiles, AReadOnlyProfileIsRefusedWhateverTheChange)
     EXPECT_EQ(QFileInfo(profile).permissions() & QFile::WriteOwner, 0);
 
     // Where nothing needs to change, a read-only profile is no error: the key is there already.
-    const auto same = ProfileWriter::store(
-        profile, QStringLiteral("OPENAI_API_KEY"), QStringLiteral("Codex"),
-        ProfileWriter::exportLine(QStringLiteral("OPENAI_API_KEY"), QStringLiteral("old")));
+    const auto same = saveKey(profile, QStringLiteral("OPENAI_API_KEY"), QStringLiteral("Codex"),
+                              QStringLiteral("old"));
     EXPECT_TRUE(same.ok());
 }
 
