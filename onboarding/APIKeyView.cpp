@@ -2,6 +2,7 @@
 
 #include "InstallationState.h"
 #include "Services.h"
+#include "ToolInstaller.h"
 
 #include "Label.h"
 #include "Layout.h"
@@ -28,13 +29,6 @@ QVBoxLayout* card(QVBoxLayout* column, const QString& objectName)
 
 } // namespace
 
-QString APIKeyView::displayedPath(const QString& path, const QString& home)
-{
-    if (!home.isEmpty() && home != QLatin1String("/") && path.startsWith(home + QLatin1Char('/')))
-        return QLatin1Char('~') + path.sliced(home.size());
-    return path;
-}
-
 APIKeyView::APIKeyView(InstallationState& state, Services& services, QWidget* parent)
     : FlowScreen(QStringLiteral("apiKeyView"), tr("Set Up API Key"), parent),
       m_state(state),
@@ -51,7 +45,12 @@ APIKeyView::APIKeyView(InstallationState& state, Services& services, QWidget* pa
     bottomBar()->addWidget(m_skip);
     bottomBar()->addStretch(1);
     m_save = flow::mainButton(tr("Save & Continue"), QStringLiteral("saveButton"));
-    connect(m_save, &QAbstractButton::clicked, this, &APIKeyView::save);
+    connect(m_save, &QAbstractButton::clicked, this, [this] {
+        if (m_savedNotice)
+            m_state.goToNextStep();
+        else
+            save();
+    });
     bottomBar()->addWidget(m_save);
     setDefaultButton(m_save);
     render();
@@ -125,8 +124,20 @@ void APIKeyView::buildContent(CLITool tool, Platform& platform, const QString& p
     errorLine->addWidget(m_errorText, 1);
     second->addWidget(m_errorRow);
 
+    // What the user should know about a save that worked.
+    m_noticeRow = new QWidget;
+    m_noticeRow->setObjectName(QStringLiteral("savedNoticeRow"));
+    auto* noticeLine = hstack(m_noticeRow, 6);
+    noticeLine->addWidget(new SymbolView(QStringLiteral("info.circle"), 10, Tint(Role::blue)), 0, Qt::AlignTop);
+    m_noticeText = new Label(QString(), Theme::caption());
+    m_noticeText->setObjectName(QStringLiteral("savedNotice"));
+    m_noticeText->setWrapping(true);
+    m_noticeText->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    noticeLine->addWidget(m_noticeText, 1);
+    second->addWidget(m_noticeRow);
+
     auto* caption = new Label(tr("This will be saved to your shell profile (%1) as %2")
-                                  .arg(displayedPath(profile, QDir::homePath()), tool.apiKeyEnvVar()),
+                                  .arg(ToolInstaller::displayedPath(profile), tool.apiKeyEnvVar()),
                               Theme::caption(), Tint(Role::secondary));
     caption->setObjectName(QStringLiteral("profileCaption"));
     caption->setWrapping(true);
@@ -152,11 +163,17 @@ void APIKeyView::save()
     m_isSaving = true;
     m_saveError.reset();
     render();
-    QCoro::connect(m_installer.saveAPIKey(key, *tool), this, [this, key](const Result<void>& saved) {
+    QCoro::connect(m_installer.saveAPIKey(key, *tool), this, [this, key](const Result<QString>& saved) {
         m_isSaving = false;
         if (saved) {
             m_state.setApiKey(key);
-            m_state.goToNextStep();
+            if (saved.value().isEmpty()) {
+                m_state.goToNextStep();
+                return;
+            }
+            // Read before going on.
+            m_savedNotice = saved.value();
+            render();
             return;
         }
         const QString reason = saved.error().errorDescription();
@@ -182,11 +199,16 @@ void APIKeyView::render()
         m_eye->setToolTip(m_eye->accessibleName());
         m_errorRow->setVisible(m_saveError.has_value());
         m_errorText->setText(m_saveError.value_or(QString()));
+        m_noticeRow->setVisible(m_savedNotice.has_value());
+        m_noticeText->setText(m_savedNotice.value_or(QString()));
+        m_field->setReadOnly(m_isSaving || m_savedNotice);
     }
+    m_save->setText(m_savedNotice ? tr("Continue") : tr("Save & Continue"));
     m_save->setEnabled(hasField && !m_field->text().isEmpty() && !m_isSaving);
     m_save->setShowsActivity(m_isSaving);
     m_save->setAccessibleDescription(m_isSaving ? tr("Saving") : QString());
     m_skip->setEnabled(!m_isSaving);
+    m_skip->setVisible(!m_savedNotice);
 }
 
 } // namespace qf

@@ -19,7 +19,9 @@ class TextField;
 // Stores the chosen tool's API key in the user's shell profile: where to get a key (the maker's
 // console), a field to paste it into (masked unless the eye button shows it) and "Save &
 // Continue", or "Skip for Now". Both lead on to the completion screen. A save that fails
-// stays here with its reason under the field; editing the key clears it.
+// stays here with its reason under the field; editing the key clears it. A save the user
+// should know more about (a profile line that computes the key was kept) shows that under
+// the field, and "Continue" leads on.
 class APIKeyView : public FlowScreen {
     Q_OBJECT
 
@@ -29,9 +31,6 @@ public:
     bool isSaving() const { return m_isSaving; }
     bool showKey() const { return m_showKey; }
     ui::TextField* keyField() const { return m_field; }
-
-    // "~/.zshrc" for a profile in the home folder; other paths as they are.
-    static QString displayedPath(const QString& path, const QString& home);
 
 protected:
     // The field is ready for the paste.
@@ -47,11 +46,14 @@ private:
     bool m_isSaving = false;
     bool m_showKey = false;
     std::optional<QString> m_saveError;
+    std::optional<QString> m_savedNotice;
 
     ui::TextField* m_field = nullptr;
     ui::Button* m_eye = nullptr;
     QWidget* m_errorRow = nullptr;
     ui::Label* m_errorText = nullptr;
+    QWidget* m_noticeRow = nullptr;
+    ui::Label* m_noticeText = nullptr;
     ui::Button* m_skip;
     ui::Button* m_save;
 };

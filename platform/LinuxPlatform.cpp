@@ -38,6 +38,10 @@ QString userShell()
     return QStringLiteral("/bin/bash");
 }
 
+// Terminal emulators here start bash as an interactive shell that is no login shell, so it
+// reads ~/.bashrc; the windows Quillforge opens do the same.
+bool startsAsLoginShell(const QString& shell) { return QFileInfo(shell).fileName() != QLatin1String("bash"); }
+
 // Shells that take "-l" only as their one flag.
 const QStringList& cshFamilies()
 {
@@ -270,7 +274,8 @@ std::optional<QString> LinuxPlatform::findTerminalEmulator(const QString& search
 QString LinuxPlatform::terminalShellLine(const QString& command, const QString& directory, const QString& shell)
 {
     return QStringLiteral("cd ") + shellDirectory(directory) + QStringLiteral(" && ") + command +
-           QStringLiteral("; exec ") + shellQuote(shell) + QStringLiteral(" -l");
+           QStringLiteral("; exec ") + shellQuote(shell) +
+           (startsAsLoginShell(shell) ? QStringLiteral(" -l") : QString());
 }
 
 QStringList LinuxPlatform::shellInvocation(const QString& shell, const QString& line)
@@ -278,6 +283,8 @@ QStringList LinuxPlatform::shellInvocation(const QString& shell, const QString& 
     // csh and tcsh refuse "-l" beside other flags; without it they still read ~/.cshrc.
     if (cshFamilies().contains(QFileInfo(shell).fileName()))
         return {shell, QStringLiteral("-c"), line};
+    if (!startsAsLoginShell(shell))
+        return {shell, QStringLiteral("-i"), QStringLiteral("-c"), line};
     return {shell, QStringLiteral("-l"), QStringLiteral("-i"), QStringLiteral("-c"), line};
 }
 
@@ -378,6 +385,10 @@ QStringList LinuxPlatform::terminalShellInvocation(const QString& line) const
 {
     return shellInvocation(userShell(), line);
 }
+
+QString LinuxPlatform::loginShell() const { return userShell(); }
+
+bool LinuxPlatform::terminalStartsLoginShell() const { return startsAsLoginShell(userShell()); }
 
 std::optional<NodeReleaseTarget> LinuxPlatform::nodeReleaseTarget() const
 {

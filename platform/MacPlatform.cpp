@@ -150,6 +150,9 @@ void MacPlatform::openTerminal(const QString& command, const QString& directory,
 
 QString MacPlatform::terminalDescription() const { return QStringLiteral("Terminal.app (through AppleScript)"); }
 
+// Terminal opens every window with a login shell.
+bool MacPlatform::terminalStartsLoginShell() const { return true; }
+
 DiskSpace MacPlatform::availableDiskSpace(const QString& path) const
 {
     if (const std::optional<DiskSpace> space = importantUsageSpace(path))
@@ -210,12 +213,18 @@ void MacPlatform::startDeveloperToolsInstaller()
                        [] { runAppleScript(systemEventsScript(), false); });
 }
 
-QStringList MacPlatform::terminalShellInvocation(const QString& line) const
+QString MacPlatform::loginShell() const
 {
-    // A Terminal window starts the user's shell as an interactive login shell.
     QString shell = qEnvironmentVariable("SHELL");
     if (const QFileInfo info(shell); shell.isEmpty() || !info.isFile() || !info.isExecutable())
         shell = QStringLiteral("/bin/zsh");
+    return shell;
+}
+
+QStringList MacPlatform::terminalShellInvocation(const QString& line) const
+{
+    // A Terminal window starts the user's shell as an interactive login shell.
+    const QString shell = loginShell();
     if (QFileInfo(shell).fileName().endsWith(QLatin1String("csh")))
         return {shell, QStringLiteral("-c"), line};
     return {shell, QStringLiteral("-l"), QStringLiteral("-i"), QStringLiteral("-c"), line};

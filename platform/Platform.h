@@ -130,6 +130,11 @@ public:
     // `line`: the user's shell, started as the terminal starts it, so that it reads the same
     // start-up files.
     virtual QStringList terminalShellInvocation(const QString& line) const = 0;
+    // The user's shell: the one a new terminal window starts.
+    virtual QString loginShell() const = 0;
+    // Whether a new terminal window starts it as a login shell (bash then reads
+    // ~/.bash_profile instead of ~/.bashrc).
+    virtual bool terminalStartsLoginShell() const = 0;
 
     // Shows a folder to the user in the file manager.
     virtual void revealFolder(const QString& path);

@@ -27,6 +27,8 @@ public:
     DeveloperToolsItem developerToolsItem() const override;
     void startDeveloperToolsInstaller() override;
     QStringList terminalShellInvocation(const QString& line) const override;
+    QString loginShell() const override;
+    bool terminalStartsLoginShell() const override;
     QString administratorCommand(const QString& command) const override { return administratorLine(command); }
     std::optional<NodeReleaseTarget> nodeReleaseTarget() const override;
 
@@ -66,6 +68,8 @@ public:
     DeveloperToolsItem developerToolsItem() const override;
     void startDeveloperToolsInstaller() override;
     QStringList terminalShellInvocation(const QString& line) const override;
+    QString loginShell() const override;
+    bool terminalStartsLoginShell() const override;
     QString administratorCommand(const QString& command) const override { return administratorLine(command); }
     std::optional<NodeReleaseTarget> nodeReleaseTarget() const override;
 

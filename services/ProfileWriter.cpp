@@ -2,6 +2,7 @@
 
 #include "ShellQuote.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QLocale>
@@ -219,6 +220,11 @@ int writeWhole(const QString& target, const QByteArray& bytes, const std::option
 int editProfile(const QString& path, const std::function<std::optional<QByteArray>(const QByteArray&)>& edit)
 {
     const QString target = resolvedTarget(path);
+    // A profile of its own folder (fish's conf.d) may be the first file there.
+    const QString folder = QFileInfo(target).absolutePath();
+    errno = 0;
+    if (!QFileInfo(folder).isDir() && !QDir().mkpath(folder))
+        return errno != 0 ? errno : EACCES;
     const FolderLock lock(target);
     if (lock.failed())
         return anotherWriterBusy;
@@ -263,29 +269,125 @@ bool ProfileWriter::isPlainKey(const QString& key)
     return true;
 }
 
-QString ProfileWriter::exportLine(const QString& variable, const QString& key)
+QString ProfileWriter::exportLine(const QString& variable, const QString& key, ShellFamily family)
 {
+    QString head;
+    switch (family) {
+    case ShellFamily::posix: head = QStringLiteral("export ") + variable + QLatin1Char('='); break;
+    case ShellFamily::fish: head = QStringLiteral("set -gx ") + variable + QLatin1Char(' '); break;
+    case ShellFamily::csh: head = QStringLiteral("setenv ") + variable + QLatin1Char(' '); break;
+    }
     if (isPlainKey(key))
-        return QStringLiteral("export ") + variable + QStringLiteral("=\"") + key + QLatin1Char('"');
-    // Inside single quotes bash and zsh expand nothing.
-    return QStringLiteral("export ") + variable + QLatin1Char('=') + shellQuote(key, Quoting::always);
+        return head + QLatin1Char('"') + key + QLatin1Char('"');
+    QString quoted = key;
+    switch (family) {
+    case ShellFamily::posix:
+        // Inside single quotes bash and zsh expand nothing.
+        return head + shellQuote(key, Quoting::always);
+    case ShellFamily::fish:
+        // fish's single quotes know two escapes, for the quote and the backslash.
+        quoted.replace(QLatin1Char('\\'), QStringLiteral("\\\\")).replace(QLatin1Char('\''), QStringLiteral("\\'"));
+        return head + QLatin1Char('\'') + quoted + QLatin1Char('\'');
+    case ShellFamily::csh:
+        // csh expands nothing in single quotes but history: '!' needs its backslash there.
+        quoted.replace(QLatin1Char('\''), QStringLiteral("'\\''")).replace(QLatin1Char('!'), QStringLiteral("\\!"));
+        return head + QLatin1Char('\'') + quoted + QLatin1Char('\'');
+    }
+    return head + shellQuote(key, Quoting::always);
 }
 
+namespace {
+
+bool isBlank(char c) { return c == ' ' || c == '\t'; }
+
+// Where an unquoted word ends: a blank, the line's end or an operator.
+bool endsWord(char c)
+{
+    return c == ' ' || c == '\t' || c == '\r' || c == '\n' || c == ';' || c == '&' || c == '|' || c == '(' ||
+           c == ')' || c == '<' || c == '>';
+}
+
+// The words at `i` of `content`, after the blanks before them.
+QByteArray wordAt(const QByteArray& content, qsizetype& i)
+{
+    while (i < content.size() && isBlank(content.at(i)))
+        ++i;
+    const qsizetype start = i;
+    while (i < content.size() && !endsWord(content.at(i)))
+        ++i;
+    return content.mid(start, i - start);
+}
+
+// Where the value of an export of `name` starts when the line (from its indentation at `i`)
+// is one in `family`'s words; -1 when it is not.
+qsizetype exportValueStart(const QByteArray& content, qsizetype i, const QByteArray& name, ShellFamily family)
+{
+    switch (family) {
+    case ShellFamily::posix: {
+        // `export NAME=` or `NAME=`.
+        while (i < content.size() && isBlank(content.at(i)))
+            ++i;
+        if (content.mid(i).startsWith("export") && i + 6 < content.size() && isBlank(content.at(i + 6))) {
+            i += 6;
+            while (i < content.size() && isBlank(content.at(i)))
+                ++i;
+        }
+        return content.mid(i).startsWith(QByteArray(name + '=')) ? i + name.size() + 1 : -1;
+    }
+    case ShellFamily::fish: {
+        // `set`, its options (one of them exports), then the name.
+        if (wordAt(content, i) != "set")
+            return -1;
+        bool exported = false;
+        for (;;) {
+            const QByteArray word = wordAt(content, i);
+            if (word.startsWith("--")) {
+                exported = exported || word == "--export";
+                continue;
+            }
+            if (word.startsWith('-') && word.size() > 1) {
+                exported = exported || word.contains('x');
+                continue;
+            }
+            if (word != name || !exported)
+                return -1;
+            break;
+        }
+        break;
+    }
+    case ShellFamily::csh:
+        if (wordAt(content, i) != "setenv" || wordAt(content, i) != name)
+            return -1;
+        break;
+    }
+    if (i < content.size() && !isBlank(content.at(i)))
+        return -1;
+    while (i < content.size() && isBlank(content.at(i)))
+        ++i;
+    return i;
+}
+
+// The characters that make a quoted value more than its letters in `family`.
+QByteArrayView expandingInQuotes(char quote, ShellFamily family)
+{
+    switch (family) {
+    case ShellFamily::posix: return quote == '"' ? QByteArrayView("$`\\") : QByteArrayView();
+    case ShellFamily::fish: return quote == '"' ? QByteArrayView("$`\\(") : QByteArrayView("\\");
+    case ShellFamily::csh: return quote == '"' ? QByteArrayView("$`\\!") : QByteArrayView("\\!");
+    }
+    return QByteArrayView("$`\\");
+}
+
+} // namespace
+
 ProfileWriter::ProfileChange ProfileWriter::withExport(const QByteArray& profile, const QString& variable,
-                                                       const QString& displayName, const QString& line)
+                                                       const QString& displayName, const QString& line,
+                                                       ShellFamily family)
 {
     const QByteArray name = variable.toUtf8();
     const QByteArray lineBytes = line.toUtf8();
-    const QByteArray assignment = name + '=';
-    const QByteArray prefix = "export " + assignment;
-    const QByteArray value = lineBytes.startsWith(prefix) ? lineBytes.mid(prefix.size()) : lineBytes;
-
-    const auto isBlank = [](char c) { return c == ' ' || c == '\t'; };
-    // Where an unquoted word ends: a blank, the line's end or an operator.
-    const auto endsWord = [](char c) {
-        return c == ' ' || c == '\t' || c == '\r' || c == '\n' || c == ';' || c == '&' || c == '|' || c == '(' ||
-               c == ')' || c == '<' || c == '>';
-    };
+    const qsizetype valueStart = exportValueStart(lineBytes, 0, name, family);
+    const QByteArray value = valueStart >= 0 ? lineBytes.mid(valueStart) : lineBytes;
 
     ProfileChange change;
     bool found = false;
@@ -303,21 +405,12 @@ ProfileWriter::ProfileChange ProfileWriter::withExport(const QByteArray& profile
         const bool continued = continuation;
         continuation = content.endsWith('\\');
 
-        // The first word: `export NAME=` or `NAME=`, after any indentation.
-        qsizetype i = 0;
-        while (i < content.size() && isBlank(content.at(i)))
-            ++i;
-        if (!continued && content.mid(i).startsWith("export") && i + 6 < content.size() && isBlank(content.at(i + 6))) {
-            i += 6;
-            while (i < content.size() && isBlank(content.at(i)))
-                ++i;
-        }
-        if (continued || !content.mid(i).startsWith(assignment)) {
+        const qsizetype start = continued ? -1 : exportValueStart(content, 0, name, family);
+        if (start < 0) {
             change.profile += physical;
             continue;
         }
         found = true;
-        const qsizetype start = i + name.size() + 1;
 
         // The value: literal, or computed (anything a shell would expand or join).
         qsizetype stop = start;
@@ -329,8 +422,10 @@ ProfileWriter::ProfileChange ProfileWriter::withExport(const QByteArray& profile
                 literal = false;
             } else {
                 const QByteArray inside = content.mid(start + 1, close - start - 1);
-                if (first == '"' && (inside.contains('$') || inside.contains('`') || inside.contains('\\')))
-                    literal = false;
+                for (const char c : expandingInQuotes(first, family)) {
+                    if (inside.contains(c))
+                        literal = false;
+                }
                 stop = close + 1;
                 if (stop < content.size() && !endsWord(content.at(stop)))
                     literal = false; // joined to more text
@@ -342,6 +437,16 @@ ProfileWriter::ProfileChange ProfileWriter::withExport(const QByteArray& profile
                 if (QByteArrayView("$`\\\"'{}*?[]~!").contains(c))
                     literal = false;
             }
+        }
+        // A value followed by a parenthesis is an array or a command's output.
+        if (stop < content.size() && (content.at(stop) == '(' || content.at(stop) == ')'))
+            literal = false;
+        if (family != ShellFamily::posix) {
+            // In fish and csh more words would make a list or a mistake: only a comment or
+            // the next command may follow.
+            const QByteArray rest = content.mid(stop).trimmed();
+            if (!rest.isEmpty() && !rest.startsWith('#') && !rest.startsWith(';'))
+                literal = false;
         }
         if (literal) {
             change.profile += physical.left(start) + value + physical.mid(stop);
@@ -365,11 +470,12 @@ QByteArray ProfileWriter::appendedBlock(const QString& displayName, const QStrin
 }
 
 Result<ProfileWriter::ProfileChange> ProfileWriter::store(const QString& path, const QString& variable,
-                                                          const QString& displayName, const QString& line)
+                                                          const QString& displayName, const QString& line,
+                                                          ShellFamily family)
 {
     ProfileChange change;
     const int error = editProfile(path, [&](const QByteArray& current) -> std::optional<QByteArray> {
-        change = withExport(current, variable, displayName, line);
+        change = withExport(current, variable, displayName, line, family);
         return change.profile;
     });
     if (error != 0)
@@ -377,17 +483,37 @@ Result<ProfileWriter::ProfileChange> ProfileWriter::store(const QString& path, c
     return change;
 }
 
-QByteArray ProfileWriter::searchPathBlock()
+QByteArray ProfileWriter::searchPathBlock(ShellFamily family)
 {
-    return QByteArray("\n") + kSearchPathMark + "\nexport PATH=\"$HOME/.local/bin:$PATH\"\n";
+    QByteArray lines;
+    switch (family) {
+    case ShellFamily::posix: lines = "export PATH=\"$HOME/.local/bin:$PATH\"\n"; break;
+    case ShellFamily::fish:
+        lines = "if not contains -- $HOME/.local/bin $PATH\n"
+                "    set -gx PATH $HOME/.local/bin $PATH\n"
+                "end\n";
+        break;
+    case ShellFamily::csh: lines = "set path = ( $HOME/.local/bin $path )\n"; break;
+    }
+    return QByteArray("\n") + kSearchPathMark + '\n' + lines;
 }
 
-Result<bool> ProfileWriter::addSearchPathBlock(const QString& path)
+QString ProfileWriter::searchPathLine(ShellFamily family)
+{
+    switch (family) {
+    case ShellFamily::posix: break;
+    case ShellFamily::fish: return QStringLiteral("set -gx PATH $HOME/.local/bin $PATH");
+    case ShellFamily::csh: return QStringLiteral("set path = ( $HOME/.local/bin $path )");
+    }
+    return QStringLiteral("export PATH=\"$HOME/.local/bin:$PATH\"");
+}
+
+Result<bool> ProfileWriter::addSearchPathBlock(const QString& path, ShellFamily family)
 {
     // Once is enough; a block cut off after its mark (by an older version) is not the block.
     bool added = false;
-    const int error = editProfile(path, [&added](const QByteArray& current) -> std::optional<QByteArray> {
-        const QByteArray block = searchPathBlock();
+    const int error = editProfile(path, [&added, family](const QByteArray& current) -> std::optional<QByteArray> {
+        const QByteArray block = searchPathBlock(family);
         if (current.contains(block.mid(1, block.size() - 2)))
             return std::nullopt;
         added = true;

@@ -99,15 +99,40 @@ std::optional<qint64> SystemDetector::availableDiskSpaceMB() const
     return bytesToMegabytes(*space.bytes);
 }
 
-QString SystemDetector::shellProfilePath() const
+ShellProfile SystemDetector::shellProfile() const
 {
     const QString home = QDir::homePath();
-    for (const char* name : {"/.zshrc", "/.bash_profile", "/.bashrc"}) {
-        QString candidate = home + QLatin1String(name);
-        if (QFileInfo(candidate).isFile())
-            return candidate;
+    const auto firstFile = [&home](std::initializer_list<const char*> names) -> std::optional<QString> {
+        for (const char* name : names) {
+            QString candidate = home + QLatin1Char('/') + QLatin1String(name);
+            if (QFileInfo(candidate).isFile())
+                return candidate;
+        }
+        return std::nullopt;
+    };
+    const QString shell = QFileInfo(m_platform.loginShell()).fileName();
+    if (shell == QLatin1String("zsh"))
+        return {home + QStringLiteral("/.zshrc"), ShellFamily::posix};
+    if (shell == QLatin1String("bash")) {
+        if (!m_platform.terminalStartsLoginShell())
+            return {home + QStringLiteral("/.bashrc"), ShellFamily::posix};
+        // A login bash reads only the first of these; a new ~/.bash_profile would hide ~/.profile.
+        return {
+            firstFile({".bash_profile", ".bash_login", ".profile"}).value_or(home + QStringLiteral("/.bash_profile")),
+            ShellFamily::posix};
     }
-    return home + QStringLiteral("/.zshrc");
+    if (shell == QLatin1String("fish")) {
+        QString config = qEnvironmentVariable("XDG_CONFIG_HOME");
+        if (!QDir::isAbsolutePath(config))
+            config = home + QStringLiteral("/.config");
+        return {config + QStringLiteral("/fish/conf.d/quillforge.fish"), ShellFamily::fish};
+    }
+    if (shell == QLatin1String("tcsh"))
+        return {firstFile({".tcshrc", ".cshrc"}).value_or(home + QStringLiteral("/.tcshrc")), ShellFamily::csh};
+    if (shell == QLatin1String("csh"))
+        return {home + QStringLiteral("/.cshrc"), ShellFamily::csh};
+    return {firstFile({".zshrc", ".bash_profile", ".bashrc"}).value_or(home + QStringLiteral("/.zshrc")),
+            ShellFamily::posix};
 }
 
 QCoro::Task<QList<RequirementStatus>> SystemDetector::checkAllRequirements(CLITool tool)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CLITool.h"
+#include "ProfileWriter.h"
 #include "SetupModel.h"
 #include "ShellRunner.h"
 
@@ -54,8 +55,14 @@ public:
     // Megabytes free on the volume of the home folder; nothing (and one diagnostic line on
     // standard output) when it cannot be read.
     std::optional<qint64> availableDiskSpaceMB() const;
-    // The first of ~/.zshrc, ~/.bash_profile and ~/.bashrc that exists as a file, else ~/.zshrc.
-    QString shellProfilePath() const;
+    // The start-up file that the shell of a new terminal window reads, chosen by the user's
+    // shell: zsh ~/.zshrc; bash ~/.bashrc, or as a login shell the first of ~/.bash_profile,
+    // ~/.bash_login and ~/.profile (~/.bash_profile when there is none); fish a file of its own
+    // in ~/.config/fish/conf.d; tcsh ~/.tcshrc unless only ~/.cshrc exists; csh ~/.cshrc.
+    // Any other shell: the first of ~/.zshrc, ~/.bash_profile and ~/.bashrc that exists as a
+    // file, else ~/.zshrc.
+    ShellProfile shellProfile() const;
+    QString shellProfilePath() const { return shellProfile().path; }
 
     // The rules, on their own.
     static NodeCheck evaluateNodeVersion(const std::optional<QString>& version,

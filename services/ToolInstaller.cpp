@@ -361,26 +361,36 @@ QCoro::Task<void> ToolInstaller::addLocalProgramsToSearchPath(CLITool tool, cons
     const QString folder = QDir::homePath() + QStringLiteral("/.local/bin");
     if (co_await newTerminalSearches(folder))
         co_return;
-    const QString profile = m_detector.shellProfilePath();
-    const QString shown = QDir::home().relativeFilePath(profile).prepend(QStringLiteral("~/"));
-    QFuture<Result<bool>> adding = QtConcurrent::run(ProfileWriter::addSearchPathBlock, profile);
+    // The start-up file of the user's own shell, in that shell's words: a fish or tcsh user
+    // never reads ~/.zshrc.
+    const ShellProfile profile = m_detector.shellProfile();
+    const QString shown = displayedPath(profile.path);
+    QFuture<Result<bool>> adding =
+        QtConcurrent::run([profile] { return ProfileWriter::addSearchPathBlock(profile.path, profile.family); });
     const Result<bool> added = co_await adding;
     if (!added) {
         log(QStringLiteral("Note: ") + added.error().errorDescription() +
-            QStringLiteral("\nTo start %1 from a terminal, add this line to your shell profile:\n"
-                           "export PATH=\"$HOME/.local/bin:$PATH\"\n")
-                .arg(tool.displayName()));
+            QStringLiteral("\nTo start %1 from a terminal, add this line to %2:\n%3\n")
+                .arg(tool.displayName(), shown, ProfileWriter::searchPathLine(profile.family)));
         co_return;
     }
-    if (added.value())
+    const bool found = co_await newTerminalSearches(folder);
+    if (found && added.value())
         log(QStringLiteral("Added ~/.local/bin to the search path in %1, so new terminal windows find %2.\n")
                 .arg(shown, tool.displayName()));
-    if (!co_await newTerminalSearches(folder)) {
+    if (!found) {
         log(QStringLiteral("Note: %1 puts ~/.local/bin on the search path, but a new terminal window does not read "
                            "it. To start %2 there, add ~/.local/bin to the search path in your shell's own start-up "
                            "file.\n")
                 .arg(shown, tool.displayName()));
     }
+}
+
+QString ToolInstaller::displayedPath(const QString& path, const QString& home)
+{
+    if (!home.isEmpty() && home != QLatin1String("/") && path.startsWith(home + QLatin1Char('/')))
+        return QLatin1Char('~') + path.sliced(home.size());
+    return path;
 }
 
 QString ToolInstaller::nodeShadowedMessage(CLITool tool, const QList<NodeInstall>& installs)
@@ -404,7 +414,7 @@ QString ToolInstaller::nodeShadowedMessage(CLITool tool, const QList<NodeInstall
         .arg(fresh->version, fresh->folder, first.version, first.folder, need);
 }
 
-QCoro::Task<Result<void>> ToolInstaller::saveAPIKey(QString key, CLITool tool)
+QCoro::Task<Result<QString>> ToolInstaller::saveAPIKey(QString key, CLITool tool)
 {
     // Checked before any file or the environment is touched; the key itself is never written
     // to a log, and no command is started for the save.
@@ -412,18 +422,28 @@ QCoro::Task<Result<void>> ToolInstaller::saveAPIKey(QString key, CLITool tool)
         co_return ServiceError::message(*reason);
 
     const QString variable = tool.apiKeyEnvVar();
-    const QString profile = m_detector.shellProfilePath();
+    const ShellProfile profile = m_detector.shellProfile();
     const QString displayName = tool.displayName();
-    const QString line = ProfileWriter::exportLine(variable, key);
+    const QString line = ProfileWriter::exportLine(variable, key, profile.family);
     // The files are handled on a worker thread: a slow or stuck home folder never freezes the
     // window.
-    QFuture<Result<ProfileWriter::ProfileChange>> storing = QtConcurrent::run(
-        [profile, variable, displayName, line] { return ProfileWriter::store(profile, variable, displayName, line); });
+    QFuture<Result<ProfileWriter::ProfileChange>> storing = QtConcurrent::run([profile, variable, displayName, line] {
+        return ProfileWriter::store(profile.path, variable, displayName, line, profile.family);
+    });
     const Result<ProfileWriter::ProfileChange> stored = co_await storing;
     if (!stored)
         co_return stored.error();
     qputenv(variable.toUtf8().constData(), key.toUtf8());
-    co_return Result<void>();
+    if (stored.value().afterComputedValue)
+        co_return computedValueNotice(variable, displayedPath(profile.path));
+    co_return QString();
+}
+
+QString ToolInstaller::computedValueNotice(const QString& variable, const QString& profile)
+{
+    return QObject::tr("Your key is saved. %1 sets %2 from a command or another variable, so that line was left as "
+                       "it was; your key is on a new line after it, which is the one new terminal windows use.")
+        .arg(profile, variable);
 }
 
 } // namespace qf

@@ -9,6 +9,7 @@
 #include "SystemDetector.h"
 
 #include <QCoro/QCoroTask>
+#include <QDir>
 
 #include <functional>
 #include <optional>
@@ -49,9 +50,15 @@ public:
     // without looking.
     QCoro::Task<Result<void>> uninstall(CLITool tool, Output onOutput);
 
-    // Stores `key` as the tool's environment variable in the shell profile (rewriting an
-    // existing export line in place, or appending one) and sets it in this process too.
-    QCoro::Task<Result<void>> saveAPIKey(QString key, CLITool tool);
+    // Stores `key` as the tool's environment variable in the start-up file of the user's shell
+    // (rewriting an existing export line in place, or appending one) and sets it in this
+    // process too. What the user should know about the save comes back (nothing: empty), such
+    // as a computed value that was left and followed by the new line.
+    QCoro::Task<Result<QString>> saveAPIKey(QString key, CLITool tool);
+    static QString computedValueNotice(const QString& variable, const QString& profile);
+
+    // `path` as the user knows it: "~/.bashrc" for a file in the home folder.
+    static QString displayedPath(const QString& path, const QString& home = QDir::homePath());
 
     // Why the Node.js step failed although an installation ran: the first Node.js on the
     // search path (`installs`, in search order) is older than `tool` needs. Names both

@@ -51,8 +51,15 @@ public:
     void startDeveloperToolsInstaller() override { ++installersStarted; }
     QStringList terminalShellInvocation(const QString& line) const override
     {
+        // As the real systems start them: csh and tcsh take "-l" only alone.
+        if (terminalShell.endsWith(QLatin1String("csh")))
+            return {terminalShell, QStringLiteral("-c"), line};
+        if (!loginTerminals)
+            return {terminalShell, QStringLiteral("-i"), QStringLiteral("-c"), line};
         return {terminalShell, QStringLiteral("-l"), QStringLiteral("-i"), QStringLiteral("-c"), line};
     }
+    QString loginShell() const override { return terminalShell; }
+    bool terminalStartsLoginShell() const override { return loginTerminals; }
     std::optional<NodeReleaseTarget> nodeReleaseTarget() const override { return releaseTarget; }
     // Through the fake `sudo`, which runs the command unless told to refuse.
     QString administratorCommand(const QString& command) const override
@@ -71,6 +78,7 @@ public:
                                                                        QStringLiteral("linux-x64")};
     // The shell a new terminal window would start.
     QString terminalShell = QStringLiteral("/bin/zsh");
+    bool loginTerminals = true;
     // Whether a terminal window opens; whether the answer waits for `releaseTerminalOutcomes`.
     bool terminalOpens = true;
     bool holdTerminalOutcomes = false;

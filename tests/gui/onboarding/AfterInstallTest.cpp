@@ -8,6 +8,7 @@
 #include "TerminalFallback.h"
 #include "TerminalScreenView.h"
 #include "TextField.h"
+#include "ToolInstaller.h"
 
 #include <QAccessible>
 #include <QClipboard>
@@ -313,7 +314,10 @@ TEST_F(AfterInstallTest, TheKeyFieldEditsOneTextThatStaysSecretWhileMasked)
 
 TEST_F(AfterInstallTest, ASavedKeyLandsInTheProfileTheCaptionNames)
 {
-    // Only ~/.bashrc: that is the profile written, and the one the caption names.
+    // A bash user whose terminal reads ~/.bashrc: that is the profile written, and the one the
+    // caption names.
+    platform.terminalShell = QStringLiteral("/bin/bash");
+    platform.loginTerminals = false;
     {
         QFile bashrc(QDir::homePath() + QStringLiteral("/.bashrc"));
         ASSERT_TRUE(bashrc.open(QIODevice::WriteOnly));
@@ -339,6 +343,43 @@ TEST_F(AfterInstallTest, ASavedKeyLandsInTheProfileTheCaptionNames)
     saveAndWait();
     EXPECT_EQ(state.currentStep(), InstallationStep::completion);
     EXPECT_EQ(qgetenv("GEMINI_API_KEY"), QByteArray("   "));
+
+    // A tcsh user: the caption names ~/.tcshrc and the key goes there in tcsh's words.
+    platform.terminalShell = QStringLiteral("/usr/bin/tcsh");
+    open(InstallationStep::apiKey, CLITool::claudeCode);
+    EXPECT_EQ(text("profileCaption"),
+              QStringLiteral("This will be saved to your shell profile (~/.tcshrc) as ANTHROPIC_API_KEY"));
+    typeKey(kKey);
+    saveAndWait();
+    EXPECT_EQ(state.currentStep(), InstallationStep::completion);
+    EXPECT_EQ(profileText("/.tcshrc"),
+              QStringLiteral("\n# Claude Code API Key\nsetenv ANTHROPIC_API_KEY \"") + kKey + QStringLiteral("\"\n"));
+}
+
+TEST_F(AfterInstallTest, AKeyTheProfileComputesIsFollowedAndTheScreenSaysSo)
+{
+    platform.terminalShell = QStringLiteral("/bin/zsh");
+    {
+        QFile zshrc(QDir::homePath() + QStringLiteral("/.zshrc"));
+        ASSERT_TRUE(zshrc.open(QIODevice::WriteOnly));
+        zshrc.write("export OPENAI_API_KEY=$(cat ~/.openai-key)\n");
+    }
+    open(InstallationStep::apiKey, CLITool::codex);
+    EXPECT_FALSE(showsChild("savedNoticeRow"));
+    typeKey(kKey);
+    saveAndWait();
+    // Saved, but the user reads why their line stayed before going on.
+    EXPECT_EQ(state.currentStep(), InstallationStep::apiKey);
+    EXPECT_TRUE(showsChild("savedNoticeRow"));
+    EXPECT_EQ(text("savedNotice"),
+              ToolInstaller::computedValueNotice(QStringLiteral("OPENAI_API_KEY"), QStringLiteral("~/.zshrc")));
+    EXPECT_EQ(profileText("/.zshrc"), QStringLiteral("export OPENAI_API_KEY=$(cat ~/.openai-key)\n\n# Codex API Key\n"
+                                                     "export OPENAI_API_KEY=\"") +
+                                          kKey + QStringLiteral("\"\n"));
+    EXPECT_FALSE(showsChild("skipButton"));
+    EXPECT_EQ(button("saveButton")->text(), QStringLiteral("Continue"));
+    button("saveButton")->click();
+    EXPECT_EQ(state.currentStep(), InstallationStep::completion);
 }
 
 TEST_F(AfterInstallTest, AFailedSaveStaysWithItsReasonUntilTheKeyChanges)

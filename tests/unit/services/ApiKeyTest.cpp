@@ -20,7 +20,7 @@ namespace {
 
 class ApiKeyTest : public ::testing::Test, protected test::TestMachine {
 protected:
-    Result<void> save(const QString& key, CLITool tool)
+    Result<QString> save(const QString& key, CLITool tool)
     {
         auto result = await(services.installer.saveAPIKey(key, tool));
         if (!result)
@@ -43,6 +43,32 @@ protected:
         EXPECT_TRUE(process.waitForFinished(10000));
         return process.readAllStandardOutput();
     }
+
+    // What a new terminal window's `shell` (fish or tcsh, started as the terminal starts it)
+    // has in the variable; nothing when the shell is not installed.
+    std::optional<QByteArray> terminalValue(const QString& shell, const QString& variable) const
+    {
+        if (!QFileInfo(shell).isExecutable())
+            return std::nullopt;
+        QProcess process;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("HOME"), sandbox.home());
+        environment.remove(QStringLiteral("XDG_CONFIG_HOME"));
+        environment.remove(variable);
+        process.setProcessEnvironment(environment);
+        process.setWorkingDirectory(sandbox.home());
+        process.setStandardInputFile(QProcess::nullDevice());
+        const QString print = QStringLiteral("printenv ") + variable;
+        process.start(shell, shell.endsWith(QLatin1String("csh"))
+                                 ? QStringList{QStringLiteral("-c"), print}
+                                 : QStringList{QStringLiteral("-l"), QStringLiteral("-c"), print});
+        EXPECT_TRUE(process.waitForFinished(10000));
+        EXPECT_EQ(process.readAllStandardError(), QByteArray()) << shell.toStdString();
+        QByteArray value = process.readAllStandardOutput();
+        if (value.endsWith('\n'))
+            value.chop(1);
+        return value;
+    }
 };
 
 } // namespace
@@ -56,6 +82,17 @@ TEST(ProfileWriter, ExportLines)
     EXPECT_TRUE(ProfileWriter::isPlainKey(QStringLiteral("AIzaSy-abc_DEF.123")));
     for (const char* key : {"", "a b", "a$b", "a\"b", "ключ", "a`b`"})
         EXPECT_FALSE(ProfileWriter::isPlainKey(QString::fromUtf8(key))) << key;
+
+    // fish and csh lines, their own quoting for keys that are not plain.
+    using enum ShellFamily;
+    EXPECT_EQ(ProfileWriter::exportLine(QStringLiteral("K"), QStringLiteral("sk-1"), fish),
+              QStringLiteral("set -gx K \"sk-1\""));
+    EXPECT_EQ(ProfileWriter::exportLine(QStringLiteral("K"), QStringLiteral("it's \\$(x)"), fish),
+              QStringLiteral("set -gx K 'it\\'s \\\\$(x)'"));
+    EXPECT_EQ(ProfileWriter::exportLine(QStringLiteral("K"), QStringLiteral("sk-1"), csh),
+              QStringLiteral("setenv K \"sk-1\""));
+    EXPECT_EQ(ProfileWriter::exportLine(QStringLiteral("K"), QStringLiteral("it's!"), csh),
+              QStringLiteral("setenv K 'it'\\''s\\!'"));
 
     EXPECT_TRUE(ProfileWriter::rejectionReason(QStringLiteral("one\ntwo")).has_value());
     EXPECT_TRUE(ProfileWriter::rejectionReason(QStringLiteral("one\rtwo")).has_value());
@@ -93,6 +130,88 @@ TEST(ProfileWriter, OnlyAPlainLiteralValueIsEditedAndOnlyThatValue)
                                         QStringLiteral("export K='$1\\0&'"))
                   .profile,
               QByteArray("export K='$1\\0&'"));
+}
+
+TEST(ProfileWriter, FishAndCshExportsAreTheirOwnLines)
+{
+    using enum ShellFamily;
+    const auto withKey = [](const QByteArray& profile, ShellFamily family) {
+        return ProfileWriter::withExport(profile, QStringLiteral("K"), QStringLiteral("Codex"),
+                                         ProfileWriter::exportLine(QStringLiteral("K"), QStringLiteral("new"), family),
+                                         family);
+    };
+    // A literal value is edited where it is, whatever the options' order.
+    EXPECT_EQ(withKey("set -x -g K old # mine\nset -gx KEEP 1\n", fish).profile,
+              QByteArray("set -x -g K \"new\" # mine\nset -gx KEEP 1\n"));
+    EXPECT_EQ(withKey("  set --global --export K 'old'\n", fish).profile,
+              QByteArray("  set --global --export K \"new\"\n"));
+    EXPECT_EQ(withKey("setenv K \"old\"\nsetenv KK x\n", csh).profile, QByteArray("setenv K \"new\"\nsetenv KK x\n"));
+    // Not exports: a variable that is not exported, a comment, another shell's words.
+    for (const QByteArray& other : {QByteArray("set -g K old\n"), QByteArray("# set -gx K old\n"),
+                                    QByteArray("export K=old\n"), QByteArray("set -e K\n")}) {
+        const auto change = withKey(other, fish);
+        EXPECT_TRUE(change.appended && !change.afterComputedValue) << other.toStdString();
+        EXPECT_EQ(change.profile, other + "\n# Codex API Key\nset -gx K \"new\"\n");
+    }
+    EXPECT_FALSE(withKey("set K = old\n", csh).afterComputedValue);
+    // Computed values stay as they are, with the new line after them.
+    for (const QByteArray& computed :
+         {QByteArray("set -gx K (cat ~/k)\n"), QByteArray("set -gx K $OTHER\n"), QByteArray("set -gx K 'a\\'b'\n"),
+          QByteArray("set -gx K one two\n"), QByteArray("set -gx K \"$(cat k)\"\n")}) {
+        const auto change = withKey(computed, fish);
+        EXPECT_TRUE(change.afterComputedValue) << computed.toStdString();
+        EXPECT_TRUE(change.profile.startsWith(computed)) << computed.toStdString();
+    }
+    for (const QByteArray& computed : {QByteArray("setenv K `cat ~/k`\n"), QByteArray("setenv K \"$OTHER\"\n"),
+                                       QByteArray("setenv K 'a\\!b'\n"), QByteArray("setenv K ~/k\n")}) {
+        const auto change = withKey(computed, csh);
+        EXPECT_TRUE(change.afterComputedValue) << computed.toStdString();
+        EXPECT_TRUE(change.profile.startsWith(computed)) << computed.toStdString();
+    }
+}
+
+TEST_F(ApiKeyTest, FishAndTcshUsersGetTheKeyInTheStartUpFileTheirShellReads)
+{
+    struct Case {
+        const char* shell;
+        const char* file;
+    };
+    int tried = 0;
+    for (const Case& user :
+         {Case{"/usr/bin/fish", ".config/fish/conf.d/quillforge.fish"}, Case{"/usr/bin/tcsh", ".tcshrc"}}) {
+        const QString shell = QString::fromLatin1(user.shell);
+        if (!QFileInfo(shell).isExecutable())
+            continue;
+        ++tried;
+        SCOPED_TRACE(user.shell);
+        platform.terminalShell = shell;
+        sandbox.setEnv("XDG_CONFIG_HOME", "");
+        // A key of every character a shell might act on comes back exactly.
+        for (const QString& key :
+             {QStringLiteral("sk-proj-AB_c.9"), QStringLiteral("it's $HOME `id` !1 \\ \"q\" * (x) ~")}) {
+            const Result<QString> saved = save(key, CLITool::codex);
+            ASSERT_TRUE(saved.ok()) << saved.error().errorDescription().toStdString();
+            EXPECT_EQ(saved.value(), QString());
+            EXPECT_EQ(terminalValue(shell, QStringLiteral("OPENAI_API_KEY")), key.toUtf8());
+        }
+        // The second key replaced the first: one line with the variable.
+        EXPECT_EQ(profile(QString::fromLatin1(user.file)).count("OPENAI_API_KEY"), 1);
+
+        // A key the user's own line computes is left, and the new line after it counts.
+        sandbox.writeFile(QStringLiteral("k"), "from-file");
+        sandbox.writeFile(QString::fromLatin1(user.file), shell.endsWith(QLatin1String("fish"))
+                                                              ? "set -gx OPENAI_API_KEY (cat ~/k)\n"
+                                                              : "setenv OPENAI_API_KEY `cat ~/k`\n");
+        const Result<QString> saved = save(QStringLiteral("sk-after"), CLITool::codex);
+        ASSERT_TRUE(saved.ok());
+        EXPECT_EQ(saved.value(), ToolInstaller::computedValueNotice(QStringLiteral("OPENAI_API_KEY"),
+                                                                    QStringLiteral("~/") + QLatin1String(user.file)));
+        EXPECT_EQ(terminalValue(shell, QStringLiteral("OPENAI_API_KEY")), QByteArray("sk-after"));
+        QDir(sandbox.path(QStringLiteral(".config"))).removeRecursively();
+    }
+    qunsetenv("OPENAI_API_KEY");
+    if (tried == 0)
+        GTEST_SKIP() << "neither fish nor tcsh is installed here";
 }
 
 TEST_F(ApiKeyTest, AComputedValueIsNeverEditedAndTheNewExportComesAfterIt)
@@ -137,6 +256,7 @@ TEST_F(ApiKeyTest, FirstSaveCreatesTheProfileBlock)
 
 TEST_F(ApiKeyTest, TheKeyGoesToTheProfileInUse)
 {
+    platform.terminalShell = QStringLiteral("/bin/bash");
     sandbox.writeFile(QStringLiteral(".bash_profile"), "export PATH=$PATH:/opt/bin"); // no final newline
     ASSERT_TRUE(save(QStringLiteral("AIza-1"), CLITool::geminiCLI).ok());
     EXPECT_FALSE(sandbox.exists(QStringLiteral(".zshrc")));
@@ -233,13 +353,13 @@ TEST_F(ApiKeyTest, HostileKeysStayData)
 TEST_F(ApiKeyTest, RefusedKeysTouchNothing)
 {
     sandbox.writeFile(QStringLiteral(".zshrc"), "export GEMINI_API_KEY=\"old\"\n");
-    const Result<void> result = save(QStringLiteral("first\nsecond"), CLITool::geminiCLI);
+    const Result<QString> result = save(QStringLiteral("first\nsecond"), CLITool::geminiCLI);
     ASSERT_FALSE(result.ok());
     EXPECT_TRUE(result.error().errorDescription().contains(QStringLiteral("line break")));
     EXPECT_FALSE(result.error().errorDescription().contains(QStringLiteral("first"))); // the key is never echoed
 
     // A key far longer than any real one would break every later command.
-    const Result<void> huge = save(QString(4097, QLatin1Char('k')), CLITool::geminiCLI);
+    const Result<QString> huge = save(QString(4097, QLatin1Char('k')), CLITool::geminiCLI);
     ASSERT_FALSE(huge.ok());
     EXPECT_TRUE(huge.error().errorDescription().contains(QStringLiteral("4,096")))
         << huge.error().errorDescription().toStdString();
@@ -336,7 +456,7 @@ TEST_F(ApiKeyTest, AProfileThatCannotBeAppendedToIsAClearError)
 {
     // ~/.zshrc is a folder: no profile exists as a file, and appending to that path fails.
     QDir().mkpath(sandbox.path(QStringLiteral(".zshrc")));
-    const Result<void> result = save(QStringLiteral("sk-1"), CLITool::claudeCode);
+    const Result<QString> result = save(QStringLiteral("sk-1"), CLITool::claudeCode);
     ASSERT_FALSE(result.ok());
     EXPECT_EQ(result.error().errorDescription(),
               QStringLiteral("Could not save the API key to %1: it is not an ordinary file")

@@ -4,6 +4,7 @@
 #include "TestMachine.h"
 
 #include <QDir>
+#include <QFile>
 
 using namespace qf;
 using qf::test::await;
@@ -144,17 +145,46 @@ TEST_F(SystemDetectorTest, ToolVersionsAsPrinted)
     EXPECT_EQ(*await(detector.getToolVersion(CLITool::codex)), std::nullopt);
 }
 
-TEST_F(SystemDetectorTest, ShellProfileChoice)
+TEST_F(SystemDetectorTest, ShellProfileChoiceFollowsTheUsersShell)
 {
-    EXPECT_EQ(detector.shellProfilePath(), sandbox.path(QStringLiteral(".zshrc"))); // need not exist
-    sandbox.writeFile(QStringLiteral(".bashrc"), "");
-    EXPECT_EQ(detector.shellProfilePath(), sandbox.path(QStringLiteral(".bashrc")));
-    sandbox.writeFile(QStringLiteral(".bash_profile"), "");
-    EXPECT_EQ(detector.shellProfilePath(), sandbox.path(QStringLiteral(".bash_profile")));
-    // A folder of that name is not a profile.
-    QDir().mkpath(sandbox.path(QStringLiteral(".zshrc")));
-    EXPECT_EQ(detector.shellProfilePath(), sandbox.path(QStringLiteral(".bash_profile")));
-    QDir(sandbox.path(QStringLiteral(".zshrc"))).removeRecursively();
+    const auto choice = [this](const char* shell) {
+        platform.terminalShell = QString::fromLatin1(shell);
+        const ShellProfile profile = detector.shellProfile();
+        return std::pair(QDir(sandbox.home()).relativeFilePath(profile.path), profile.family);
+    };
+    using enum ShellFamily;
+    sandbox.setEnv("XDG_CONFIG_HOME", "");
+    // Nothing there yet: the file the shell of a new terminal window would read.
+    EXPECT_EQ(choice("/bin/zsh"), std::pair(QStringLiteral(".zshrc"), posix));
+    EXPECT_EQ(choice("/usr/bin/fish"), std::pair(QStringLiteral(".config/fish/conf.d/quillforge.fish"), fish));
+    EXPECT_EQ(choice("/bin/tcsh"), std::pair(QStringLiteral(".tcshrc"), csh));
+    EXPECT_EQ(choice("/bin/csh"), std::pair(QStringLiteral(".cshrc"), csh));
+    EXPECT_EQ(choice("/bin/bash"), std::pair(QStringLiteral(".bash_profile"), posix)); // as a login shell
+    platform.loginTerminals = false;
+    EXPECT_EQ(choice("/bin/bash"), std::pair(QStringLiteral(".bashrc"), posix));
+    platform.loginTerminals = true;
+
+    // Files of other shells never count.
     sandbox.writeFile(QStringLiteral(".zshrc"), "");
-    EXPECT_EQ(detector.shellProfilePath(), sandbox.path(QStringLiteral(".zshrc")));
+    sandbox.writeFile(QStringLiteral(".cshrc"), "");
+    EXPECT_EQ(choice("/bin/tcsh"), std::pair(QStringLiteral(".cshrc"), csh)); // tcsh reads it when alone
+    sandbox.writeFile(QStringLiteral(".tcshrc"), "");
+    EXPECT_EQ(choice("/bin/tcsh"), std::pair(QStringLiteral(".tcshrc"), csh));
+    // A login bash reads the first of its files; a new ~/.bash_profile would hide ~/.profile.
+    sandbox.writeFile(QStringLiteral(".bashrc"), "");
+    sandbox.writeFile(QStringLiteral(".profile"), "");
+    EXPECT_EQ(choice("/bin/bash"), std::pair(QStringLiteral(".profile"), posix));
+    sandbox.writeFile(QStringLiteral(".bash_profile"), "");
+    EXPECT_EQ(choice("/bin/bash"), std::pair(QStringLiteral(".bash_profile"), posix));
+    platform.loginTerminals = false;
+    EXPECT_EQ(choice("/bin/bash"), std::pair(QStringLiteral(".bashrc"), posix));
+    // fish's configuration folder moves with XDG_CONFIG_HOME.
+    sandbox.setEnv("XDG_CONFIG_HOME", sandbox.path(QStringLiteral("conf")).toUtf8());
+    EXPECT_EQ(choice("/opt/fish/bin/fish"), std::pair(QStringLiteral("conf/fish/conf.d/quillforge.fish"), fish));
+
+    // Any other shell: the first of ~/.zshrc, ~/.bash_profile and ~/.bashrc that is a file.
+    EXPECT_EQ(choice("/bin/dash"), std::pair(QStringLiteral(".zshrc"), posix));
+    QFile::remove(sandbox.path(QStringLiteral(".zshrc")));
+    QDir().mkpath(sandbox.path(QStringLiteral(".zshrc"))); // a folder of that name is not a profile
+    EXPECT_EQ(choice("/bin/ksh"), std::pair(QStringLiteral(".bash_profile"), posix));
 }

@@ -491,6 +491,45 @@ TEST_F(ToolInstallerTest, AnUnwritableNpmFolderSendsTheToolToLocalAndTheTerminal
     EXPECT_FALSE(bash.log.contains(QStringLiteral("Note:"))) << bash.log.toStdString();
 }
 
+TEST_F(ToolInstallerTest, EveryShellFamilyGetsTheSearchPathInTheFileItReads)
+{
+    sandbox.installFakes({"git", "node", "npm"});
+    const QString prefix = sandbox.stateDirectory() + QStringLiteral("/usr");
+    writeFile(prefix + QStringLiteral("/lib"), "");
+    sandbox.setEnv("FAKE_NPM_PREFIX", prefix.toUtf8());
+    sandbox.setEnv("XDG_CONFIG_HOME", "");
+
+    struct Case {
+        const char* shell;
+        bool login;
+        const char* file;
+    };
+    // A bash that terminal windows start without a login (as on Linux) reads ~/.bashrc, also
+    // on an account that has no start-up file yet.
+    int tried = 0;
+    for (const Case& user : {Case{"/usr/bin/fish", true, ".config/fish/conf.d/quillforge.fish"},
+                             Case{"/usr/bin/tcsh", true, ".tcshrc"}, Case{"/bin/bash", false, ".bashrc"}}) {
+        if (!QFileInfo(QString::fromLatin1(user.shell)).isExecutable())
+            continue;
+        ++tried;
+        SCOPED_TRACE(user.shell);
+        platform.terminalShell = QString::fromLatin1(user.shell);
+        platform.loginTerminals = user.login;
+        const SetupRun run = runSetup(CLITool::codex);
+        ASSERT_TRUE(run.result && run.result->ok()) << run.error().toStdString();
+        // Written, and a new terminal window's shell (the real one) finds the programs.
+        EXPECT_TRUE(run.log.contains(QStringLiteral("Added ~/.local/bin to the search path in ~/%1, so new terminal "
+                                                    "windows find Codex.\n")
+                                         .arg(QLatin1String(user.file))))
+            << run.log.toStdString();
+        EXPECT_FALSE(run.log.contains(QStringLiteral("Note:"))) << run.log.toStdString();
+        EXPECT_TRUE(sandbox.readFile(QString::fromLatin1(user.file)).startsWith("\n# Added by Quillforge"));
+        EXPECT_FALSE(sandbox.exists(QStringLiteral(".zshrc")));
+    }
+    if (tried < 3)
+        GTEST_SKIP() << "fish or tcsh is not installed here (scripts/setup installs both): not every shell was tried";
+}
+
 TEST_F(ToolInstallerTest, AWritableNpmFolderIsUsedAsItIs)
 {
     sandbox.installFakes({"git", "node", "npm"});
