@@ -48,8 +48,8 @@ QList<SystemTool> systemToolCatalogue(const Platform& platform)
             .name = QStringLiteral("Homebrew"),
             .icon = QStringLiteral("mug"),
             .description = optionalNote,
-            .uninstallCommand = QStringLiteral("/bin/bash -c \"$(curl -fsSL ") +
-                                QLatin1String(web::homebrewUninstallScript) + QStringLiteral(")\""),
+            .uninstallCommand = downloadThenRunLine(QLatin1String(web::homebrewUninstallScript),
+                                                    QStringLiteral("/bin/bash")),
             .stepNumber = 3,
             .isOptional = true,
         },

@@ -278,7 +278,7 @@ void SystemToolUninstallSheet::performUninstall()
                            if (self)
                                self->appendOutput(text);
                        },
-                       this),
+                       this, tr("The removal of %1").arg(m_tool.name)),
                    this, [this](const Result<void>& result) {
                        if (!result) {
                            const ShellError* error = result.error().shellError();
@@ -288,9 +288,32 @@ void SystemToolUninstallSheet::performUninstall()
                                            : result.error().errorDescription());
                            return;
                        }
-                       finish(std::nullopt);
-                       appendOutput(QStringLiteral("\n") + m_tool.name + QStringLiteral(" has been uninstalled.\n"));
+                       confirmRemoval();
                    });
+}
+
+void SystemToolUninstallSheet::confirmRemoval()
+{
+    // Homebrew's own removal script can end well and leave Homebrew in place: only a search
+    // that no longer finds it makes the removal complete.
+    if (m_tool.id != SystemToolID::homebrew) {
+        finishRemoved();
+        return;
+    }
+    QCoro::connect(m_shell.run(QStringLiteral("command -v brew")), this, [this](const Result<QString>& found) {
+        if (found) {
+            finish(tr("%1 is still installed at %2: its removal did not finish. The output above says why.")
+                       .arg(m_tool.name, found.value()));
+            return;
+        }
+        finishRemoved();
+    });
+}
+
+void SystemToolUninstallSheet::finishRemoved()
+{
+    finish(std::nullopt);
+    appendOutput(QStringLiteral("\n") + m_tool.name + QStringLiteral(" has been uninstalled.\n"));
 }
 
 } // namespace qf

@@ -126,6 +126,10 @@ protected:
     bool isLogCollapsible() const override { return false; }
 
 private:
+    // After the removal command: complete only when the item is really gone.
+    void confirmRemoval();
+    void finishRemoved();
+
     SystemTool m_tool;
     ShellRunner& m_shell;
 };

@@ -248,12 +248,18 @@ QString CLITool::apiKeyEnvVar() const { return QString::fromLatin1(texts(*this).
 QString CLITool::installCommand() const
 {
     switch (m_case) {
-    case claudeCode:
-        return QStringLiteral("curl -fsSL ") + QLatin1String(web::claudeInstallScript) + QStringLiteral(" | bash");
+    case claudeCode: return downloadThenRunLine(QLatin1String(web::claudeInstallScript), QStringLiteral("bash"));
     case geminiCLI:
     case codex: return QStringLiteral("npm install -g ") + npmPackage();
     }
     Q_UNREACHABLE();
+}
+
+QString downloadThenRunLine(const QString& url, const QString& interpreter)
+{
+    // The assignment's status is curl's; the script goes to the interpreter whole.
+    return QStringLiteral("script=\"$(curl -fsSL ") + url + QStringLiteral(")\" && ") + interpreter +
+           QStringLiteral(" -c \"$script\"");
 }
 
 QString npmRemovalChain(const QString& package, const QStringList& npmPrograms)

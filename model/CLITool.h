@@ -94,6 +94,11 @@ private:
 // every Node.js version installed through nvm, ignoring errors and missing programs.
 QString npmRemovalChain(const QString& package, const QStringList& npmPrograms);
 
+// A line that downloads the script at `url` completely and only then runs it with
+// `interpreter`: when the download fails the line fails with curl's own reason, and nothing
+// runs a script cut off halfway.
+QString downloadThenRunLine(const QString& url, const QString& interpreter);
+
 // Addresses that more than one part of the app needs.
 namespace web {
 inline constexpr auto claudeInstallScript = "https://claude.ai/install.sh";

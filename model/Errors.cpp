@@ -1,6 +1,7 @@
 #include "Errors.h"
 
 #include <QLocale>
+#include <QRegularExpression>
 
 #include <cmath>
 
@@ -39,11 +40,12 @@ ShellError ShellError::outputLimit(qint64 bytes)
     return error;
 }
 
-ShellError ShellError::stalled(double seconds)
+ShellError ShellError::stalled(double seconds, const QString& activity)
 {
     ShellError error;
     error.m_kind = noProgress;
     error.m_seconds = seconds;
+    error.m_activity = activity;
     return error;
 }
 
@@ -57,14 +59,52 @@ QString ShellError::durationText(double seconds)
     }
     if (seconds == 1)
         return tr("1 second");
-    const bool whole = std::floor(seconds) == seconds;
-    return tr("%1 seconds").arg(whole ? english.toString(seconds, 'f', 0) : english.toString(seconds, 'g', 3));
+    // Never in scientific notation: "0.25", "9.5", "1,234.5".
+    QString number = seconds < 10 ? english.toString(seconds, 'g', 3) : english.toString(seconds, 'f', 1);
+    if (number.endsWith(QLatin1String(".0")))
+        number.chop(2);
+    return tr("%1 seconds").arg(number);
+}
+
+std::optional<QString> ShellError::downloadFailure(const QString& output)
+{
+    static const QRegularExpression curlError(QStringLiteral("curl: \\((\\d+)\\)[^\\n]*"));
+    QRegularExpressionMatch last;
+    for (QRegularExpressionMatchIterator it = curlError.globalMatch(output); it.hasNext();)
+        last = it.next();
+    if (!last.hasMatch())
+        return std::nullopt;
+    QString meaning;
+    switch (last.captured(1).toInt()) {
+    case 5:
+    case 6:
+        meaning = tr("The download failed: the server's address could not be found. Check your internet connection and "
+                     "try again.");
+        break;
+    case 7:
+        meaning =
+            tr("The download failed: the server could not be reached. Check your internet connection and try again.");
+        break;
+    case 18:
+    case 56: meaning = tr("The download was cut off before it was complete. Please try again."); break;
+    case 22: meaning = tr("The download failed: the server answered with an error."); break;
+    case 28:
+        meaning = tr("The download took too long and was stopped. Check your internet connection and try again.");
+        break;
+    case 35:
+    case 60: meaning = tr("The download failed: no secure connection to the server could be made."); break;
+    case 23: meaning = tr("The download could not be saved on this computer."); break;
+    default: meaning = tr("The download failed."); break;
+    }
+    return meaning + QStringLiteral(" (") + last.captured(0).trimmed() + QLatin1Char(')');
 }
 
 QString ShellError::errorDescription() const
 {
     switch (m_kind) {
     case commandFailed: {
+        if (const std::optional<QString> download = downloadFailure(m_text))
+            return *download;
         QString shown = m_text;
         // The end says what went wrong; a person cannot read a hundred megabytes anyway.
         if (shown.size() > shownOutputLength) {
@@ -79,7 +119,10 @@ QString ShellError::errorDescription() const
     case timedOut: return tr("The command did not finish within %1 and was stopped.").arg(durationText(m_seconds));
     case outputTooLarge:
         return tr("The command wrote more than %1 MB of output and was stopped.").arg(m_bytes / (1024 * 1024));
-    case noProgress: return tr("The command showed no progress for %1 and was stopped.").arg(durationText(m_seconds));
+    case noProgress:
+        if (!m_activity.isEmpty())
+            return tr("%1 made no progress for %2 and was stopped.").arg(m_activity, durationText(m_seconds));
+        return tr("The command showed no progress for %1 and was stopped.").arg(durationText(m_seconds));
     }
     return {};
 }

@@ -28,10 +28,15 @@ public:
     static ShellError launchFailed(const QString& description);
     static ShellError timeout(double seconds);
     static ShellError outputLimit(qint64 bytes);
-    static ShellError stalled(double seconds);
+    // `activity` names what stalled ("The download of node.tar.gz"); empty: "The command".
+    static ShellError stalled(double seconds, const QString& activity = QString());
 
-    // "1 second", "0.5 seconds", "15 minutes": a length of time as the messages say it.
+    // "1 second", "0.5 seconds", "1,234.5 seconds", "15 minutes": a length of time as the
+    // messages say it.
     static QString durationText(double seconds);
+    // What a download's failure means in plain words, from curl's own error line in `output`
+    // ("curl: (18) ..."); nothing when the output names no curl error.
+    static std::optional<QString> downloadFailure(const QString& output);
 
     Kind kind() const { return m_kind; }
     int exitCode() const { return m_exitCode; }
@@ -45,6 +50,7 @@ private:
     Kind m_kind = commandFailed;
     int m_exitCode = 0;
     QString m_text;
+    QString m_activity;
     double m_seconds = 0;
     qint64 m_bytes = 0;
 };

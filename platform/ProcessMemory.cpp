@@ -7,7 +7,13 @@
 #include <sys/resource.h>
 
 #if defined(Q_OS_MACOS)
+#include <libproc.h>
 #include <mach/mach.h>
+#include <sys/proc_info.h>
+
+#include <vector>
+#else
+#include <QDir>
 #endif
 
 namespace qf {
@@ -42,6 +48,54 @@ long peakResidentMemoryKB()
     return long(usage.ru_maxrss / 1024); // bytes there
 #else
     return long(usage.ru_maxrss); // kilobytes
+#endif
+}
+
+long long processGroupIoBytes(long long group)
+{
+    if (group <= 0)
+        return -1;
+#if defined(Q_OS_MACOS)
+    std::vector<pid_t> members(256);
+    const int bytes = proc_listpgrppids(static_cast<pid_t>(group), members.data(),
+                                        static_cast<int>(members.size() * sizeof(pid_t)));
+    if (bytes <= 0)
+        return -1;
+    long long total = 0;
+    for (int i = 0; i < bytes / static_cast<int>(sizeof(pid_t)); ++i) {
+        rusage_info_v2 usage{};
+        if (proc_pid_rusage(members[static_cast<size_t>(i)], RUSAGE_INFO_V2,
+                            reinterpret_cast<rusage_info_t*>(&usage)) == 0)
+            total += static_cast<long long>(usage.ri_diskio_bytesread + usage.ri_diskio_byteswritten);
+    }
+    return total;
+#else
+    // The members are the processes whose stat names the group (its fifth field, after the
+    // command name in parentheses, which may itself hold blanks and parentheses).
+    long long total = 0;
+    bool any = false;
+    const QStringList entries = QDir(QStringLiteral("/proc")).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    for (const QString& entry : entries) {
+        if (entry.isEmpty() || !entry.front().isDigit())
+            continue;
+        QFile stat(QStringLiteral("/proc/") + entry + QStringLiteral("/stat"));
+        if (!stat.open(QIODevice::ReadOnly))
+            continue;
+        const QByteArray line = stat.readAll();
+        const QList<QByteArray> fields = line.mid(line.lastIndexOf(')') + 2).split(' ');
+        if (fields.size() < 3 || fields.at(2).toLongLong() != group)
+            continue;
+        QFile io(QStringLiteral("/proc/") + entry + QStringLiteral("/io"));
+        if (!io.open(QIODevice::ReadOnly))
+            continue;
+        for (const QByteArray& counter : io.readAll().split('\n')) {
+            if (counter.startsWith("rchar:") || counter.startsWith("wchar:")) {
+                total += counter.mid(6).trimmed().toLongLong();
+                any = true;
+            }
+        }
+    }
+    return any ? total : -1;
 #endif
 }
 

@@ -4,11 +4,44 @@
 
 #include <algorithm>
 #include <csignal>
+#include <set>
 
 #include <sys/types.h>
 #include <unistd.h>
 
 namespace qf {
+
+namespace {
+
+// The process groups that may still have members: GUI thread only.
+std::set<pid_t>& liveGroups()
+{
+    static std::set<pid_t> groups;
+    return groups;
+}
+
+void addLiveGroup(pid_t group)
+{
+    static bool watching = false;
+    if (!watching) {
+        watching = true;
+        // On quit, and at the latest when the application object goes.
+        if (QCoreApplication* application = QCoreApplication::instance())
+            QObject::connect(application, &QCoreApplication::aboutToQuit, &ProcessRun::stopEveryGroup);
+        qAddPostRoutine(&ProcessRun::stopEveryGroup);
+    }
+    liveGroups().insert(group);
+}
+
+} // namespace
+
+void ProcessRun::stopEveryGroup()
+{
+    for (const pid_t group : std::exchange(liveGroups(), {})) {
+        ::kill(-group, SIGTERM);
+        ::kill(-group, SIGKILL);
+    }
+}
 
 ProcessRun::ProcessRun(Options options) : m_options(std::move(options)), m_process(new QProcess(this))
 {
@@ -26,7 +59,10 @@ ProcessRun::ProcessRun(Options options) : m_options(std::move(options)), m_proce
 
     connect(m_process, &QProcess::readyReadStandardOutput, this, &ProcessRun::readOutput);
     connect(m_process, &QProcess::readyReadStandardError, this, &ProcessRun::readError);
-    connect(m_process, &QProcess::started, this, [this] { m_pid = m_process->processId(); });
+    connect(m_process, &QProcess::started, this, [this] {
+        m_pid = m_process->processId();
+        addLiveGroup(static_cast<pid_t>(m_pid));
+    });
     connect(m_process, &QProcess::finished, this, [this](int exitCode, QProcess::ExitStatus) {
         m_outcome.exitCode = exitCode;
         finish();
@@ -42,7 +78,7 @@ ProcessRun::ProcessRun(Options options) : m_options(std::move(options)), m_proce
     m_deadline.setSingleShot(true);
     connect(&m_deadline, &QTimer::timeout, this, [this] { stop(ProcessOutcome::timedOut); });
     m_idle.setSingleShot(true);
-    connect(&m_idle, &QTimer::timeout, this, [this] { stop(ProcessOutcome::stalled); });
+    connect(&m_idle, &QTimer::timeout, this, &ProcessRun::quietTimeOver);
     m_grace.setSingleShot(true);
     connect(&m_grace, &QTimer::timeout, this, [this] { stopGroup(SIGKILL); });
 
@@ -103,6 +139,18 @@ void ProcessRun::deliver(const QString& text)
     m_options.onOutput(text);
 }
 
+void ProcessRun::quietTimeOver()
+{
+    if (m_options.progress && m_pid > 0) {
+        const long long progress = m_options.progress(m_pid);
+        if (progress >= 0 && progress != std::exchange(m_lastProgress, progress)) {
+            m_idle.start();
+            return;
+        }
+    }
+    stop(ProcessOutcome::stalled);
+}
+
 void ProcessRun::stop(ProcessOutcome::Kind reason)
 {
     if (m_stopReason || m_done)
@@ -137,8 +185,13 @@ void ProcessRun::finish()
         // passed they are killed, whether or not the shell is still there. The group keeps its
         // number while any member lives.
         const auto group = static_cast<pid_t>(m_pid);
-        QTimer::singleShot(m_grace.remainingTime(), QCoreApplication::instance(), [group] { ::kill(-group, SIGKILL); });
+        QTimer::singleShot(m_grace.remainingTime(), QCoreApplication::instance(), [group] {
+            ::kill(-group, SIGKILL);
+            liveGroups().erase(group);
+        });
         m_grace.stop();
+    } else {
+        liveGroups().erase(static_cast<pid_t>(m_pid));
     }
     const ProcessOutcome::Kind kind = m_stopReason.value_or(ProcessOutcome::exited);
     if (kind != ProcessOutcome::failedToStart) {

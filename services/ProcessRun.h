@@ -47,8 +47,11 @@ public:
         // Separate channels: at most this many bytes of each are kept (0: no limit); a process
         // that writes more is stopped.
         qsizetype captureLimitBytes = 0;
-        // A process without any output for this long is stopped (0: no limit).
+        // A process without any output for this long is stopped (0: no limit), unless
+        // `progress` (given the process group) tells a different count than the last time:
+        // a download that prints nothing while bytes arrive is working.
         int inactivityTimeoutMs = 0;
+        std::function<long long(long long group)> progress;
         // Merged output as text, chunk by chunk, while `context` (when set) is alive.
         std::function<void(const QString&)> onOutput;
         QPointer<QObject> context;
@@ -67,6 +70,11 @@ public:
     // Await this once, right after construction.
     Awaiter outcome() { return Awaiter{this}; }
 
+    // Kills the process group of every command still running, and of every stopped one whose
+    // grace has not passed yet. Runs by itself when the application quits, so that nothing a
+    // command started outlives it.
+    static void stopEveryGroup();
+
 private:
     void start();
     void readOutput();
@@ -77,6 +85,8 @@ private:
     // Stops the whole process group for `reason`: TERM now, KILL once the grace has passed.
     void stop(ProcessOutcome::Kind reason);
     void stopGroup(int signal);
+    // The quiet time is over: stopped, unless the process made progress meanwhile.
+    void quietTimeOver();
     void finish();
 
     Options m_options;
@@ -87,6 +97,7 @@ private:
     Utf8StreamDecoder m_decoder;
     ProcessOutcome m_outcome;
     qint64 m_pid = 0;
+    long long m_lastProgress = -1;
     std::optional<ProcessOutcome::Kind> m_stopReason;
     bool m_done = false;
     std::coroutine_handle<> m_waiter;

@@ -1,5 +1,6 @@
 #include "ShellRunner.h"
 
+#include "ProcessMemory.h"
 #include "Utf8Stream.h"
 
 #include <QCoro/QCoroTimer>
@@ -9,6 +10,7 @@
 #include <algorithm>
 #include <chrono>
 #include <functional>
+#include <memory>
 
 namespace qf {
 
@@ -19,6 +21,8 @@ namespace {
 // Between a streamed command's end and the return of the call, so that every chunk of its
 // output has been handled first.
 constexpr auto kStreamCompletionDelay = 100ms;
+// How much of a streamed command's last output a failure keeps.
+constexpr qsizetype kKeptOutputTail = 4000;
 
 } // namespace
 
@@ -87,7 +91,8 @@ QCoro::Task<Result<QString>> ShellRunner::run(QString command, double timeoutSec
     ProcessRun::Options options = processOptions(command);
     options.channels = ProcessRun::Channels::separate;
     // At least a millisecond, at most what a timer can wait.
-    options.timeoutMs = timeoutSeconds > 0 ? static_cast<int>(std::clamp(timeoutSeconds * 1000.0, 1.0, 2.0e9)) : 0;
+    const int timeoutMs = timeoutSeconds > 0 ? static_cast<int>(std::clamp(timeoutSeconds * 1000.0, 1.0, 2.0e9)) : 0;
+    options.timeoutMs = timeoutMs;
     options.captureLimitBytes = m_configuration.outputLimitBytes;
 
     auto* process = new ProcessRun(std::move(options));
@@ -95,7 +100,8 @@ QCoro::Task<Result<QString>> ShellRunner::run(QString command, double timeoutSec
 
     switch (outcome.kind) {
     case ProcessOutcome::failedToStart: co_return ShellError::launchFailed(outcome.launchError);
-    case ProcessOutcome::timedOut: co_return ShellError::timeout(timeoutSeconds);
+    // The limit that was applied: a timer waits at most about 23 days.
+    case ProcessOutcome::timedOut: co_return ShellError::timeout(timeoutMs / 1000.0);
     case ProcessOutcome::outputLimitReached: co_return ShellError::outputLimit(m_configuration.outputLimitBytes);
     case ProcessOutcome::stalled:
     case ProcessOutcome::exited: break;
@@ -109,25 +115,38 @@ QCoro::Task<Result<QString>> ShellRunner::run(QString command, double timeoutSec
     co_return ShellError::failed(outcome.exitCode, combined.trimmed());
 }
 
-QCoro::Task<Result<void>> ShellRunner::runWithStreaming(QString command, OutputHandler onOutput, QObject* context)
+QCoro::Task<Result<void>> ShellRunner::runWithStreaming(QString command, OutputHandler onOutput, QObject* context,
+                                                        QString activity)
 {
     ProcessRun::Options options = processOptions(command);
     options.channels = ProcessRun::Channels::merged;
-    options.onOutput = std::move(onOutput);
+    // The end of the output, for the failure's message.
+    auto tail = std::make_shared<QString>();
+    options.onOutput = [tail, handler = std::move(onOutput)](const QString& text) {
+        *tail += text;
+        if (tail->size() > 2 * kKeptOutputTail)
+            tail->remove(0, tail->size() - kKeptOutputTail);
+        if (handler)
+            handler(text);
+    };
     options.context = context;
     options.hasContext = context != nullptr;
     options.inactivityTimeoutMs = m_configuration.streamInactivityMs;
+    options.progress = [](long long group) { return processGroupIoBytes(group); };
 
     auto* process = new ProcessRun(std::move(options));
     const ProcessOutcome outcome = co_await process->outcome();
     if (outcome.kind == ProcessOutcome::failedToStart)
         co_return ShellError::launchFailed(outcome.launchError);
     if (outcome.kind == ProcessOutcome::stalled)
-        co_return ShellError::stalled(m_configuration.streamInactivityMs / 1000.0);
+        co_return ShellError::stalled(m_configuration.streamInactivityMs / 1000.0, activity);
 
     co_await QCoro::sleepFor(kStreamCompletionDelay);
     if (outcome.exitCode == 0)
         co_return Result<void>();
+    // A download names its own failure; anything else was in the output already.
+    if (ShellError::downloadFailure(*tail))
+        co_return ShellError::failed(outcome.exitCode, tail->right(kKeptOutputTail));
     co_return ShellError::failed(outcome.exitCode, QStringLiteral("Command failed"));
 }
 

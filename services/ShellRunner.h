@@ -60,8 +60,12 @@ public:
     // Runs `command` with standard output and error merged, handing the text to `onOutput`
     // as it arrives (on the GUI thread), and returns 0.1 s after the command has ended. When
     // `context` is given, output stops being delivered once it is destroyed. No time limit,
-    // but a command that shows no output for the inactivity bound is stopped.
-    QCoro::Task<Result<void>> runWithStreaming(QString command, OutputHandler onOutput, QObject* context = nullptr);
+    // but a command that for the inactivity bound neither prints anything nor reads or writes
+    // anything (a download that arrives quietly is progress) is stopped, with a message that
+    // names `activity` ("The download of node.tar.gz") when given. A failure keeps the end of
+    // the output, so that a download's failure can say what happened.
+    QCoro::Task<Result<void>> runWithStreaming(QString command, OutputHandler onOutput, QObject* context = nullptr,
+                                               QString activity = QString());
 
     // The search path the application itself was started with, which a new terminal window
     // starts from too.

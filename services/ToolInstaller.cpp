@@ -68,26 +68,40 @@ QCoro::Task<ToolInstaller::GitCheck> ToolInstaller::checkGit(Output onOutput)
 QCoro::Task<Result<void>> ToolInstaller::installNodeJS(Output onOutput)
 {
     const Result<QString> brew = co_await m_shell.run(QStringLiteral("which brew"));
-    Result<void> installed;
+    Result<QString> installed = QString();
     if (brew) {
         onOutput(QStringLiteral("Installing Node.js via Homebrew...\n"));
-        installed = co_await m_shell.runWithStreaming(QStringLiteral("brew install node"), onOutput);
+        const Result<void> ran = co_await m_shell.runWithStreaming(
+            QStringLiteral("brew install node"), onOutput, nullptr,
+            QObject::tr("The installation of Node.js through Homebrew"));
+        if (!ran)
+            co_return ran.error();
+        installed = co_await m_shell.run(QStringLiteral("\"$(brew --prefix)/bin/node\" --version"));
     } else {
         onOutput(QStringLiteral("Installing Node.js via official installer...\n"));
         installed = co_await installNodeRelease(onOutput);
+        if (!installed)
+            co_return installed.error();
     }
-    if (!installed)
-        co_return installed;
 
     const NodeCheck node = co_await m_detector.checkNodeJS();
     if (!node.isInstalled)
         co_return failure(InstallationError::nodeInstallFailed);
-    onOutput(QStringLiteral("Node.js ") + node.version.value_or(QStringLiteral("installed")) +
+    // What was installed, and then whether commands find another Node.js first.
+    const std::optional<QString> version = installed && !installed.value().isEmpty() ? std::optional(installed.value())
+                                                                                     : node.version;
+    onOutput(QStringLiteral("Node.js ") + version.value_or(QStringLiteral("installed")) +
              QStringLiteral(" successfully!\n"));
+    if (version && node.version && *node.version != *version) {
+        const Result<QString> first = co_await m_shell.run(QStringLiteral("command -v node"));
+        onOutput(QStringLiteral("Note: Node.js %1%2 is found first on the search path.\n")
+                     .arg(*node.version,
+                          first ? QStringLiteral(" in ") + QFileInfo(first.value()).absolutePath() : QString()));
+    }
     co_return Result<void>();
 }
 
-QCoro::Task<Result<void>> ToolInstaller::installNodeRelease(Output log)
+QCoro::Task<Result<QString>> ToolInstaller::installNodeRelease(Output log)
 {
     const std::optional<NodeReleaseTarget> target = m_platform.nodeReleaseTarget();
     if (!target) {
@@ -120,10 +134,10 @@ QCoro::Task<Result<void>> ToolInstaller::installNodeRelease(Output log)
             QObject::tr("Could not make a folder for the Node.js download: %1").arg(downloads.errorString()));
     const QString folder = base + QLatin1Char('/') + release->version + QLatin1Char('/');
     const QString archive = downloads.filePath(release->archiveName);
-    const Result<void> fetched = co_await m_shell.runWithStreaming(QStringLiteral("curl -fsSL -o ") +
-                                                                       shellQuote(archive) + QLatin1Char(' ') +
-                                                                       shellQuote(folder + release->archiveName),
-                                                                   log);
+    const Result<void> fetched = co_await m_shell.runWithStreaming(
+        QStringLiteral("curl -fsSL -o ") + shellQuote(archive) + QLatin1Char(' ') +
+            shellQuote(folder + release->archiveName),
+        log, nullptr, QObject::tr("The download of %1").arg(release->archiveName));
     if (!fetched)
         co_return fetchFailed(release->archiveName, fetched.error());
 
@@ -158,9 +172,9 @@ QCoro::Task<Result<void>> ToolInstaller::installNodeRelease(Output log)
             shellQuote(top + QStringLiteral("README.md")),
         log);
     if (!unpacked)
-        co_return unpacked;
+        co_return unpacked.error();
     log(QStringLiteral("Unpacked Node.js %1 into ~/.local (node and npm are in ~/.local/bin)\n").arg(release->version));
-    co_return Result<void>();
+    co_return release->version;
 }
 
 QCoro::Task<Result<void>> ToolInstaller::runSetup(CLITool tool, StepUpdate report, Output log)
@@ -229,7 +243,8 @@ QCoro::Task<Result<void>> ToolInstaller::runSetup(CLITool tool, StepUpdate repor
                              installCommand;
         }
     }
-    const Result<void> installed = co_await m_shell.runWithStreaming(installCommand, log);
+    const Result<void> installed = co_await m_shell.runWithStreaming(
+        installCommand, log, nullptr, QObject::tr("The installation of %1").arg(tool.displayName()));
     if (!installed)
         co_return installed;
 
@@ -286,10 +301,19 @@ QCoro::Task<Result<void>> ToolInstaller::uninstall(CLITool tool, Output log)
             !isWritableNpmPrefix(prefix.value())) {
             log(QStringLiteral("\nRemoving %1 from %2 needs administrator rights.\n")
                     .arg(tool.displayName(), prefix.value()));
+            // The administrator's shell searches only the system's folders (on macOS
+            // /usr/bin:/bin:/usr/sbin:/sbin), and npm starts through `env node`: node's own
+            // folder goes first on that search path.
+            QString line = shellQuote(npm.value()) + QStringLiteral(" uninstall -g ") + tool.npmPackage();
+            if (const Result<QString> node = co_await m_shell.run(QStringLiteral("command -v node")); node) {
+                line = QStringLiteral("PATH=") +
+                       shellQuote(QFileInfo(node.value()).absolutePath() +
+                                  QStringLiteral(":/usr/bin:/bin:/usr/sbin:/sbin")) +
+                       QLatin1Char(' ') + line;
+            }
             const Result<void> removed = co_await m_shell.runWithStreaming(
-                m_platform.administratorCommand(shellQuote(npm.value()) + QStringLiteral(" uninstall -g ") +
-                                                tool.npmPackage()),
-                log);
+                m_platform.administratorCommand(line), log, nullptr,
+                QObject::tr("The removal of %1").arg(tool.displayName()));
             if (!removed) {
                 const ShellError* error = removed.error().shellError();
                 if (error && error->kind() == ShellError::commandFailed && error->exitCode() == kAdministratorDeclined)
@@ -324,7 +348,9 @@ bool ToolInstaller::isWritableNpmPrefix(const QString& prefix)
     // a folder that is not there yet is made in the nearest one that is.
     for (const char* part : {"/lib/node_modules", "/bin"}) {
         QString path = prefix + QLatin1String(part);
-        while (!QFileInfo::exists(path) && path.contains(QLatin1Char('/')) && path != QLatin1String("/"))
+        // A link that leads nowhere is no folder to make things in: npm fails on it.
+        while (!QFileInfo::exists(path) && !QFileInfo(path).isSymLink() && path.contains(QLatin1Char('/')) &&
+               path != QLatin1String("/"))
             path = QFileInfo(path).absolutePath();
         const QFileInfo info(path);
         if (!info.isDir() || ::access(QFile::encodeName(path).constData(), W_OK | X_OK) != 0)

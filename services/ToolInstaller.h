@@ -40,8 +40,9 @@ public:
     QCoro::Task<Result<void>> installNodeJS(Output onOutput);
     // The newest long-term support release of Node.js for this computer, from the release
     // archive, into ~/.local: no administrator rights needed. The archive's checksum is
-    // checked against the release's published list before anything is unpacked.
-    QCoro::Task<Result<void>> installNodeRelease(Output onOutput);
+    // checked against the release's published list before anything is unpacked. The version
+    // installed comes back.
+    QCoro::Task<Result<QString>> installNodeRelease(Output onOutput);
     // Where Node.js releases are fetched from (tests point it at a folder of their own).
     void setNodeDistribution(const QString& baseAddress) { m_nodeDistribution = baseAddress; }
 

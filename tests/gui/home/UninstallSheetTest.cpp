@@ -205,6 +205,42 @@ TEST_F(SheetTest, AnItemWithOnlyANoteOffersOK)
     EXPECT_EQ(reloads, 0);
 }
 
+TEST_F(SheetTest, HomebrewIsUninstalledOnlyOnceItIsGone)
+{
+    sandbox.installFakes({"brew", "curl"});
+    const auto removeWith = [this](const SystemTool& homebrew) {
+        SystemToolUninstallSheet* sheet = systemSheet(homebrew);
+        button(sheet, "uninstallButton")->click();
+        waitUntilIdle(sheet);
+        return sheet;
+    };
+
+    // Offline: the removal script never arrives, and the sheet says so with curl's reason.
+    sandbox.setEnv("FAKE_CURL_FAIL", "1");
+    SystemToolUninstallSheet* offline = removeWith(item(SystemToolID::homebrew));
+    EXPECT_FALSE(offline->uninstallComplete());
+    EXPECT_EQ(offline->errorMessage(), QStringLiteral("The download failed: the server answered with an error. (curl: "
+                                                      "(22) The requested URL returned error: 404)"));
+    offline->close();
+
+    // A script that ends well but leaves Homebrew in place is no removal.
+    sandbox.setEnv("FAKE_CURL_FAIL", "");
+    SystemTool homebrew = item(SystemToolID::homebrew);
+    homebrew.uninstallCommand = QStringLiteral("echo 'Homebrew uninstalled!'");
+    SystemToolUninstallSheet* kept = removeWith(homebrew);
+    EXPECT_FALSE(kept->uninstallComplete());
+    EXPECT_EQ(kept->errorMessage(), QStringLiteral("Homebrew is still installed at %1: its removal did not finish. The "
+                                                   "output above says why.")
+                                        .arg(sandbox.binDirectory() + QStringLiteral("/brew")));
+    kept->close();
+
+    homebrew.uninstallCommand = QStringLiteral("rm %1/brew").arg(sandbox.binDirectory());
+    SystemToolUninstallSheet* gone = removeWith(homebrew);
+    EXPECT_TRUE(gone->uninstallComplete());
+    EXPECT_TRUE(gone->output().endsWith(QStringLiteral("\nHomebrew has been uninstalled.\n")));
+    gone->close();
+}
+
 TEST_F(SheetTest, ASheetClosedMidRunLeavesTheCommandToFinish)
 {
     SystemTool slow = item(SystemToolID::homebrew);

@@ -3,8 +3,11 @@
 
 #include <gtest/gtest.h>
 
+#include <QFile>
+#include <QProcess>
 #include <QRegularExpression>
 #include <QSet>
+#include <QTemporaryDir>
 #include <QUrl>
 
 using qf::CLITool;
@@ -109,17 +112,53 @@ TEST(CLITool, InstallCommands)
 {
     // Claude Code comes from its maker's script over TLS; the other two from npm.
     const QString claude = CLITool(CLITool::claudeCode).installCommand();
-    ASSERT_TRUE(claude.startsWith(QStringLiteral("curl -fsSL ")));
-    ASSERT_TRUE(claude.endsWith(QStringLiteral(" | bash")));
-    const QUrl script(claude.section(QLatin1Char(' '), 2, 2));
+    const QUrl script(claude.section(QLatin1Char(' '), 2, 2).chopped(2));
     EXPECT_EQ(script.scheme(), QStringLiteral("https"));
     EXPECT_EQ(script.path(), QStringLiteral("/install.sh"));
+    EXPECT_EQ(claude, qf::downloadThenRunLine(script.toString(), QStringLiteral("bash")));
 
     for (CLITool tool : {CLITool::geminiCLI, CLITool::codex}) {
         EXPECT_TRUE(tool.requiresNodeJS());
         EXPECT_EQ(tool.installCommand(), QStringLiteral("npm install -g ") + tool.npmPackage());
     }
     EXPECT_FALSE(CLITool(CLITool::claudeCode).requiresNodeJS());
+}
+
+// A script is run only once it has arrived whole; a failed download fails the line with
+// curl's own status, in both shells that run such lines.
+TEST(CLITool, ADownloadedScriptRunsOnlyWhenTheDownloadSucceeded)
+{
+    QTemporaryDir folder;
+    ASSERT_TRUE(folder.isValid());
+    const QString curl = folder.filePath(QStringLiteral("curl"));
+    QFile fake(curl);
+    ASSERT_TRUE(fake.open(QIODevice::WriteOnly));
+    // Half a script arrives, then the connection drops (curl's status 18).
+    fake.write(
+        "#!/bin/sh\n"
+        "if [ -n \"$CUT\" ]; then printf 'touch ran\\n'; printf 'curl: (18) transfer closed\\n' >&2; exit 18; fi\n"
+        "printf 'touch ran\\necho \"$0 and $*\"\\n'\n");
+    fake.close();
+    fake.setPermissions(QFileDevice::ReadOwner | QFileDevice::ExeOwner);
+    const QString line = qf::downloadThenRunLine(QStringLiteral("https://example.com/x.sh"), QStringLiteral("/bin/sh"));
+
+    for (const char* shell : {"/bin/zsh", "/bin/bash"}) {
+        for (const bool cut : {true, false}) {
+            SCOPED_TRACE(std::string(shell) + (cut ? " cut" : " whole"));
+            QFile::remove(folder.filePath(QStringLiteral("ran")));
+            QProcess process;
+            QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+            environment.insert(QStringLiteral("PATH"), folder.path() + QStringLiteral(":/usr/bin:/bin"));
+            if (cut)
+                environment.insert(QStringLiteral("CUT"), QStringLiteral("1"));
+            process.setProcessEnvironment(environment);
+            process.setWorkingDirectory(folder.path());
+            process.start(QString::fromLatin1(shell), {QStringLiteral("-c"), line});
+            ASSERT_TRUE(process.waitForFinished(10000));
+            EXPECT_EQ(process.exitCode(), cut ? 18 : 0);
+            EXPECT_EQ(QFile::exists(folder.filePath(QStringLiteral("ran"))), !cut);
+        }
+    }
 }
 
 TEST(CLITool, UninstallLinesTryEveryNpmAndAlwaysSucceed)

@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QThread>
@@ -360,4 +361,36 @@ TEST_F(ShellRunnerTest, StopsDeliveringWhenItsContextIsGone)
     ASSERT_TRUE(result.has_value());
     EXPECT_TRUE(result->ok());
     EXPECT_EQ(received, QStringList{QStringLiteral("early\n")});
+}
+
+// Quitting the application stops what its commands started, also a child that ignores TERM
+// and also within the grace a stopped command still had before KILL.
+TEST(ShellRunnerQuit, NothingACommandStartedOutlivesTheApplication)
+{
+    for (const char* mode : {"running", "stopped"}) {
+        SCOPED_TRACE(mode);
+        QTemporaryDir folder;
+        ASSERT_TRUE(folder.isValid());
+        const QString pidFile = folder.filePath(QStringLiteral("child.pid"));
+        QProcess helper;
+        helper.start(QStringLiteral(QF_QUIT_HELPER), {QString::fromLatin1(mode), pidFile});
+        ASSERT_TRUE(helper.waitForFinished(20000));
+        ASSERT_EQ(helper.exitCode(), 0) << helper.readAllStandardError().constData();
+        QFile file(pidFile);
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        const pid_t child = file.readAll().trimmed().toInt();
+        ASSERT_GT(child, 0);
+        // Gone, or only a zombie waiting for whoever adopted it.
+        const auto alive = [child] {
+            QFile stat(QStringLiteral("/proc/%1/stat").arg(child));
+            if (!stat.open(QIODevice::ReadOnly))
+                return ::kill(child, 0) == 0;
+            const QByteArray line = stat.readAll();
+            return line.mid(line.lastIndexOf(')') + 2, 1) != "Z";
+        };
+        const bool ended = QTest::qWaitFor([&] { return !alive(); }, 5000);
+        if (!ended)
+            ::kill(child, SIGKILL);
+        EXPECT_TRUE(ended) << "the command's child outlived the application";
+    }
 }

@@ -152,6 +152,19 @@ TEST_F(ToolInstallerTest, ClaudeCodeInstallsWithoutNode)
     EXPECT_TRUE(QFile(sandbox.stateDirectory() + QStringLiteral("/curl.log")).exists());
 }
 
+TEST_F(ToolInstallerTest, AFailedDownloadFailsTheInstallWithItsOwnReason)
+{
+    // Offline: the maker's installer never arrives, so nothing runs and nothing is verified.
+    sandbox.installFakes({"git", "curl"});
+    sandbox.setEnv("FAKE_CURL_FAIL", "1");
+    const SetupRun run = runSetup(CLITool::claudeCode);
+    EXPECT_EQ(run.error(), QStringLiteral("The download failed: the server answered with an error. (curl: (22) The "
+                                          "requested URL returned error: 404)"));
+    EXPECT_EQ(run.last(SetupStepType::installTool), kInProgress);
+    EXPECT_FALSE(run.log.contains(QStringLiteral("Verifying"))) << run.log.toStdString();
+    EXPECT_FALSE(QFile::exists(sandbox.binDirectory() + QStringLiteral("/claude")));
+}
+
 TEST_F(ToolInstallerTest, GeminiWithARecentNodeSkipsTheNodeStep)
 {
     sandbox.installFakes({"git", "node", "npm"});
@@ -267,6 +280,11 @@ TEST_F(ToolInstallerTest, AnOlderNodeFirstOnThePathFailsTheNodeStep)
             .arg(sandbox.path(QStringLiteral(".local/bin")),
                  sandbox.path(QStringLiteral(".nvm/versions/node/v18.19.0/bin"))));
     EXPECT_FALSE(gemini.mentions(SetupStepType::installTool));
+    // The log says what was installed, and then what commands find first.
+    EXPECT_TRUE(gemini.log.contains(QStringLiteral("Node.js v22.11.0 successfully!\nNote: Node.js v18.19.0 in %1 is "
+                                                   "found first on the search path.\n")
+                                        .arg(sandbox.path(QStringLiteral(".nvm/versions/node/v18.19.0/bin")))))
+        << gemini.log.toStdString();
 
     // The same Node.js 18 is enough for Codex: nothing is installed.
     QFile::remove(sandbox.path(QStringLiteral(".local/bin/node")));
@@ -530,6 +548,20 @@ TEST_F(ToolInstallerTest, EveryShellFamilyGetsTheSearchPathInTheFileItReads)
         GTEST_SKIP() << "fish or tcsh is not installed here (scripts/setup installs both): not every shell was tried";
 }
 
+TEST_F(ToolInstallerTest, AnNpmFolderBehindABrokenLinkSendsTheToolToLocal)
+{
+    // npm's prefix is a link whose folder is gone: npm could make nothing there.
+    sandbox.installFakes({"git", "node", "npm"});
+    const QString prefix = sandbox.path(QStringLiteral("npm-global"));
+    ASSERT_TRUE(QFile::link(sandbox.path(QStringLiteral("gone")), prefix));
+    EXPECT_FALSE(ToolInstaller::isWritableNpmPrefix(prefix));
+    EXPECT_FALSE(ToolInstaller::isWritableNpmPrefix(prefix + QStringLiteral("/deeper")));
+    sandbox.setEnv("FAKE_NPM_PREFIX", prefix.toUtf8());
+    const SetupRun run = runSetup(CLITool::geminiCLI);
+    ASSERT_TRUE(run.result && run.result->ok()) << run.error().toStdString();
+    EXPECT_TRUE(sandbox.exists(QStringLiteral(".local/bin/gemini")));
+}
+
 TEST_F(ToolInstallerTest, AWritableNpmFolderIsUsedAsItIs)
 {
     sandbox.installFakes({"git", "node", "npm"});
@@ -569,6 +601,35 @@ TEST_F(ToolInstallerTest, ACopyInAFolderOnlyAnAdministratorMayChangeGoesThroughT
                                             "removed 1 package\n\nGemini CLI has been uninstalled.\n")
                                  .arg(prefix)))
         << log.toStdString();
+}
+
+TEST_F(ToolInstallerTest, TheAdministratorsRemovalFindsNodeOnItsOwnSearchPath)
+{
+    // npm starts through `env node`, and the administrator's shell searches only the system's
+    // folders, where this Node.js is not.
+    sandbox.installFakes({"gemini", "sudo"});
+    QFile npmFixture(QStringLiteral(QF_FIXTURES_DIR "/bin/npm"));
+    ASSERT_TRUE(npmFixture.open(QIODevice::ReadOnly));
+    const QByteArray npmBody = npmFixture.readAll();
+    writeFile(sandbox.binDirectory() + QStringLiteral("/npm"),
+              "#!/usr/bin/env node\n" + npmBody.mid(npmBody.indexOf('\n') + 1));
+    writeFile(sandbox.binDirectory() + QStringLiteral("/node"),
+              "#!/bin/sh\nscript=$1; shift; exec /bin/sh \"$script\" \"$@\"\n");
+    for (const char* program : {"/npm", "/node"})
+        QFile::setPermissions(sandbox.binDirectory() + QLatin1String(program),
+                              QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+    const QString prefix = QFileInfo(sandbox.binDirectory()).absolutePath();
+    writeFile(prefix + QStringLiteral("/lib"), "");
+    sandbox.setEnv("FAKE_NPM_PREFIX", prefix.toUtf8());
+    sandbox.setEnv("FAKE_NPM_DENIED", "1");
+    sandbox.setEnv("FAKE_SUDO_ALLOW", "1");
+    sandbox.setEnv("FAKE_SUDO_PATH", "/usr/sbin:/sbin");
+
+    QString log;
+    const auto result = await(installer.uninstall(CLITool::geminiCLI, [&](const QString& t) { log += t; }));
+    ASSERT_TRUE(result && result->ok()) << result->error().errorDescription().toStdString();
+    EXPECT_FALSE(QFile::exists(sandbox.binDirectory() + QStringLiteral("/gemini"))) << log.toStdString();
+    EXPECT_TRUE(log.endsWith(QStringLiteral("\nGemini CLI has been uninstalled.\n"))) << log.toStdString();
 }
 
 TEST_F(ToolInstallerTest, UninstallThatCannotLookAfterwardsSaysSo)
