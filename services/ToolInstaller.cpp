@@ -3,6 +3,7 @@
 #include "NodeRelease.h"
 #include "ProfileWriter.h"
 #include "ShellQuote.h"
+#include "StagedInstall.h"
 
 #include <QCoro/QCoroFuture>
 #include <QDir>
@@ -161,18 +162,51 @@ QCoro::Task<Result<QString>> ToolInstaller::installNodeRelease(Output log)
     }
     log(QStringLiteral("SHA-256 checksum verified\n"));
 
-    // The archive's top folder is stripped, so bin/node lands in ~/.local/bin; its three loose
-    // files are left out so they do not litter ~/.local.
+    // The archive is unpacked into a hidden folder inside ~/.local, on the same volume, and its
+    // files are moved into place only once all of it is there: a full disk or a broken archive
+    // leaves ~/.local as it was, never a node that runs and does nothing. A folder the user
+    // linked elsewhere (~/.local/bin into a dotfiles folder, say) stays a link and receives the
+    // files.
+    const QString local = QDir::homePath() + QStringLiteral("/.local");
+    QFuture<Result<stagedInstall::Staging>> preparing = QtConcurrent::run(stagedInstall::begin, local);
+    const Result<stagedInstall::Staging> staging = co_await preparing;
+    if (!staging)
+        co_return staging.error();
+
+    // The archive's top folder is stripped, so bin/node lands in bin; its three loose files are
+    // left out so they do not litter ~/.local. What tar says goes to the log and, should it
+    // fail, into the error, which then names the cause (a full disk, say).
     const QString top = release->folderName + QLatin1Char('/');
+    QString tarOutput;
     const Result<void> unpacked = co_await m_shell.runWithStreaming(
-        QStringLiteral("mkdir -p ~/.local && tar -xzf ") + shellQuote(archive) +
-            QStringLiteral(" -C ~/.local --strip-components=1 --exclude=") +
+        QStringLiteral("tar -xzf ") + shellQuote(archive) + QStringLiteral(" -C ") +
+            shellQuote(staging.value().folder) + QStringLiteral(" --strip-components=1 --exclude=") +
             shellQuote(top + QStringLiteral("CHANGELOG.md")) + QStringLiteral(" --exclude=") +
             shellQuote(top + QStringLiteral("LICENSE")) + QStringLiteral(" --exclude=") +
             shellQuote(top + QStringLiteral("README.md")),
-        log);
-    if (!unpacked)
-        co_return unpacked.error();
+        [&log, &tarOutput](const QString& text) {
+            tarOutput += text;
+            if (tarOutput.size() > ShellError::shownOutputLength)
+                tarOutput = tarOutput.right(ShellError::shownOutputLength);
+            log(text);
+        },
+        nullptr, QObject::tr("Unpacking Node.js %1").arg(release->version));
+    if (!unpacked) {
+        QFuture<void> abandoning = QtConcurrent::run(stagedInstall::abandon, staging.value());
+        co_await abandoning;
+        const ShellError* error = unpacked.error().shellError();
+        if (!error || error->kind() != ShellError::commandFailed || tarOutput.trimmed().isEmpty())
+            co_return unpacked.error();
+        co_return ServiceError::message(
+            QObject::tr("Could not unpack Node.js %1: %2").arg(release->version, tarOutput.trimmed()));
+    }
+    // node and its commands go in last, once everything they need is there.
+    const QStringList last{QStringLiteral("bin/corepack"), QStringLiteral("bin/npx"), QStringLiteral("bin/npm"),
+                           QStringLiteral("bin/node")};
+    QFuture<Result<void>> placing = QtConcurrent::run(stagedInstall::complete, staging.value(), local, last);
+    const Result<void> placed = co_await placing;
+    if (!placed)
+        co_return placed.error();
     log(QStringLiteral("Unpacked Node.js %1 into ~/.local (node and npm are in ~/.local/bin)\n").arg(release->version));
     co_return release->version;
 }
