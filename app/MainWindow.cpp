@@ -16,7 +16,7 @@
 namespace qf {
 
 MainWindow::MainWindow(InstallationState& state, Services& services, ScreenFactory factory, QWidget* parent)
-    : QWidget(parent), m_services(services), m_installation(state, services.installer)
+    : QWidget(parent), m_services(services), m_installation(state, services.installer, services.logs)
 {
     setObjectName(QStringLiteral("mainWindow"));
     setWindowTitle(QStringLiteral("Quillforge"));

@@ -23,7 +23,7 @@ QWidget* makeScreen(InstallationStep step, InstallationState& state, Services& s
     case InstallationStep::welcome: return new WelcomeView(state, services.platform);
     case InstallationStep::accountSetup: return new AccountSetupView(state, services.platform);
     case InstallationStep::systemCheck: return new SystemCheckView(state, services);
-    case InstallationStep::installation: return new InstallationView(state, installation);
+    case InstallationStep::installation: return new InstallationView(state, installation, services.platform);
     case InstallationStep::apiKey: return new APIKeyView(state, services);
     case InstallationStep::completion: return new CompletionView(state, services);
     case InstallationStep::terminal: return new TerminalScreenView(state, services);

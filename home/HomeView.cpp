@@ -264,12 +264,13 @@ void HomeView::renderSheets()
             self->loadData();
     };
     if (m_toolToUninstall && !m_aiSheet) {
-        m_aiSheet = new UninstallSheet(*m_toolToUninstall, m_services.installer, reload, flags, window());
+        m_aiSheet = new UninstallSheet(*m_toolToUninstall, m_services.installer, m_services.logs, reload, flags,
+                                       window());
         present(m_aiSheet, m_toolToUninstall);
     }
     if (m_systemToolToUninstall && !m_systemSheet) {
-        m_systemSheet = new SystemToolUninstallSheet(*m_systemToolToUninstall, m_services.runner, reload, flags,
-                                                     window());
+        m_systemSheet = new SystemToolUninstallSheet(*m_systemToolToUninstall, m_services.runner, m_services.logs,
+                                                     reload, flags, window());
         present(m_systemSheet, m_systemToolToUninstall);
     }
 }

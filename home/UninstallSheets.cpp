@@ -1,5 +1,7 @@
 #include "UninstallSheets.h"
 
+#include "BoundedLog.h"
+#include "LogFile.h"
 #include "ShellRunner.h"
 #include "ToolInstaller.h"
 
@@ -41,9 +43,14 @@ Button* sheetButton(const QString& title, Button::Style style, const char* objec
 
 // MARK: RemovalSheet
 
-RemovalSheet::RemovalSheet(const QString& name, std::function<void()> onComplete, Qt::WindowFlags flags, int height,
-                           QWidget* parent)
-    : QDialog(parent, flags), m_name(name), m_onComplete(std::move(onComplete)), m_minimumHeight(height)
+RemovalSheet::RemovalSheet(const QString& name, const LogBook& logs, std::function<void()> onComplete,
+                           Qt::WindowFlags flags, int height, QWidget* parent)
+    : QDialog(parent, flags),
+      m_name(name),
+      m_logs(logs),
+      m_logFile(std::make_shared<LogFile>()),
+      m_onComplete(std::move(onComplete)),
+      m_minimumHeight(height)
 {
     setWindowModality(Qt::WindowModal);
     setWindowTitle(tr("Uninstall %1").arg(name));
@@ -86,6 +93,7 @@ RemovalSheet::RemovalSheet(const QString& name, std::function<void()> onComplete
     logColumn->addWidget(m_details, 0, Qt::AlignLeft);
     m_log = new LogView;
     m_log->setFixedHeight(90);
+    m_log->setLimit(BoundedLog::kDefaultLimit, BoundedLog::cutNotice());
     logColumn->addWidget(m_log);
     column->addLayout(padded(m_logSection));
 
@@ -151,11 +159,28 @@ void RemovalSheet::start()
     m_isUninstalling = true;
     m_errorMessage.reset();
     m_log->clear();
+    m_logFile = m_logs.start(QStringLiteral("Uninstall ") + m_name);
     render();
     performUninstall();
 }
 
 void RemovalSheet::appendOutput(const QString& text)
+{
+    m_logFile->append(text);
+    showOutput(text);
+}
+
+std::function<void(const QString&)> RemovalSheet::outputSink()
+{
+    const QPointer<RemovalSheet> self(this);
+    return [self, file = m_logFile](const QString& text) {
+        file->append(text);
+        if (self)
+            self->showOutput(text);
+    };
+}
+
+void RemovalSheet::showOutput(const QString& text)
 {
     const bool wasEmpty = m_log->isEmpty();
     m_log->append(text);
@@ -222,9 +247,11 @@ void RemovalSheet::render()
 
 // MARK: UninstallSheet
 
-UninstallSheet::UninstallSheet(CLITool tool, ToolInstaller& installer, std::function<void()> onComplete,
-                               Qt::WindowFlags flags, QWidget* parent)
-    : RemovalSheet(tool.displayName(), std::move(onComplete), flags, 360, parent), m_tool(tool), m_installer(installer)
+UninstallSheet::UninstallSheet(CLITool tool, ToolInstaller& installer, const LogBook& logs,
+                               std::function<void()> onComplete, Qt::WindowFlags flags, QWidget* parent)
+    : RemovalSheet(tool.displayName(), logs, std::move(onComplete), flags, 360, parent),
+      m_tool(tool),
+      m_installer(installer)
 {
     setObjectName(QStringLiteral("uninstallSheet"));
     render();
@@ -232,23 +259,17 @@ UninstallSheet::UninstallSheet(CLITool tool, ToolInstaller& installer, std::func
 
 void UninstallSheet::performUninstall()
 {
-    const QPointer<UninstallSheet> self(this);
-    QCoro::connect(m_installer.uninstall(m_tool,
-                                         [self](const QString& text) {
-                                             if (self)
-                                                 self->appendOutput(text);
-                                         }),
-                   this, [this](const Result<void>& result) {
-                       finish(result ? std::nullopt : std::optional<QString>(result.error().errorDescription()));
-                   });
+    QCoro::connect(m_installer.uninstall(m_tool, outputSink()), this, [this](const Result<void>& result) {
+        finish(result ? std::nullopt : std::optional<QString>(result.error().errorDescription()));
+    });
 }
 
 // MARK: SystemToolUninstallSheet
 
-SystemToolUninstallSheet::SystemToolUninstallSheet(const SystemTool& tool, ShellRunner& shell,
+SystemToolUninstallSheet::SystemToolUninstallSheet(const SystemTool& tool, ShellRunner& shell, const LogBook& logs,
                                                    std::function<void()> onComplete, Qt::WindowFlags flags,
                                                    QWidget* parent)
-    : RemovalSheet(tool.name, std::move(onComplete), flags, 340, parent), m_tool(tool), m_shell(shell)
+    : RemovalSheet(tool.name, logs, std::move(onComplete), flags, 340, parent), m_tool(tool), m_shell(shell)
 {
     setObjectName(QStringLiteral("systemToolUninstallSheet"));
     render();
@@ -270,15 +291,8 @@ void SystemToolUninstallSheet::performUninstall()
     const QString command = *m_tool.uninstallCommand;
     appendOutput(QStringLiteral("Running: ") + m_tool.uninstallShownAs.value_or(command) + QStringLiteral("\n\n"));
     // The command may outlive the sheet ("Cancel" stays while it runs): its output then goes
-    // nowhere and the next load of the dashboard shows what it did.
-    const QPointer<SystemToolUninstallSheet> self(this);
-    QCoro::connect(m_shell.runWithStreaming(
-                       command,
-                       [self](const QString& text) {
-                           if (self)
-                               self->appendOutput(text);
-                       },
-                       this, tr("The removal of %1").arg(m_tool.name)),
+    // to the log file only, and the next load of the dashboard shows what it did.
+    QCoro::connect(m_shell.runWithStreaming(command, outputSink(), nullptr, tr("The removal of %1").arg(m_tool.name)),
                    this, [this](const Result<void>& result) {
                        if (!result) {
                            const ShellError* error = result.error().shellError();

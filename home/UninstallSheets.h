@@ -6,10 +6,13 @@
 #include <QDialog>
 
 #include <functional>
+#include <memory>
 #include <optional>
 
 namespace qf {
 
+class LogBook;
+class LogFile;
 class ToolInstaller;
 class ShellRunner;
 
@@ -29,7 +32,8 @@ class SymbolView;
 //   uninstalling  the spinner; no button, except where the removal may be left to run
 //   complete      "Uninstall Complete", "Cancel" and "Done" (which reloads the dashboard)
 //   failed        the error row, "Cancel" and "Uninstall" again
-// Escape acts as "Cancel" whenever "Cancel" is shown, and does nothing otherwise.
+// Escape acts as "Cancel" whenever "Cancel" is shown, and does nothing otherwise. The log on
+// the sheet keeps the newest part of a long one; each removal's whole log goes to a file.
 class RemovalSheet : public QDialog {
     Q_OBJECT
 
@@ -42,8 +46,8 @@ public:
     void reject() override;
 
 protected:
-    RemovalSheet(const QString& name, std::function<void()> onComplete, Qt::WindowFlags flags, int height,
-                 QWidget* parent);
+    RemovalSheet(const QString& name, const LogBook& logs, std::function<void()> onComplete, Qt::WindowFlags flags,
+                 int height, QWidget* parent);
 
     // What a kind of sheet is (each subclass calls `render()` once it is made):
     // runs the removal, ending by calling `finish()`;
@@ -56,6 +60,9 @@ protected:
     virtual bool isLogCollapsible() const { return true; }
 
     void appendOutput(const QString& text);
+    // Where a removal's output goes from a command that may outlive the sheet: the removal's
+    // log file, and the sheet while it is there.
+    std::function<void(const QString&)> outputSink();
     void finish(const std::optional<QString>& error);
     void render();
 
@@ -64,12 +71,15 @@ private:
     void setDetailsShown(bool shown);
     // "Done": the dashboard reloads, and the sheet closes.
     void completeAndClose();
+    void showOutput(const QString& text);
 
     bool m_isUninstalling = false;
     bool m_uninstallComplete = false;
     std::optional<QString> m_errorMessage;
     bool m_showOutput = false;
     QString m_name;
+    const LogBook& m_logs;
+    std::shared_ptr<LogFile> m_logFile;
     std::function<void()> m_onComplete;
     int m_minimumHeight;
     ui::IconTile* m_icon;
@@ -93,8 +103,8 @@ class UninstallSheet : public RemovalSheet {
     Q_OBJECT
 
 public:
-    UninstallSheet(CLITool tool, ToolInstaller& installer, std::function<void()> onComplete, Qt::WindowFlags flags,
-                   QWidget* parent);
+    UninstallSheet(CLITool tool, ToolInstaller& installer, const LogBook& logs, std::function<void()> onComplete,
+                   Qt::WindowFlags flags, QWidget* parent);
 
     CLITool tool() const { return m_tool; }
 
@@ -113,8 +123,8 @@ class SystemToolUninstallSheet : public RemovalSheet {
     Q_OBJECT
 
 public:
-    SystemToolUninstallSheet(const SystemTool& tool, ShellRunner& shell, std::function<void()> onComplete,
-                             Qt::WindowFlags flags, QWidget* parent);
+    SystemToolUninstallSheet(const SystemTool& tool, ShellRunner& shell, const LogBook& logs,
+                             std::function<void()> onComplete, Qt::WindowFlags flags, QWidget* parent);
 
     const SystemTool& tool() const { return m_tool; }
 

@@ -1,14 +1,16 @@
 #include "InstallationController.h"
 
 #include "InstallationState.h"
+#include "LogFile.h"
 
 #include <QCoro/QCoroSignal>
 #include <QPointer>
 
 namespace qf {
 
-InstallationController::InstallationController(InstallationState& state, SetupService& installer, QObject* parent)
-    : QObject(parent), m_state(state), m_installer(installer)
+InstallationController::InstallationController(InstallationState& state, SetupService& installer, const LogBook& logs,
+                                               QObject* parent)
+    : QObject(parent), m_state(state), m_installer(installer), m_logs(logs)
 {
 }
 
@@ -28,6 +30,7 @@ QCoro::Task<> InstallationController::startInstallation()
     setComplete(false);
     m_state.setErrorMessage(std::nullopt);
     m_state.setInstallationOutput(QString());
+    m_logFile.reset();
 
     // A run of an earlier attempt may still be going on (its screen went away); two
     // installations at once would fight over the same files.
@@ -46,15 +49,19 @@ QCoro::Task<> InstallationController::startInstallation()
         co_return;
     }
     m_state.setSetupSteps(steps);
+    const std::shared_ptr<LogFile> log = m_logs.start(QStringLiteral("Install ") + tool->displayName());
+    m_logFile = log;
 
     // The callbacks are named before the run: GCC 12 destroys some temporaries of a co_await
-    // expression twice.
+    // expression twice. The file gets the whole run, also once a newer attempt has taken over
+    // the screen.
     const SetupService::StepUpdate onStepUpdate = [self, attempt](SetupStepType type, const SetupStepStatus& status,
                                                                   const std::optional<QString>& details) {
         if (self && self->isCurrent(attempt))
             self->updateStep(type, status, details);
     };
-    const SetupService::Output onOutput = [self, attempt](const QString& text) {
+    const SetupService::Output onOutput = [self, attempt, log](const QString& text) {
+        log->append(text);
         if (self && self->isCurrent(attempt))
             self->m_state.appendInstallationOutput(text);
     };

@@ -8,11 +8,14 @@
 #include <QObject>
 
 #include <functional>
+#include <memory>
 #include <optional>
 
 namespace qf {
 
 class InstallationState;
+class LogBook;
+class LogFile;
 
 // What an installation needs from the installer: the steps of a tool, and a run of them that
 // reports each step's changes and streams a readable log.
@@ -35,15 +38,16 @@ protected:
 
 // Runs installation attempts for the installation screen and mirrors what the installer
 // reports into the shared state: the step list with live statuses, the growing log and the
-// error text. It lives as long as the window, so a screen that goes away mid-run leaves the
-// run going to its end without anything touching the gone screen; a new screen starts a new
-// attempt. Attempts never overlap: a new one waits for the run before it to end, and from
-// its start on only its own reports reach the state.
+// error text. Each run's whole log also goes to a file of its own in `logs`. It lives as long as the window, so a
+// screen that goes away mid-run leaves the run going to its end without anything touching the gone screen; a new screen
+// starts a new attempt. Attempts never overlap: a new one waits for the run before it to end, and from its start on
+// only its own reports reach the state.
 class InstallationController : public QObject {
     Q_OBJECT
 
 public:
-    InstallationController(InstallationState& state, SetupService& installer, QObject* parent = nullptr);
+    InstallationController(InstallationState& state, SetupService& installer, const LogBook& logs,
+                           QObject* parent = nullptr);
 
     // A run of the current attempt is going on.
     bool isInstalling() const { return m_isInstalling; }
@@ -51,6 +55,8 @@ public:
     bool installationComplete() const { return m_installationComplete; }
     // Some attempt's run is still going on (perhaps one that nobody watches any more).
     bool isRunning() const { return m_running; }
+    // The whole log of the current attempt's run; none until the run has started.
+    std::shared_ptr<const LogFile> logFile() const { return m_logFile; }
 
     // A new attempt for the selected tool: clears the log and the error, builds the step list
     // and runs it. Without a selected tool nothing starts and the attempt stays idle. Never
@@ -78,6 +84,8 @@ private:
 
     InstallationState& m_state;
     SetupService& m_installer;
+    const LogBook& m_logs;
+    std::shared_ptr<const LogFile> m_logFile;
     int m_attempt = 0;
     bool m_running = false;
     bool m_isInstalling = false;

@@ -44,14 +44,19 @@ void InstallationState::setSetupSteps(const QList<SetupStep>& steps)
 
 void InstallationState::setInstallationOutput(const QString& output)
 {
-    assign(m_installationOutput, output, &InstallationState::installationOutputChanged);
+    if (m_installationLog.text() == output && !m_installationLog.wasCut())
+        return;
+    m_installationLog.clear();
+    m_installationLog.append(output);
+    Q_EMIT installationOutputChanged();
+    Q_EMIT changed();
 }
 
 void InstallationState::appendInstallationOutput(const QString& text)
 {
     if (text.isEmpty())
         return;
-    m_installationOutput += text;
+    m_installationLog.append(text);
     Q_EMIT installationOutputChanged();
     Q_EMIT changed();
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "BoundedLog.h"
 #include "CLITool.h"
 #include "SetupModel.h"
 
@@ -27,7 +28,9 @@ public:
     const QList<SetupStep>& setupSteps() const { return m_setupSteps; }
     bool isLoading() const { return m_isLoading; }
     double installationProgress() const { return m_installationProgress; }
-    const QString& installationOutput() const { return m_installationOutput; }
+    // The log on screen: the newest part of a long one (the whole log is in the log file).
+    const QString& installationOutput() const { return m_installationLog.text(); }
+    const BoundedLog& installationLog() const { return m_installationLog; }
     const QString& apiKey() const { return m_apiKey; }
     const std::optional<QString>& errorMessage() const { return m_errorMessage; }
     bool toolAlreadyInstalled() const { return m_toolAlreadyInstalled; }
@@ -78,7 +81,7 @@ private:
     QList<SetupStep> m_setupSteps;
     bool m_isLoading = false;
     double m_installationProgress = 0.0;
-    QString m_installationOutput;
+    BoundedLog m_installationLog;
     QString m_apiKey;
     std::optional<QString> m_errorMessage;
     bool m_toolAlreadyInstalled = false;

@@ -2,6 +2,8 @@
 
 #include "InstallationController.h"
 #include "InstallationState.h"
+#include "LogFile.h"
+#include "Platform.h"
 #include "SharedComponents.h"
 
 #include "Label.h"
@@ -140,10 +142,12 @@ void SetupProgressView::setSteps(const QList<SetupStep>& steps)
         layout()->addWidget(new SetupStepRow(step, this));
 }
 
-InstallationView::InstallationView(InstallationState& state, InstallationController& controller, QWidget* parent)
+InstallationView::InstallationView(InstallationState& state, InstallationController& controller, Platform& platform,
+                                   QWidget* parent)
     : FlowScreen(QStringLiteral("installationView"), tr("Installation"), parent),
       m_state(state),
-      m_controller(controller)
+      m_controller(controller),
+      m_platform(platform)
 {
     QVBoxLayout* column = makeColumn(24, 32);
     if (const std::optional<CLITool> tool = m_state.selectedTool()) {
@@ -193,6 +197,7 @@ InstallationView::InstallationView(InstallationState& state, InstallationControl
     m_log->setTextFont(Theme::font(10, QFont::Normal, FontDesign::monospaced));
     m_log->setMinimumHeight(100);
     m_log->setMaximumHeight(200);
+    m_log->setLimit(m_state.installationLog().limit(), BoundedLog::cutNotice());
     m_log->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
     m_log->hide();
     logColumn->addWidget(m_log);
@@ -217,6 +222,13 @@ InstallationView::InstallationView(InstallationState& state, InstallationControl
     column->addStretch(1);
 
     m_back = addBackToHome(m_state);
+    m_showLogFile = new Button(tr("Show Log File"), Button::Style::bordered, Button::Size::large);
+    m_showLogFile->setObjectName(QStringLiteral("showLogFileButton"));
+    connect(m_showLogFile, &QAbstractButton::clicked, this, [this] {
+        if (const QString path = logFilePath(); !path.isEmpty())
+            m_platform.revealFile(path);
+    });
+    bottomBar()->addWidget(m_showLogFile);
     m_main = flow::mainButton(QString(), QStringLiteral("mainButton"));
     connect(m_main, &QAbstractButton::clicked, this, [this] {
         if (m_controller.installationComplete())
@@ -274,21 +286,32 @@ void InstallationView::render()
     m_errorCard->setAccessibleDescription(error.value_or(QString()));
 
     m_back->setVisible(!installing);
+    m_showLogFile->setVisible(error.has_value() && !installing && !logFilePath().isEmpty());
     m_main->setVisible(complete || error.has_value());
     m_main->setTitle(complete ? tr("Continue") : tr("Try Again"));
 }
 
 void InstallationView::syncLog()
 {
-    const QString& output = m_state.installationOutput();
-    if (output.size() < m_shownLength) {
+    const BoundedLog& log = m_state.installationLog();
+    if (log.generation() != m_shownGeneration || log.totalLength() < m_shownLength) {
         m_log->clear();
+        m_shownGeneration = log.generation();
         m_shownLength = 0;
     }
-    if (output.size() > m_shownLength) {
-        m_log->append(output.sliced(m_shownLength));
-        m_shownLength = output.size();
+    const qint64 fresh = log.totalLength() - m_shownLength;
+    if (fresh <= 0)
+        return;
+    const QStringView kept = QStringView(log.text()).sliced(log.noticeLength());
+    if (fresh > kept.size()) {
+        // More arrived than the state keeps (the screen came late to a long log): what is
+        // kept, with its notice, replaces what was shown.
+        m_log->clear();
+        m_log->append(log.text());
+    } else {
+        m_log->append(kept.last(fresh).toString());
     }
+    m_shownLength = log.totalLength();
 }
 
 void InstallationView::setShowDetails(bool show)
@@ -300,11 +323,30 @@ void InstallationView::setShowDetails(bool show)
         m_log->scrollToEnd();
 }
 
+QString InstallationView::logFilePath() const
+{
+    const std::shared_ptr<const LogFile> file = m_controller.logFile();
+    return file ? file->path() : QString();
+}
+
 void InstallationView::copyLog()
+{
+    // Only the newest part of a long log is kept here; its file has all of it.
+    const std::shared_ptr<const LogFile> file = m_controller.logFile();
+    if (!m_state.installationLog().wasCut() || !file || !file->isWhole()) {
+        copyText(m_state.installationOutput());
+        return;
+    }
+    QCoro::connect(file->readWhole(), this, [this](const std::optional<QString>& whole) {
+        copyText(whole.value_or(m_state.installationOutput()));
+    });
+}
+
+void InstallationView::copyText(const QString& text)
 {
     QClipboard* clipboard = QGuiApplication::clipboard();
     clipboard->clear();
-    clipboard->setText(m_state.installationOutput());
+    clipboard->setText(text);
     m_toast->present();
 }
 

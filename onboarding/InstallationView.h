@@ -8,6 +8,7 @@ namespace qf {
 class CopiedToastPresenter;
 class InstallationController;
 class InstallationState;
+class Platform;
 
 namespace ui {
 class Label;
@@ -46,14 +47,16 @@ public:
 };
 
 // The installation: starts a run for the chosen tool as soon as it appears and shows the steps
-// with their live status, the log behind "Details" (with "Copy Log"), and at the end either
-// "Installation Complete!" with "Continue" or the error with "Try Again". The run itself
-// belongs to the controller, so leaving the screen never stops it.
+// with their live status, the log behind "Details" (with "Copy Log", which copies the whole
+// log even when only its newest part is shown), and at the end either "Installation Complete!"
+// with "Continue" or the error with "Try Again" and "Show Log File". The run itself belongs to
+// the controller, so leaving the screen never stops it.
 class InstallationView : public FlowScreen {
     Q_OBJECT
 
 public:
-    InstallationView(InstallationState& state, InstallationController& controller, QWidget* parent = nullptr);
+    InstallationView(InstallationState& state, InstallationController& controller, Platform& platform,
+                     QWidget* parent = nullptr);
 
     bool showDetails() const { return m_showDetails; }
     SetupProgressView* progressView() const { return m_progress; }
@@ -71,11 +74,17 @@ private:
     void syncLog();
     void setShowDetails(bool show);
     void copyLog();
+    void copyText(const QString& text);
+    // The current run's log file, when one could be made.
+    QString logFilePath() const;
 
     InstallationState& m_state;
     InstallationController& m_controller;
+    Platform& m_platform;
     bool m_showDetails = false;
-    qsizetype m_shownLength = 0;
+    // How far the log on screen has followed the state's: its generation and length.
+    int m_shownGeneration = 0;
+    qint64 m_shownLength = 0;
 
     ToolTile* m_tile = nullptr;
     ui::Label* m_title = nullptr;
@@ -88,6 +97,7 @@ private:
     ui::RoundedCard* m_errorCard;
     ui::Label* m_errorText;
     ui::Button* m_back;
+    ui::Button* m_showLogFile;
     ui::Button* m_main;
     CopiedToastPresenter* m_toast;
 };

@@ -4,12 +4,14 @@
 #include "ShellQuote.h"
 
 #include <QCoreApplication>
+#include <QDesktopServices>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QSysInfo>
+#include <QUrl>
 
 namespace qf {
 
@@ -402,6 +404,60 @@ std::optional<NodeReleaseTarget> LinuxPlatform::nodeReleaseTargetFor(const QStri
     if (cpuArchitecture == QLatin1String("arm64") || cpuArchitecture == QLatin1String("aarch64"))
         return NodeReleaseTarget{QStringLiteral("linux-arm64"), QStringLiteral("linux-arm64")};
     return std::nullopt;
+}
+
+QString LinuxPlatform::logFolder() const
+{
+    return logFolderIn(qEnvironmentVariable("XDG_STATE_HOME"), QDir::homePath());
+}
+
+QString LinuxPlatform::logFolderIn(const QString& stateHome, const QString& home)
+{
+    const QString base = QDir::isAbsolutePath(stateHome) ? stateHome : home + QStringLiteral("/.local/state");
+    return QDir::cleanPath(base + QStringLiteral("/quillforge/logs"));
+}
+
+QStringList LinuxPlatform::showItemsCommandLine(const QString& path)
+{
+    // dbus-send splits an array at its commas, so a comma in the path goes in escaped.
+    QString uri = QUrl::fromLocalFile(path).toString(QUrl::FullyEncoded);
+    uri.replace(QLatin1Char(','), QStringLiteral("%2C"));
+    return {QStringLiteral("dbus-send"),
+            QStringLiteral("--session"),
+            QStringLiteral("--print-reply"),
+            QStringLiteral("--dest=org.freedesktop.FileManager1"),
+            QStringLiteral("--type=method_call"),
+            QStringLiteral("/org/freedesktop/FileManager1"),
+            QStringLiteral("org.freedesktop.FileManager1.ShowItems"),
+            QStringLiteral("array:string:") + uri,
+            QStringLiteral("string:")};
+}
+
+void LinuxPlatform::revealFile(const QString& path)
+{
+    // Without a file manager that answers on the session bus, the folder opens instead. The
+    // process owns itself and goes once it has ended or failed to start.
+    const QStringList commandLine = showItemsCommandLine(path);
+    auto* process = new QProcess;
+    process->setProgram(commandLine.first());
+    process->setArguments(commandLine.mid(1));
+    process->setStandardInputFile(QProcess::nullDevice());
+    process->setStandardOutputFile(QProcess::nullDevice());
+    process->setStandardErrorFile(QProcess::nullDevice());
+    const QUrl folder = QUrl::fromLocalFile(QFileInfo(path).absolutePath());
+    QObject::connect(process, &QProcess::errorOccurred, process, [process, folder](QProcess::ProcessError error) {
+        if (error != QProcess::FailedToStart)
+            return;
+        QDesktopServices::openUrl(folder);
+        process->deleteLater();
+    });
+    QObject::connect(process, &QProcess::finished, process,
+                     [process, folder](int exitCode, QProcess::ExitStatus exitStatus) {
+                         if (exitStatus != QProcess::NormalExit || exitCode != 0)
+                             QDesktopServices::openUrl(folder);
+                         process->deleteLater();
+                     });
+    process->start();
 }
 
 } // namespace qf

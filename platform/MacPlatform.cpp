@@ -6,6 +6,7 @@
 #include "ShellQuote.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFileInfo>
 #include <QOperatingSystemVersion>
 #include <QProcess>
@@ -242,6 +243,22 @@ std::optional<NodeReleaseTarget> MacPlatform::nodeReleaseTargetFor(const QString
     if (cpuArchitecture == QLatin1String("x86_64"))
         return NodeReleaseTarget{QStringLiteral("darwin-x64"), QStringLiteral("osx-x64-tar")};
     return std::nullopt;
+}
+
+QString MacPlatform::logFolder() const { return logFolderIn(QDir::homePath()); }
+
+QString MacPlatform::logFolderIn(const QString& home) { return home + QStringLiteral("/Library/Logs/Quillforge"); }
+
+QStringList MacPlatform::revealCommandLine(const QString& path)
+{
+    return {QStringLiteral("/usr/bin/open"), QStringLiteral("-R"), path};
+}
+
+void MacPlatform::revealFile(const QString& path)
+{
+    const QStringList commandLine = revealCommandLine(path);
+    if (!QProcess::startDetached(commandLine.first(), commandLine.mid(1)))
+        Platform::revealFile(path);
 }
 
 } // namespace qf

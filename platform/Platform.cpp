@@ -1,6 +1,7 @@
 #include "Platform.h"
 
 #include <QDesktopServices>
+#include <QFileInfo>
 #include <QStorageInfo>
 #include <QUrl>
 
@@ -15,6 +16,8 @@ DiskSpace Platform::availableDiskSpace(const QString& path) const
 }
 
 void Platform::revealFolder(const QString& path) { QDesktopServices::openUrl(QUrl::fromLocalFile(path)); }
+
+void Platform::revealFile(const QString& path) { revealFolder(QFileInfo(path).absolutePath()); }
 
 void Platform::openURL(const QUrl& url) { QDesktopServices::openUrl(url); }
 

@@ -138,6 +138,12 @@ public:
 
     // Shows a folder to the user in the file manager.
     virtual void revealFolder(const QString& path);
+    // Shows a file to the user in the file manager, selected where the file manager can do
+    // that; otherwise its folder.
+    virtual void revealFile(const QString& path);
+    // Where the whole logs of installations and removals are kept (the folder may not exist
+    // yet): on macOS ~/Library/Logs/Quillforge, elsewhere under the user's state folder.
+    virtual QString logFolder() const = 0;
     // Opens a web page in the user's browser.
     virtual void openURL(const QUrl& url);
 

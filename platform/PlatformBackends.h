@@ -31,6 +31,9 @@ public:
     bool terminalStartsLoginShell() const override;
     QString administratorCommand(const QString& command) const override { return administratorLine(command); }
     std::optional<NodeReleaseTarget> nodeReleaseTarget() const override;
+    // Finder, with the file selected (`open -R`).
+    void revealFile(const QString& path) override;
+    QString logFolder() const override;
 
     // The texts of a Mac: the ones the whole application was designed with.
     static const SystemWording& standardWording();
@@ -48,6 +51,10 @@ public:
     static QString administratorLine(const QString& command);
     // The archive for a Mac with this processor (as Qt names it: arm64, x86_64).
     static std::optional<NodeReleaseTarget> nodeReleaseTargetFor(const QString& cpuArchitecture);
+    // The log folder of the user whose home is `home`: ~/Library/Logs/Quillforge.
+    static QString logFolderIn(const QString& home);
+    // The program and arguments that show `path` selected in Finder.
+    static QStringList revealCommandLine(const QString& path);
 };
 
 // Linux: the first terminal emulator found on PATH, os-release for the system's name, git and
@@ -72,6 +79,9 @@ public:
     bool terminalStartsLoginShell() const override;
     QString administratorCommand(const QString& command) const override { return administratorLine(command); }
     std::optional<NodeReleaseTarget> nodeReleaseTarget() const override;
+    // The file manager's ShowItems over D-Bus (through dbus-send); its folder when that fails.
+    void revealFile(const QString& path) override;
+    QString logFolder() const override;
 
     // The texts of a Linux system whose os-release says `osRelease`.
     static SystemWording wordingFor(const QMap<QString, QString>& osRelease);
@@ -108,6 +118,11 @@ public:
     static QString administratorLine(const QString& command);
     // The archive for a Linux system with this processor (as Qt names it: x86_64, arm64, ...).
     static std::optional<NodeReleaseTarget> nodeReleaseTargetFor(const QString& cpuArchitecture);
+    // The log folder: "quillforge/logs" in the state folder `stateHome` (XDG_STATE_HOME), or in
+    // ~/.local/state when that is unset or not an absolute path.
+    static QString logFolderIn(const QString& stateHome, const QString& home);
+    // The dbus-send command line that asks the file manager to show `path` selected.
+    static QStringList showItemsCommandLine(const QString& path);
 
 private:
     QMap<QString, QString> m_osRelease;

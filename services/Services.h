@@ -1,5 +1,6 @@
 #pragma once
 
+#include "LogFile.h"
 #include "Platform.h"
 #include "ShellRunner.h"
 #include "SystemDetector.h"
@@ -19,7 +20,8 @@ public:
           runner(std::move(shell)),
           detector(runner, platform),
           installer(runner, detector, platform),
-          terminal(platform)
+          terminal(platform),
+          logs(platform.logFolder())
     {
     }
     Services(const Services&) = delete;
@@ -30,6 +32,8 @@ public:
     SystemDetector detector;
     ToolInstaller installer;
     TerminalLauncher terminal;
+    // The whole logs of installations and removals.
+    LogBook logs;
 };
 
 } // namespace qf

@@ -2,10 +2,14 @@
 
 #include "Layout.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QEvent>
 #include <QPlainTextEdit>
 #include <QScrollBar>
+#include <QTextBlock>
 #include <QTextCursor>
+
+#include <algorithm>
 
 namespace qf::ui {
 
@@ -61,6 +65,13 @@ void LogView::changeEvent(QEvent* event)
 
 void LogView::setPadding(int padding) { layout()->setContentsMargins(padding, padding, padding, padding); }
 
+void LogView::setLimit(qsizetype characters, const QString& notice)
+{
+    Q_ASSERT(characters > 8 * (notice.size() + 1));
+    m_limit = characters;
+    m_notice = notice;
+}
+
 void LogView::setTextFont(const QFont& font) { m_text->setFont(font); }
 
 void LogView::scrollToEnd()
@@ -91,14 +102,51 @@ void LogView::append(const QString& text)
     QTextCursor cursor(m_text->document());
     cursor.movePosition(QTextCursor::End);
     cursor.insertText(text);
-    bar->setValue(m_follow ? bar->maximum() : kept);
+    const int cutLines = cutToLimit();
+    bar->setValue(m_follow ? bar->maximum() : std::max(0, kept - cutLines));
     m_following = false;
+}
+
+int LogView::cutToLimit()
+{
+    QTextDocument* document = m_text->document();
+    // The document's own last paragraph separator is not text.
+    const qsizetype size = document->characterCount() - 1;
+    if (m_limit <= 0 || size <= m_limit)
+        return 0;
+    // The text left fills the limit at most, and is cut an eighth below it (so that the next
+    // cut is far off), at the first line start from there when one is near.
+    const QString notice = m_notice + QLatin1Char('\n');
+    const qsizetype room = m_limit - notice.size();
+    const qsizetype slack = room / 8;
+    const qsizetype earliest = size - room;
+    const qsizetype goal = size - (room - slack);
+    qsizetype start = goal;
+    const QTextBlock line = document->findBlock(int(goal));
+    const QTextBlock next = line.next();
+    if (line.position() != goal) {
+        if (next.isValid() && next.position() - goal <= slack)
+            start = next.position();
+        else if (line.position() >= earliest)
+            start = line.position();
+        else if (document->characterAt(int(goal)).isLowSurrogate())
+            start = goal + 1;
+    }
+
+    // The scroll bar counts lines: what went at the top is what a reader's place moves up.
+    const qreal linesBefore = document->documentLayout()->documentSize().height();
+    QTextCursor cursor(document);
+    cursor.setPosition(int(start), QTextCursor::KeepAnchor);
+    cursor.insertText(notice);
+    m_cut = true;
+    return std::max(0, int(linesBefore - document->documentLayout()->documentSize().height()));
 }
 
 void LogView::clear()
 {
     m_text->clear();
     m_follow = true;
+    m_cut = false;
 }
 
 QString LogView::text() const { return m_text->toPlainText(); }

@@ -3,6 +3,7 @@
 #include "PlatformBackends.h"
 #include "ShellQuote.h"
 
+#include <QDir>
 #include <QList>
 #include <QPair>
 
@@ -46,6 +47,8 @@ public:
     QString terminalDescription() const override { return QStringLiteral("fake terminal"); }
     bool hasApplicationMenu() const override { return applicationMenu; }
     void revealFolder(const QString& path) override { revealed.append(path); }
+    void revealFile(const QString& path) override { revealedFiles.append(path); }
+    QString logFolder() const override { return logs; }
     void openURL(const QUrl& url) override { openedURLs.append(url); }
     DeveloperToolsItem developerToolsItem() const override { return developerTools; }
     void startDeveloperToolsInstaller() override { ++installersStarted; }
@@ -84,12 +87,15 @@ public:
     bool holdTerminalOutcomes = false;
     // Whether "About Quillforge" lives in a menu of the system's, as on macOS.
     bool applicationMenu = false;
+    // Where logs are kept: a Mac's folder in the home of the moment, which is a test's own.
+    QString logs = MacPlatform::logFolderIn(QDir::homePath());
 
     int windowsConfigured = 0;
     int installersStarted = 0;
     QList<QPair<QString, QString>> terminals;
     QList<QPair<TerminalOutcome, bool>> heldOutcomes;
     QStringList revealed;
+    QStringList revealedFiles;
     QList<QUrl> openedURLs;
 };
 

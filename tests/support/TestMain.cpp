@@ -17,7 +17,7 @@ int main(int argc, char** argv)
         return 2;
     const QString home = sandbox.filePath(QStringLiteral("home"));
     QDir().mkpath(home);
-    for (const char* sub : {".config", ".local/share", ".cache", "runtime"})
+    for (const char* sub : {".config", ".local/share", ".local/state", ".cache", "runtime"})
         QDir().mkpath(home + QLatin1Char('/') + QLatin1String(sub));
     QFile::setPermissions(home + QStringLiteral("/runtime"),
                           QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
@@ -25,6 +25,7 @@ int main(int argc, char** argv)
     qputenv("XDG_CONFIG_HOME", (home + QStringLiteral("/.config")).toUtf8());
     qputenv("XDG_DATA_HOME", (home + QStringLiteral("/.local/share")).toUtf8());
     qputenv("XDG_CACHE_HOME", (home + QStringLiteral("/.cache")).toUtf8());
+    qputenv("XDG_STATE_HOME", (home + QStringLiteral("/.local/state")).toUtf8());
     qputenv("XDG_RUNTIME_DIR", (home + QStringLiteral("/runtime")).toUtf8());
     qputenv("QT_QPA_PLATFORM", "offscreen");
 

@@ -1,4 +1,6 @@
+#include "BoundedLog.h"
 #include "CoroTest.h"
+#include "LogFile.h"
 #include "LogView.h"
 #include "TestMachine.h"
 #include "TestSupport.h"
@@ -7,6 +9,7 @@
 #include <QAbstractButton>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QFileInfo>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPointer>
@@ -15,6 +18,12 @@
 using namespace qf;
 
 namespace {
+
+QString readText(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
 
 class SheetTest : public ::testing::Test, protected test::TestMachine {
 protected:
@@ -34,7 +43,7 @@ protected:
     SystemToolUninstallSheet* systemSheet(const SystemTool& tool)
     {
         auto* sheet = new SystemToolUninstallSheet(
-            tool, services.runner, [this] { ++reloads; }, Qt::Dialog, nullptr);
+            tool, services.runner, services.logs, [this] { ++reloads; }, Qt::Dialog, nullptr);
         sheet->setAttribute(Qt::WA_DeleteOnClose);
         sheet->open();
         return sheet;
@@ -63,7 +72,7 @@ TEST_F(SheetTest, AIToolSheetFailsClearlyAndRetriesAfresh)
     configuration.shell = shell;
     Services flaky(platform, configuration);
     UninstallSheet sheet(
-        CLITool::codex, flaky.installer, [this] { ++reloads; }, Qt::Dialog, nullptr);
+        CLITool::codex, flaky.installer, flaky.logs, [this] { ++reloads; }, Qt::Dialog, nullptr);
     sheet.show();
 
     // Confirm: the question, the description, "Cancel" and "Uninstall".
@@ -110,7 +119,7 @@ TEST_F(SheetTest, AIToolSheetFailsClearlyAndRetriesAfresh)
 
 TEST_F(SheetTest, AIToolSheetLogIsBehindDetails)
 {
-    UninstallSheet sheet(CLITool::claudeCode, services.installer, {}, Qt::Dialog, nullptr);
+    UninstallSheet sheet(CLITool::claudeCode, services.installer, services.logs, {}, Qt::Dialog, nullptr);
     sheet.show();
     EXPECT_FALSE(test::child(&sheet, QStringLiteral("detailsButton"))->isVisible()); // no output yet
     button(&sheet, "uninstallButton")->click();
@@ -252,13 +261,18 @@ TEST_F(SheetTest, ASheetClosedMidRunLeavesTheCommandToFinish)
     button(sheet, "cancelButton")->click();
     test::settle();
     EXPECT_TRUE(sheet.isNull());
-    // The command ran to its end; its late output went nowhere, and nothing reloaded.
+    // The command ran to its end and nothing reloaded; its late output reached the log file.
     ASSERT_TRUE(QTest::qWaitFor([&] { return QFile::exists(done); }, 20000));
+    const QStringList files = LogBook::logFiles(platform.logs);
+    ASSERT_EQ(files.size(), 1);
+    const QString path = platform.logs + QLatin1Char('/') + files.front();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return readText(path).endsWith(QStringLiteral("start\nmore\n")); }, 20000))
+        << readText(path).toStdString();
     QTest::qWait(300);
     EXPECT_EQ(reloads, 0);
 }
 
-TEST_F(SheetTest, TenMegabytesOfOutputArriveWhole)
+TEST_F(SheetTest, TenMegabytesOfOutputShowTheNewestAndReachTheFileWhole)
 {
     SystemTool chatty = item(SystemToolID::homebrew);
     // 10 MiB in lines of 100 characters, numbered so that nothing can go missing unseen.
@@ -274,23 +288,41 @@ TEST_F(SheetTest, TenMegabytesOfOutputArriveWhole)
     }
     ASSERT_FALSE(sheet->isUninstalling());
     EXPECT_GT(turns, 1);
-    const QString text = sheet->output();
     const QString header = QStringLiteral("Running: ") + *chatty.uninstallCommand + QStringLiteral("\n\n");
     const QString footer = QStringLiteral("\nHomebrew has been uninstalled.\n");
+    const QString lastLine = QStringLiteral("104857 ") + dots + QLatin1Char('\n');
+
+    // The sheet keeps the newest 4 MB at most, in whole lines, below the notice.
+    const QString shown = sheet->output();
+    const QString notice = BoundedLog::cutNotice() + QLatin1Char('\n');
+    EXPECT_LE(shown.size(), 4 * 1024 * 1024);
+    EXPECT_GT(shown.size(), 3 * 1024 * 1024);
+    ASSERT_TRUE(shown.startsWith(notice));
+    EXPECT_EQ(shown.sliced(notice.size()).indexOf(QLatin1Char('\n')), 99) << "the first line kept is not whole";
+    EXPECT_TRUE(shown.endsWith(lastLine + footer));
+    auto* log = test::child<ui::LogView>(sheet, QStringLiteral("logView"));
+    EXPECT_TRUE(log->wasCut());
+    EXPECT_TRUE(log->isFollowing()); // the newest line is in view
+
+    // The removal's file has all of it.
+    const QStringList files = LogBook::logFiles(platform.logs);
+    ASSERT_EQ(files.size(), 1);
+    EXPECT_TRUE(files.front().endsWith(QStringLiteral(" Uninstall Homebrew.log")));
+    const QString path = platform.logs + QLatin1Char('/') + files.front();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return QFileInfo(path).size() >= header.size() + 104857 * 100; }, 20000));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return readText(path).endsWith(footer); }, 20000));
+    const QString text = readText(path);
     ASSERT_TRUE(text.startsWith(header));
-    ASSERT_TRUE(text.endsWith(footer));
     const QString body = text.mid(header.size(), text.size() - header.size() - footer.size());
     EXPECT_EQ(body.size(), 104857 * 100);
     EXPECT_TRUE(body.startsWith(QStringLiteral("000001 ")));
-    EXPECT_TRUE(body.endsWith(QStringLiteral("104857 ") + dots + QLatin1Char('\n')));
-    // The newest line is in view.
-    EXPECT_TRUE(test::child<ui::LogView>(sheet, QStringLiteral("logView"))->isFollowing());
+    EXPECT_TRUE(body.endsWith(lastLine));
     sheet->close();
 }
 
 TEST_F(SheetTest, EveryControlHasAName)
 {
-    UninstallSheet ai(CLITool::geminiCLI, services.installer, {}, Qt::Dialog, nullptr);
+    UninstallSheet ai(CLITool::geminiCLI, services.installer, services.logs, {}, Qt::Dialog, nullptr);
     ai.show();
     button(&ai, "uninstallButton")->click();
     waitUntilIdle(&ai);

@@ -1,9 +1,11 @@
 #include "AccountSetupView.h"
 #include "ContentView.h"
 #include "FlowWindowTest.h"
+#include "InstallationController.h"
 #include "InstallationState.h"
 #include "InstallationView.h"
 #include "Label.h"
+#include "LogFile.h"
 #include "LogView.h"
 #include "MainWindow.h"
 #include "SharedComponents.h"
@@ -11,7 +13,10 @@
 #include "TestSupport.h"
 #include "WelcomeView.h"
 
+#include "CoroTest.h"
+
 #include <QClipboard>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QPlainTextEdit>
 #include <QPointer>
@@ -272,6 +277,107 @@ TEST_F(InstallFlowTest, TheLogShowsEveryByteAndCanBeCopied)
     EXPECT_EQ(QGuiApplication::clipboard()->text(), state.installationOutput());
     EXPECT_TRUE(view->toastPresenter()->isShowing());
     EXPECT_TRUE(QTest::qWaitFor([view] { return !view->toastPresenter()->isShowing(); }, 5000));
+}
+
+TEST_F(InstallFlowTest, ALongLogShowsItsNewestPartAndIsCopiedWhole)
+{
+    sandbox.installFakes({"git", "npm", "node"});
+    // 4.9 MB of numbered lines.
+    sandbox.setEnv("FAKE_NPM_SCRIPT", "seq -w 1 700000");
+    open(InstallationStep::installation, CLITool::geminiCLI);
+    auto* view = screenAs<InstallationView>();
+    QTest::mouseClick(test::child<QWidget>(screen(), QStringLiteral("detailsButton")), Qt::LeftButton);
+    waitForInstallation();
+    ASSERT_TRUE(controller().installationComplete());
+
+    // On screen and in the state: the cut notice, then at most 4 MB of the newest lines.
+    const QString notice = BoundedLog::cutNotice() + QLatin1Char('\n');
+    const QString shown = view->logView()->text();
+    const QString& kept = state.installationOutput();
+    for (const QString& text : {shown, kept}) {
+        EXPECT_TRUE(text.startsWith(notice));
+        EXPECT_LE(text.size(), 4 * 1024 * 1024);
+        EXPECT_GT(text.size(), 3 * 1024 * 1024);
+        EXPECT_TRUE(text.contains(QStringLiteral("\n699999\n700000\n")));
+        EXPECT_FALSE(text.contains(QStringLiteral("\n000001\n")));
+    }
+    EXPECT_TRUE(shown.endsWith(kept.right(1000)));
+
+    // "Copy Log" copies all of it, as the log file has it.
+    const std::optional<std::optional<QString>> file = test::await(controller().logFile()->readWhole());
+    ASSERT_TRUE(file && *file);
+    const QString& whole = **file;
+    EXPECT_TRUE(whole.contains(QStringLiteral("\n000001\n000002\n")));
+    EXPECT_TRUE(whole.endsWith(kept.sliced(notice.size())));
+    EXPECT_GE(whole.count(QLatin1Char('\n')), 700000);
+    QGuiApplication::clipboard()->clear();
+    click("copyLogButton");
+    ASSERT_TRUE(QTest::qWaitFor([] { return !QGuiApplication::clipboard()->text().isEmpty(); }, 20000));
+    EXPECT_TRUE(QGuiApplication::clipboard()->text() == whole)
+        << "the clipboard holds " << QGuiApplication::clipboard()->text().size() << " characters, the log "
+        << whole.size();
+    EXPECT_TRUE(view->toastPresenter()->isShowing());
+}
+
+TEST_F(InstallFlowTest, AFailedInstallationOffersItsLogFile)
+{
+    sandbox.installFakes({"git", "npm", "node"});
+    sandbox.setEnv("FAKE_NPM_FAIL", "1");
+    open(InstallationStep::installation, CLITool::geminiCLI,
+         QSize(MainWindow::minimumWidth, MainWindow::minimumHeight));
+    EXPECT_FALSE(shows(button("showLogFileButton"))); // not while it runs
+    waitForInstallation();
+    ASSERT_TRUE(shows(test::child(screen(), QStringLiteral("errorCard"))));
+    ASSERT_TRUE(shows(button("showLogFileButton")));
+    // Beside "Try Again", whole, in the smallest window.
+    const QRect bar = test::child(screen(), QStringLiteral("bottomBar"))->rect();
+    for (const char* name : {"backButton", "showLogFileButton", "mainButton"}) {
+        const QWidget* control = button(name);
+        const QRect place(control->mapTo(test::child(screen(), QStringLiteral("bottomBar")), QPoint()),
+                          control->size());
+        EXPECT_TRUE(bar.contains(place)) << name;
+        EXPECT_GE(control->width(), control->sizeHint().width()) << name;
+    }
+
+    const QString path = controller().logFile()->path();
+    EXPECT_EQ(QFileInfo(path).absolutePath(), QFileInfo(platform.logs).absoluteFilePath());
+    EXPECT_TRUE(QFileInfo(path).fileName().endsWith(QStringLiteral(" Install Gemini CLI.log")));
+    click("showLogFileButton");
+    EXPECT_EQ(platform.revealedFiles, QStringList{path});
+    const std::optional<std::optional<QString>> whole = test::await(controller().logFile()->readWhole());
+    ASSERT_TRUE(whole && *whole);
+    EXPECT_TRUE((*whole)->contains(QStringLiteral("404 Not Found")));
+
+    // A run that succeeds has nothing to show.
+    sandbox.setEnv("FAKE_NPM_FAIL", "");
+    click("mainButton");
+    waitForInstallation();
+    EXPECT_TRUE(controller().installationComplete());
+    EXPECT_FALSE(shows(button("showLogFileButton")));
+    EXPECT_EQ(platform.revealedFiles.size(), 1);
+}
+
+TEST_F(InstallFlowTest, AnUnwritableLogFolderDoesNotStopTheInstallation)
+{
+    sandbox.installFakes({"git", "npm", "node"});
+    // A file stands where the log folder's parent should be.
+    sandbox.writeFile(QStringLiteral("Library/Logs"), "not a folder");
+    sandbox.setEnv("FAKE_NPM_FAIL", "1");
+    open(InstallationStep::installation, CLITool::geminiCLI);
+    waitForInstallation();
+    EXPECT_TRUE(state.installationOutput().contains(QStringLiteral("404 Not Found")));
+    EXPECT_EQ(text("errorMessage"), ShellError::failed(1, QStringLiteral("Command failed")).errorDescription());
+    // Without a file there is nothing to show.
+    EXPECT_FALSE(shows(button("showLogFileButton")));
+
+    sandbox.setEnv("FAKE_NPM_FAIL", "");
+    click("mainButton");
+    waitForInstallation();
+    EXPECT_EQ(text("installationTitle"), QStringLiteral("Installation Complete!"));
+    EXPECT_EQ(screenAs<InstallationView>()->logView()->text(), state.installationOutput());
+    click("copyLogButton");
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), state.installationOutput());
+    EXPECT_FALSE(sandbox.exists(QStringLiteral("Library/Logs/Quillforge")));
 }
 
 TEST_F(InstallFlowTest, EveryScreenFitsTheSmallestWindowAndNamesItsControls)

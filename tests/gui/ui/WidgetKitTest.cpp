@@ -14,6 +14,7 @@
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTextBlock>
 
 using namespace qf;
 using namespace qf::ui;
@@ -213,6 +214,62 @@ TEST(LogView, FollowsTheNewestLineUnlessTheReaderScrolledUp)
 
     log.clear();
     EXPECT_TRUE(log.isEmpty());
+}
+
+TEST(LogView, ALimitedLogKeepsItsNewestLinesAndTheReadersPlace)
+{
+    LogView log;
+    log.resize(300, 90);
+    log.show();
+    const QString notice = QStringLiteral("Earlier output was cut.");
+    log.setLimit(4000, notice);
+    QString everything;
+    const auto add = [&](int from, int to) {
+        for (int i = from; i < to; ++i) {
+            // Lines split across appends, as reads split them.
+            const QString line = QStringLiteral("line %1 of the log\n").arg(i, 4, 10, QLatin1Char('0'));
+            log.append(line.left(7));
+            log.append(line.mid(7));
+            everything += line;
+        }
+    };
+    add(0, 180);
+    EXPECT_FALSE(log.wasCut());
+    EXPECT_EQ(log.text(), everything);
+
+    add(180, 230);
+    ASSERT_TRUE(log.wasCut());
+    QString shown = log.text();
+    EXPECT_LE(shown.size(), 4000);
+    ASSERT_TRUE(shown.startsWith(notice + QLatin1Char('\n')));
+    QString kept = shown.sliced(notice.size() + 1);
+    EXPECT_TRUE(everything.endsWith(kept));
+    EXPECT_TRUE(kept.startsWith(QStringLiteral("line "))); // whole lines only
+    EXPECT_TRUE(log.isFollowing());
+
+    // A reader who scrolled up keeps reading the same line while the oldest ones go.
+    QPlainTextEdit* text = log.textView();
+    text->verticalScrollBar()->setValue(text->verticalScrollBar()->maximum() / 2);
+    const QString read = text->cursorForPosition(QPoint(2, 2)).block().text();
+    const auto firstKept = [&log, &notice] {
+        return log.text().sliced(notice.size() + 1).section(QLatin1Char('\n'), 0, 0);
+    };
+    const QString oldest = firstKept();
+    int next = 230;
+    while (firstKept() == oldest && next < 400) {
+        add(next, next + 1);
+        ++next;
+    }
+    ASSERT_NE(firstKept(), oldest) << "no second cut";
+    EXPECT_EQ(text->cursorForPosition(QPoint(2, 2)).block().text(), read);
+    EXPECT_FALSE(log.isFollowing());
+    shown = log.text();
+    EXPECT_LE(shown.size(), 4000);
+    EXPECT_EQ(shown.count(notice), 1);
+    EXPECT_TRUE(everything.endsWith(shown.sliced(notice.size() + 1)));
+
+    log.clear();
+    EXPECT_FALSE(log.wasCut());
 }
 
 TEST(Motion, ATransitionTurnsBackFromWhereItIs)

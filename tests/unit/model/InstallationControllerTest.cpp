@@ -1,7 +1,10 @@
 #include "CoroTest.h"
 #include "InstallationController.h"
 #include "InstallationState.h"
+#include "LogFile.h"
 #include "TestSupport.h"
+
+#include <QTemporaryDir>
 
 #include <QCoro/QCoroTimer>
 
@@ -68,7 +71,9 @@ protected:
 
     InstallationState state;
     ScriptedSetup setup;
-    InstallationController controller{state, setup};
+    QTemporaryDir logRoot;
+    LogBook logs{logRoot.filePath(QStringLiteral("logs"))};
+    InstallationController controller{state, setup, logs};
 };
 
 } // namespace
@@ -170,4 +175,44 @@ TEST_F(InstallationControllerTest, WithoutAToolNothingStarts)
     EXPECT_FALSE(controller.isInstalling());
     EXPECT_FALSE(controller.installationComplete());
     EXPECT_EQ(state.installationOutput(), QStringLiteral("kept\n"));
+}
+
+namespace {
+
+// The whole log of a run, once the file has taken all of it.
+std::optional<QString> wholeLog(const std::shared_ptr<const LogFile>& file)
+{
+    std::optional<std::optional<QString>> text = test::await(file->readWhole());
+    return text ? *text : std::nullopt;
+}
+
+} // namespace
+
+TEST_F(InstallationControllerTest, ARunThatLostTheScreenStillWritesItsOwnFile)
+{
+    SetupService::Output firstOutput;
+    setup.hold = true;
+    setup.script = [&firstOutput](const SetupService::StepUpdate&, const SetupService::Output& output) {
+        firstOutput = output;
+        output(QStringLiteral("first\n"));
+    };
+    QCoro::Task<> first = controller.startInstallation();
+    const std::shared_ptr<const LogFile> firstFile = controller.logFile();
+    ASSERT_TRUE(firstFile);
+    QCoro::Task<> second = controller.startInstallation();
+    EXPECT_FALSE(controller.logFile()); // no file before the new run starts
+
+    firstOutput(QStringLiteral("late\n"));
+    EXPECT_TRUE(state.installationOutput().isEmpty()); // the screen shows the new attempt only
+    setup.hold = false;
+    setup.script = [](const SetupService::StepUpdate&, const SetupService::Output& output) {
+        output(QStringLiteral("second\n"));
+    };
+    setup.release();
+    ASSERT_TRUE(test::await(std::move(first)));
+    ASSERT_TRUE(test::await(std::move(second)));
+
+    EXPECT_EQ(wholeLog(firstFile), QStringLiteral("first\nlate\n"));
+    ASSERT_TRUE(controller.logFile());
+    EXPECT_EQ(wholeLog(controller.logFile()), QStringLiteral("second\n"));
 }

@@ -525,4 +525,57 @@ TEST(NodeReleaseTargets, OneArchivePerSystemAndProcessor)
     EXPECT_EQ(qf::MacPlatform::nodeReleaseTargetFor(q("power")), std::nullopt);
 }
 
+// --- Logs -----------------------------------------------------------------------------------
+
+TEST(LogFolders, EachSystemKeepsLogsWhereItsUsersLook)
+{
+    EXPECT_EQ(qf::MacPlatform::logFolderIn(q("/Users/ada")), q("/Users/ada/Library/Logs/Quillforge"));
+    EXPECT_EQ(LinuxPlatform::logFolderIn(q("/home/ada/.state"), q("/home/ada")), q("/home/ada/.state/quillforge/logs"));
+    // Unset, empty or relative: the standard place in the home folder.
+    for (const QString& unusable : {QString(), q(""), q("state")})
+        EXPECT_EQ(LinuxPlatform::logFolderIn(unusable, q("/home/ada")), q("/home/ada/.local/state/quillforge/logs"))
+            << unusable.toStdString();
+
+    qf::test::ScopedEnv stateHome("XDG_STATE_HOME", "/srv/ada-state");
+    EXPECT_EQ(LinuxPlatform().logFolder(), q("/srv/ada-state/quillforge/logs"));
+    EXPECT_EQ(qf::MacPlatform().logFolder(), QDir::homePath() + q("/Library/Logs/Quillforge"));
+}
+
+TEST(LogFolders, FinderSelectsTheFile)
+{
+    EXPECT_EQ(qf::MacPlatform::revealCommandLine(q("/Users/ada/Library/Logs/Quillforge/a b.log")),
+              (QStringList{q("/usr/bin/open"), q("-R"), q("/Users/ada/Library/Logs/Quillforge/a b.log")}));
+}
+
+// The file manager is asked over the session bus; a fake dbus-send records what it was given.
+TEST(LogFolders, TheFileManagerIsAskedToShowTheFile)
+{
+    QTemporaryDir sandbox;
+    ASSERT_TRUE(sandbox.isValid());
+    const QString bin = sandbox.filePath(q("bin"));
+    ASSERT_TRUE(QDir().mkpath(bin));
+    const QString argsFile = sandbox.filePath(q("dbus-args"));
+    ASSERT_TRUE(
+        qf::test::writeExecutable(bin + q("/dbus-send"), "#!/bin/sh\nfor a in \"$@\"; do printf '%s\\n' \"$a\"; "
+                                                         "done > " +
+                                                             qf::shellQuote(argsFile).toUtf8() + "\n"));
+    qf::test::ScopedEnv pathEnv("PATH", bin.toUtf8());
+
+    const QString file = q("/home/ada/logs/2026-11-25 15-20-03 Install a,b.log");
+    const QStringList expected = LinuxPlatform::showItemsCommandLine(file);
+    ASSERT_EQ(expected.size(), 9);
+    EXPECT_EQ(expected.first(), q("dbus-send"));
+    EXPECT_TRUE(expected.contains(q("org.freedesktop.FileManager1.ShowItems")));
+    // One item: the file's address, its blank encoded and its comma kept from splitting it.
+    EXPECT_EQ(expected[7], q("array:string:file:///home/ada/logs/2026-11-25%2015-20-03%20Install%20a%2Cb.log"));
+
+    LinuxPlatform().revealFile(file);
+    const auto read = [&argsFile] {
+        QFile recorded(argsFile);
+        return recorded.open(QIODevice::ReadOnly) ? QString::fromUtf8(recorded.readAll()) : QString();
+    };
+    ASSERT_TRUE(QTest::qWaitFor([&] { return read().endsWith(q("string:\n")); }, 20000));
+    EXPECT_EQ(read(), expected.mid(1).join(QLatin1Char('\n')) + QLatin1Char('\n'));
+}
+
 } // namespace
