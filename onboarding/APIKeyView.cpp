@@ -136,9 +136,9 @@ void APIKeyView::buildContent(CLITool tool, Platform& platform, const QString& p
     noticeLine->addWidget(m_noticeText, 1);
     second->addWidget(m_noticeRow);
 
-    auto* caption = new Label(tr("This will be saved to your shell profile (%1) as %2")
-                                  .arg(ToolInstaller::displayedPath(profile), tool.apiKeyEnvVar()),
-                              Theme::caption(), Tint(Role::secondary));
+    auto* caption = m_caption = new Label(tr("This will be saved to your shell profile (%1) as %2")
+                                              .arg(ToolInstaller::displayedPath(profile), tool.apiKeyEnvVar()),
+                                          Theme::caption(), Tint(Role::secondary));
     caption->setObjectName(QStringLiteral("profileCaption"));
     caption->setWrapping(true);
     second->addWidget(caption);
@@ -201,6 +201,8 @@ void APIKeyView::render()
         m_errorText->setText(m_saveError.value_or(QString()));
         m_noticeRow->setVisible(m_savedNotice.has_value());
         m_noticeText->setText(m_savedNotice.value_or(QString()));
+        // Once saved, the notice says where; "will be saved" no longer holds.
+        m_caption->setVisible(!m_savedNotice);
         m_field->setReadOnly(m_isSaving || m_savedNotice);
     }
     m_save->setText(m_savedNotice ? tr("Continue") : tr("Save & Continue"));

@@ -54,6 +54,7 @@ private:
     ui::Label* m_errorText = nullptr;
     QWidget* m_noticeRow = nullptr;
     ui::Label* m_noticeText = nullptr;
+    ui::Label* m_caption = nullptr;
     ui::Button* m_skip;
     ui::Button* m_save;
 };

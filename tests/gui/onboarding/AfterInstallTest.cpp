@@ -377,6 +377,7 @@ TEST_F(AfterInstallTest, AKeyTheProfileComputesIsFollowedAndTheScreenSaysSo)
                                                      "export OPENAI_API_KEY=\"") +
                                           kKey + QStringLiteral("\"\n"));
     EXPECT_FALSE(showsChild("skipButton"));
+    EXPECT_FALSE(showsChild("profileCaption"));
     EXPECT_EQ(button("saveButton")->text(), QStringLiteral("Continue"));
     button("saveButton")->click();
     EXPECT_EQ(state.currentStep(), InstallationStep::completion);
