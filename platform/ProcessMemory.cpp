@@ -11,6 +11,7 @@
 #include <mach/mach.h>
 #include <sys/proc_info.h>
 
+#include <algorithm>
 #include <vector>
 #else
 #include <QDir>
@@ -57,12 +58,13 @@ long long processGroupIoBytes(long long group)
         return -1;
 #if defined(Q_OS_MACOS)
     std::vector<pid_t> members(256);
-    const int bytes = proc_listpgrppids(static_cast<pid_t>(group), members.data(),
+    // The number of members found (the wrapper turns the system's byte count into one).
+    const int count = proc_listpgrppids(static_cast<pid_t>(group), members.data(),
                                         static_cast<int>(members.size() * sizeof(pid_t)));
-    if (bytes <= 0)
+    if (count <= 0)
         return -1;
     long long total = 0;
-    for (int i = 0; i < bytes / static_cast<int>(sizeof(pid_t)); ++i) {
+    for (int i = 0; i < std::min(count, static_cast<int>(members.size())); ++i) {
         rusage_info_v2 usage{};
         if (proc_pid_rusage(members[static_cast<size_t>(i)], RUSAGE_INFO_V2,
                             reinterpret_cast<rusage_info_t*>(&usage)) == 0)
