@@ -438,7 +438,8 @@ void LinuxPlatform::revealFile(const QString& path)
     // Without a file manager that answers on the session bus, the folder opens instead. The
     // process owns itself and goes once it has ended or failed to start.
     const QStringList commandLine = showItemsCommandLine(path);
-    auto* process = new QProcess;
+    // Owned by the application too, so one still running when it ends goes with it.
+    auto* process = new QProcess(QCoreApplication::instance());
     process->setProgram(commandLine.first());
     process->setArguments(commandLine.mid(1));
     process->setStandardInputFile(QProcess::nullDevice());

@@ -184,11 +184,14 @@ void ProcessRun::finish()
         // The shell may go on TERM while members of its group ignore it: once the grace has
         // passed they are killed, whether or not the shell is still there. The group keeps its
         // number while any member lives.
+        // A group already stopped on quit needs nothing more.
         const auto group = static_cast<pid_t>(m_pid);
-        QTimer::singleShot(m_grace.remainingTime(), QCoreApplication::instance(), [group] {
-            ::kill(-group, SIGKILL);
-            liveGroups().erase(group);
-        });
+        if (liveGroups().count(group) != 0) {
+            QTimer::singleShot(m_grace.remainingTime(), QCoreApplication::instance(), [group] {
+                ::kill(-group, SIGKILL);
+                liveGroups().erase(group);
+            });
+        }
         m_grace.stop();
     } else {
         liveGroups().erase(static_cast<pid_t>(m_pid));

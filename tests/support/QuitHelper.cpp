@@ -8,6 +8,8 @@
 #include "ShellRunner.h"
 
 #include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QEventLoop>
 #include <QFile>
 #include <QTimer>
 
@@ -45,5 +47,15 @@ int main(int argc, char* argv[])
     poll.start(50);
     // A test that goes wrong must not leave this running.
     QTimer::singleShot(30000, &app, [] { QCoreApplication::exit(3); });
-    return app.exec();
+    const int status = app.exec();
+
+    // The command, stopped on quit, ends; its run is handed over and goes, as in an
+    // application that keeps its objects to the end.
+    QElapsedTimer draining;
+    draining.start();
+    const auto done = [&] { return timed ? timed->isReady() : streamed->isReady(); };
+    while (!done() && draining.elapsed() < 5000)
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    return done() ? status : 4;
 }
