@@ -188,6 +188,14 @@ void RemovalSheet::showOutput(const QString& text)
         render();
 }
 
+QString RemovalSheet::plainFailureFor(const ServiceError& error)
+{
+    const QString plain = error.plainDescription();
+    if (error.errorDescription() != plain)
+        appendOutput(QStringLiteral("\nError: ") + error.errorDescription() + QLatin1Char('\n'));
+    return plain;
+}
+
 void RemovalSheet::finish(const std::optional<QString>& error)
 {
     m_isUninstalling = false;
@@ -260,7 +268,7 @@ UninstallSheet::UninstallSheet(CLITool tool, ToolInstaller& installer, const Log
 void UninstallSheet::performUninstall()
 {
     QCoro::connect(m_installer.uninstall(m_tool, outputSink()), this, [this](const Result<void>& result) {
-        finish(result ? std::nullopt : std::optional<QString>(result.error().errorDescription()));
+        finish(result ? std::nullopt : std::optional<QString>(plainFailureFor(result.error())));
     });
 }
 
@@ -299,7 +307,7 @@ void SystemToolUninstallSheet::performUninstall()
                            const bool declined = error && error->kind() == ShellError::commandFailed &&
                                                  error->exitCode() == kAdministratorDeclined;
                            finish(declined ? ToolInstaller::administratorDeclinedMessage(m_tool.name)
-                                           : result.error().errorDescription());
+                                           : plainFailureFor(result.error()));
                            return;
                        }
                        confirmRemoval();

@@ -64,6 +64,8 @@ protected:
     // log file, and the sheet while it is there.
     std::function<void(const QString&)> outputSink();
     void finish(const std::optional<QString>& error);
+    // The sentence the sheet shows for `error`; the command's own words go to the log.
+    QString plainFailureFor(const ServiceError& error);
     void render();
 
 private:

@@ -1,18 +1,20 @@
 #include "Errors.h"
 
+#include "Diagnosis.h"
+
 #include <QLocale>
-#include <QRegularExpression>
 
 #include <cmath>
 
 namespace qf {
 
-ShellError ShellError::failed(int exitCode, const QString& output)
+ShellError ShellError::failed(int exitCode, const QString& output, const QString& recentOutput)
 {
     ShellError error;
     error.m_kind = commandFailed;
     error.m_exitCode = exitCode;
     error.m_text = output;
+    error.m_recent = recentOutput;
     return error;
 }
 
@@ -66,45 +68,10 @@ QString ShellError::durationText(double seconds)
     return tr("%1 seconds").arg(number);
 }
 
-std::optional<QString> ShellError::downloadFailure(const QString& output)
-{
-    static const QRegularExpression curlError(QStringLiteral("curl: \\((\\d+)\\)[^\\n]*"));
-    QRegularExpressionMatch last;
-    for (QRegularExpressionMatchIterator it = curlError.globalMatch(output); it.hasNext();)
-        last = it.next();
-    if (!last.hasMatch())
-        return std::nullopt;
-    QString meaning;
-    switch (last.captured(1).toInt()) {
-    case 5:
-    case 6:
-        meaning = tr("The download failed: the server's address could not be found. Check your internet connection and "
-                     "try again.");
-        break;
-    case 7:
-        meaning =
-            tr("The download failed: the server could not be reached. Check your internet connection and try again.");
-        break;
-    case 18:
-    case 56: meaning = tr("The download was cut off before it was complete. Please try again."); break;
-    case 22: meaning = tr("The download failed: the server answered with an error."); break;
-    case 28:
-        meaning = tr("The download took too long and was stopped. Check your internet connection and try again.");
-        break;
-    case 35:
-    case 60: meaning = tr("The download failed: no secure connection to the server could be made."); break;
-    case 23: meaning = tr("The download could not be saved on this computer."); break;
-    default: meaning = tr("The download failed."); break;
-    }
-    return meaning + QStringLiteral(" (") + last.captured(0).trimmed() + QLatin1Char(')');
-}
-
 QString ShellError::errorDescription() const
 {
     switch (m_kind) {
     case commandFailed: {
-        if (const std::optional<QString> download = downloadFailure(m_text))
-            return *download;
         QString shown = m_text;
         // The end says what went wrong; a person cannot read a hundred megabytes anyway.
         if (shown.size() > shownOutputLength) {
@@ -125,6 +92,13 @@ QString ShellError::errorDescription() const
         return tr("The command showed no progress for %1 and was stopped.").arg(durationText(m_seconds));
     }
     return {};
+}
+
+QString ShellError::plainDescription() const
+{
+    if (m_kind != commandFailed)
+        return errorDescription();
+    return plainFailure(m_recent.isEmpty() ? m_text : m_recent);
 }
 
 QString errorDescription(InstallationError error, const SystemWording& wording)
@@ -157,6 +131,13 @@ ServiceError::ServiceError(ShellError error) : m_cause(error), m_description(err
 ServiceError::ServiceError(InstallationError error, const SystemWording& wording)
     : m_cause(error), m_description(qf::errorDescription(error, wording))
 {
+}
+
+QString ServiceError::plainDescription() const
+{
+    if (const ShellError* shell = shellError())
+        return shell->plainDescription();
+    return m_description;
 }
 
 ServiceError ServiceError::message(const QString& text)

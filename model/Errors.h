@@ -23,7 +23,8 @@ public:
     // At most this much of a failed command's output is shown to a person: its end.
     static constexpr qsizetype shownOutputLength = 2000;
 
-    static ShellError failed(int exitCode, const QString& output);
+    // `recentOutput`: for a command whose output went elsewhere as it came, its end.
+    static ShellError failed(int exitCode, const QString& output, const QString& recentOutput = QString());
     // `description` is the launch error's own description.
     static ShellError launchFailed(const QString& description);
     static ShellError timeout(double seconds);
@@ -34,15 +35,14 @@ public:
     // "1 second", "0.5 seconds", "1,234.5 seconds", "15 minutes": a length of time as the
     // messages say it.
     static QString durationText(double seconds);
-    // What a download's failure means in plain words, from curl's own error line in `output`
-    // ("curl: (18) ..."); nothing when the output names no curl error.
-    static std::optional<QString> downloadFailure(const QString& output);
 
     Kind kind() const { return m_kind; }
     int exitCode() const { return m_exitCode; }
     const QString& output() const { return m_text; }
-    // The message shown to the user.
+    // The message in full: the command's status and what it said. The log keeps it.
     QString errorDescription() const;
+    // What a person reads: one plain sentence of what happened and what to do.
+    QString plainDescription() const;
 
     friend bool operator==(const ShellError&, const ShellError&) = default;
 
@@ -50,6 +50,7 @@ private:
     Kind m_kind = commandFailed;
     int m_exitCode = 0;
     QString m_text;
+    QString m_recent;
     QString m_activity;
     double m_seconds = 0;
     qint64 m_bytes = 0;
@@ -77,6 +78,9 @@ public:
     static ServiceError message(const QString& text);
 
     const QString& errorDescription() const { return m_description; }
+    // What a person reads: for a failed command, one plain sentence of what happened and what
+    // to do (errorDescription has all of it, for the log); otherwise the description.
+    QString plainDescription() const;
     const ShellError* shellError() const { return std::get_if<ShellError>(&m_cause); }
     std::optional<InstallationError> installationError() const
     {

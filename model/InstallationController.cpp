@@ -74,7 +74,15 @@ QCoro::Task<> InstallationController::startInstallation()
             setComplete(true);
         } else {
             markUnfinishedStepsFailed();
-            m_state.setErrorMessage(result.error().errorDescription());
+            // The screen says it plainly; the log keeps the command's own words.
+            const QString plain = result.error().plainDescription();
+            const QString full = result.error().errorDescription();
+            if (full != plain) {
+                const QString entry = QStringLiteral("\nError: ") + full + QLatin1Char('\n');
+                log->append(entry);
+                m_state.appendInstallationOutput(entry);
+            }
+            m_state.setErrorMessage(plain);
         }
     }
     endRun();

@@ -144,10 +144,8 @@ QCoro::Task<Result<void>> ShellRunner::runWithStreaming(QString command, OutputH
     co_await QCoro::sleepFor(kStreamCompletionDelay);
     if (outcome.exitCode == 0)
         co_return Result<void>();
-    // A download names its own failure; anything else was in the output already.
-    if (ShellError::downloadFailure(*tail))
-        co_return ShellError::failed(outcome.exitCode, tail->right(kKeptOutputTail));
-    co_return ShellError::failed(outcome.exitCode, QStringLiteral("Command failed"));
+    // The output went to the handler; its end stays with the error, to say what went wrong.
+    co_return ShellError::failed(outcome.exitCode, QStringLiteral("Command failed"), tail->right(kKeptOutputTail));
 }
 
 } // namespace qf

@@ -111,7 +111,7 @@ QCoro::Task<Result<QString>> ToolInstaller::installNodeRelease(Output log)
     }
     const QString base = m_nodeDistribution;
     const auto fetchFailed = [](const QString& what, const ServiceError& error) {
-        return ServiceError::message(QObject::tr("Could not download %1: %2").arg(what, error.errorDescription()));
+        return ServiceError::message(QObject::tr("Could not download %1. %2").arg(what, error.plainDescription()));
     };
 
     // The newest long-term support release, as the release index says today.

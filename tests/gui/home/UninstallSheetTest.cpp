@@ -1,5 +1,6 @@
 #include "BoundedLog.h"
 #include "CoroTest.h"
+#include "Diagnosis.h"
 #include "LogFile.h"
 #include "LogView.h"
 #include "TestMachine.h"
@@ -188,12 +189,14 @@ TEST_F(SheetTest, TheCommandLineToolsGoThroughThePasswordDialog)
                              "privileges\n"));
     EXPECT_TRUE(offered(sheet, "uninstallButton"));
 
-    // Any other failure shows what the system said.
+    // Any other failure says plainly what happened; the log has the system's own words.
     sandbox.setEnv("FAKE_DIALOG", "fail");
     button(sheet, "uninstallButton")->click();
     waitUntilIdle(sheet);
-    EXPECT_EQ(sheet->errorMessage(), QStringLiteral("Command failed with exit code 1: Command failed"));
-    EXPECT_TRUE(sheet->output().endsWith(QStringLiteral("rm: Operation not permitted (1)\n")));
+    EXPECT_EQ(sheet->errorMessage(), failureSentence(FailureCause::permissionDenied));
+    EXPECT_TRUE(sheet->output().endsWith(QStringLiteral("rm: Operation not permitted (1)\n\nError: Command failed "
+                                                        "with exit code 1: Command failed\n")))
+        << sheet->output().toStdString();
 
     sandbox.setEnv("FAKE_DIALOG", "");
     button(sheet, "uninstallButton")->click();
@@ -228,8 +231,9 @@ TEST_F(SheetTest, HomebrewIsUninstalledOnlyOnceItIsGone)
     sandbox.setEnv("FAKE_CURL_FAIL", "1");
     SystemToolUninstallSheet* offline = removeWith(item(SystemToolID::homebrew));
     EXPECT_FALSE(offline->uninstallComplete());
-    EXPECT_EQ(offline->errorMessage(), QStringLiteral("The download failed: the server answered with an error. (curl: "
-                                                      "(22) The requested URL returned error: 404)"));
+    EXPECT_EQ(offline->errorMessage(), failureSentence(FailureCause::notFound));
+    // The command's own words are in the log.
+    EXPECT_TRUE(offline->output().contains(QStringLiteral("curl: (22) The requested URL returned error: 404")));
     offline->close();
 
     // A script that ends well but leaves Homebrew in place is no removal.

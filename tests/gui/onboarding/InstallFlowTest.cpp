@@ -1,5 +1,6 @@
 #include "AccountSetupView.h"
 #include "ContentView.h"
+#include "Diagnosis.h"
 #include "FlowWindowTest.h"
 #include "InstallationController.h"
 #include "InstallationState.h"
@@ -210,7 +211,7 @@ TEST_F(InstallFlowTest, FailingCommandsEndInTheErrorCard)
     EXPECT_EQ(step(SetupStepType::installTool).status.kind(), SetupStepStatus::failed);
     // The command's own words are in the log; the card says that it failed.
     EXPECT_TRUE(state.installationOutput().contains(QStringLiteral("404 Not Found")));
-    EXPECT_EQ(text("errorMessage"), ShellError::failed(1, QStringLiteral("Command failed")).errorDescription());
+    EXPECT_EQ(text("errorMessage"), failureSentence(FailureCause::notFound));
 
     // npm reports success but the command never appears.
     sandbox.setEnv("FAKE_NPM_FAIL", "");
@@ -366,7 +367,7 @@ TEST_F(InstallFlowTest, AnUnwritableLogFolderDoesNotStopTheInstallation)
     open(InstallationStep::installation, CLITool::geminiCLI);
     waitForInstallation();
     EXPECT_TRUE(state.installationOutput().contains(QStringLiteral("404 Not Found")));
-    EXPECT_EQ(text("errorMessage"), ShellError::failed(1, QStringLiteral("Command failed")).errorDescription());
+    EXPECT_EQ(text("errorMessage"), failureSentence(FailureCause::notFound));
     // Without a file there is nothing to show.
     EXPECT_FALSE(shows(button("showLogFileButton")));
 

@@ -1,4 +1,5 @@
 #include "CoroTest.h"
+#include "Diagnosis.h"
 #include "InstallationController.h"
 #include "InstallationState.h"
 #include "LogFile.h"
@@ -119,7 +120,10 @@ TEST_F(InstallationControllerTest, AFailureIsToldAndTheNextAttemptStartsClean)
 
     EXPECT_FALSE(controller.isInstalling());
     EXPECT_FALSE(controller.installationComplete());
-    EXPECT_EQ(state.errorMessage(), npmFailed.errorDescription());
+    // The screen says it plainly; the log keeps the command's own words.
+    EXPECT_EQ(state.errorMessage(), failureSentence(FailureCause::notFound));
+    EXPECT_TRUE(state.installationOutput().endsWith(QStringLiteral("\nError: ") + npmFailed.errorDescription() +
+                                                    QLatin1Char('\n')));
     // The step that was running when the command failed ends red; finished steps stay done.
     EXPECT_EQ(step(SetupStepType::installTool).status.kind(), SetupStepStatus::failed);
     EXPECT_EQ(step(SetupStepType::checkGit).status, SetupStepStatus(SetupStepStatus::completed));

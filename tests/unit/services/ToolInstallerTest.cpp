@@ -1,4 +1,5 @@
 #include "CoroTest.h"
+#include "Diagnosis.h"
 #include "TestMachine.h"
 #include "ToolInstaller.h"
 
@@ -158,8 +159,9 @@ TEST_F(ToolInstallerTest, AFailedDownloadFailsTheInstallWithItsOwnReason)
     sandbox.installFakes({"git", "curl"});
     sandbox.setEnv("FAKE_CURL_FAIL", "1");
     const SetupRun run = runSetup(CLITool::claudeCode);
-    EXPECT_EQ(run.error(), QStringLiteral("The download failed: the server answered with an error. (curl: (22) The "
-                                          "requested URL returned error: 404)"));
+    ASSERT_TRUE(run.result && !run.result->ok());
+    EXPECT_EQ(run.result->error().shellError()->exitCode(), 22); // curl's own status
+    EXPECT_EQ(run.result->error().plainDescription(), failureSentence(FailureCause::notFound));
     EXPECT_EQ(run.last(SetupStepType::installTool), kInProgress);
     EXPECT_FALSE(run.log.contains(QStringLiteral("Verifying"))) << run.log.toStdString();
     EXPECT_FALSE(QFile::exists(sandbox.binDirectory() + QStringLiteral("/claude")));
@@ -257,7 +259,7 @@ TEST_F(ToolInstallerTest, ATamperedNodeArchiveIsRefusedWithNothingUnpacked)
     installer.setNodeDistribution(QStringLiteral("file:///nonexistent/dist"));
     EXPECT_TRUE(runSetup(CLITool::geminiCLI)
                     .error()
-                    .startsWith(QStringLiteral("Could not download the list of Node.js releases: ")));
+                    .startsWith(QStringLiteral("Could not download the list of Node.js releases. ")));
     EXPECT_FALSE(sandbox.exists(QStringLiteral(".local")));
 }
 
