@@ -107,7 +107,7 @@ void InstallationState::reset()
 bool InstallationState::canProceed() const
 {
     return std::all_of(m_requirements.cbegin(), m_requirements.cend(), [](const RequirementStatus& status) {
-        return status.isMet || status.requirement == SystemRequirement::nodeJS;
+        return status.isMet || status.requirement.isInstalledBySetup();
     });
 }
 

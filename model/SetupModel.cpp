@@ -20,9 +20,9 @@ QString caseName(InstallationStep step)
 
 // MARK: SystemRequirement
 
-const std::array<SystemRequirement, 3>& SystemRequirement::allCases()
+const std::array<SystemRequirement, 4>& SystemRequirement::allCases()
 {
-    static constexpr std::array<SystemRequirement, 3> cases = {macOSVersion, nodeJS, diskSpace};
+    static constexpr std::array<SystemRequirement, 4> cases = {macOSVersion, nodeJS, diskSpace, git};
     return cases;
 }
 
@@ -32,6 +32,7 @@ QString SystemRequirement::id() const
     case macOSVersion: return QStringLiteral("macOSVersion");
     case nodeJS: return QStringLiteral("nodeJS");
     case diskSpace: return QStringLiteral("diskSpace");
+    case git: return QStringLiteral("git");
     }
     Q_UNREACHABLE();
 }
@@ -42,6 +43,7 @@ QString SystemRequirement::title(const SystemWording& wording) const
     case macOSVersion: return wording.osRequirementTitle;
     case nodeJS: return tr("Node.js");
     case diskSpace: return tr("200MB disk space");
+    case git: return tr("Git");
     }
     Q_UNREACHABLE();
 }
@@ -54,6 +56,9 @@ QString SystemRequirement::helpText(const SystemWording& wording) const
         return tr("Node.js is a JavaScript runtime that some AI tools use to run. It's a standard development tool "
                   "used by millions of developers.");
     case diskSpace: return wording.diskSpaceHelp;
+    case git:
+        return tr("Git keeps track of the changes in your projects. The AI tools use it to see and undo what they "
+                  "change.");
     }
     Q_UNREACHABLE();
 }
@@ -64,6 +69,7 @@ QString SystemRequirement::fixSuggestion(const SystemWording& wording) const
     case macOSVersion: return wording.osRequirementFix;
     case nodeJS: return wording.nodeFixSuggestion;
     case diskSpace: return tr("Free up space by emptying Trash or removing unused apps");
+    case git: return wording.gitMissingError;
     }
     Q_UNREACHABLE();
 }

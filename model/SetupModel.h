@@ -43,12 +43,14 @@ class SystemRequirement {
     Q_DECLARE_TR_FUNCTIONS(SystemRequirement)
 
 public:
-    enum Case { macOSVersion, nodeJS, diskSpace };
+    enum Case { macOSVersion, nodeJS, diskSpace, git };
 
     constexpr SystemRequirement(Case value) : m_case(value) {}
     constexpr operator Case() const { return m_case; }
 
-    static const std::array<SystemRequirement, 3>& allCases();
+    static const std::array<SystemRequirement, 4>& allCases();
+    // Whether setup installs what is missing itself (Node.js); anything else blocks it.
+    bool isInstalledBySetup() const { return m_case == nodeJS; }
 
     QString id() const; // the case name
     // The texts that name the system come from the system's own wording.

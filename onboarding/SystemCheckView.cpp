@@ -10,6 +10,7 @@
 #include "Symbol.h"
 
 #include <QCoro/QCoroTask>
+#include <QLocale>
 
 namespace qf {
 
@@ -41,8 +42,23 @@ QCoro::Task<SystemCheck> checkSystem(CLITool tool, ShellRunner& shell, SystemDet
 
 } // namespace
 
+QString RequirementRow::statusWord(const RequirementStatus& status)
+{
+    if (status.isMet)
+        return tr("Ready");
+    if (status.requirement.isInstalledBySetup())
+        return tr("Will be installed for you");
+    switch (status.requirement) {
+    case SystemRequirement::diskSpace: return tr("Not enough space");
+    case SystemRequirement::git: return tr("Not installed");
+    case SystemRequirement::macOSVersion:
+    case SystemRequirement::nodeJS: break;
+    }
+    return tr("Not supported");
+}
+
 RequirementRow::RequirementRow(const RequirementStatus& status, const SystemWording& wording, const QString& note,
-                               QWidget* parent)
+                               std::function<void()> fix, QWidget* parent)
     : RoundedCard(parent)
 {
     const QString title = status.requirement.title(wording);
@@ -50,7 +66,9 @@ RequirementRow::RequirementRow(const RequirementStatus& status, const SystemWord
     setAccessibleName(title);
     setCornerRadius(12);
     setFill(Tint(Role::controlBackground));
-    const Tint mark(status.isMet ? Role::green : Role::orange);
+    // Green when met, orange for what setup installs itself, red for what blocks it.
+    const bool blocking = !status.isMet && !status.requirement.isInstalledBySetup();
+    const Tint mark(status.isMet ? Role::green : blocking ? Role::red : Role::orange);
     auto* column = vstack(this, 0, QMargins(16, 16, 16, 16));
 
     auto* row = hstack(12);
@@ -63,7 +81,7 @@ RequirementRow::RequirementRow(const RequirementStatus& status, const SystemWord
     auto* titleLabel = new Label(title, Theme::headline());
     titleLabel->setObjectName(QStringLiteral("requirementTitle"));
     text->addWidget(titleLabel);
-    auto* details = new Label(status.details, Theme::caption(), Tint(Role::secondary));
+    auto* details = new Label(status.details, Theme::caption(), blocking ? mark : Tint(Role::secondary));
     details->setObjectName(QStringLiteral("requirementDetails"));
     text->addWidget(details);
     row->addLayout(text);
@@ -80,9 +98,16 @@ RequirementRow::RequirementRow(const RequirementStatus& status, const SystemWord
     });
     row->addWidget(m_help, 0, Qt::AlignVCenter);
     row->addStretch(1);
-    auto* word = new Label(status.isMet ? tr("Ready") : tr("Will install"), Theme::caption(), mark);
+    auto* word = new Label(statusWord(status), Theme::caption(), mark);
     word->setObjectName(QStringLiteral("requirementStatus"));
     row->addWidget(word, 0, Qt::AlignVCenter);
+    if (blocking && fix) {
+        auto* fixButton = new Button(tr("Install"), Button::Style::bordered);
+        fixButton->setObjectName(QStringLiteral("requirementFixButton"));
+        fixButton->setAccessibleName(tr("Install %1").arg(title));
+        connect(fixButton, &QAbstractButton::clicked, this, std::move(fix));
+        row->addWidget(fixButton, 0, Qt::AlignVCenter);
+    }
     column->addLayout(row);
     setAccessibleDescription(status.details + QStringLiteral(", ") + word->text());
 
@@ -99,9 +124,13 @@ RequirementRow::RequirementRow(const RequirementStatus& status, const SystemWord
     explanation->setWrapping(true);
     helpColumn->addWidget(explanation);
     if (!status.isMet) {
+        // What setup installs itself needs nothing from the user.
+        const QString remedyText = status.requirement.isInstalledBySetup()
+                                       ? tr("Quillforge installs it for you as part of the setup.")
+                                       : status.requirement.fixSuggestion(wording);
         auto* remedy = hstack(6);
-        remedy->addWidget(new SymbolView(QStringLiteral("hammer"), 10, Tint(Role::orange)), 0, Qt::AlignTop);
-        auto* fix = new Label(status.requirement.fixSuggestion(wording), Theme::caption(), Tint(Role::orange));
+        remedy->addWidget(new SymbolView(QStringLiteral("hammer"), 10, mark), 0, Qt::AlignTop);
+        auto* fix = new Label(remedyText, Theme::caption(), mark);
         fix->setObjectName(QStringLiteral("requirementFix"));
         fix->setWrapping(true);
         remedy->addWidget(fix, 1);
@@ -170,6 +199,22 @@ SystemCheckView::SystemCheckView(InstallationState& state, Services& services, Q
     m_requirementList->setObjectName(QStringLiteral("requirementList"));
     vstack(m_requirementList, 16, QMargins(24, 0, 24, 0));
     column->addWidget(m_requirementList);
+
+    // Why "Install" is not available, and a way to look again once it is fixed.
+    m_blocked = new QWidget;
+    m_blocked->setObjectName(QStringLiteral("blockedNotice"));
+    auto* blocked = hstack(m_blocked, 8, QMargins(24, 0, 24, 0));
+    blocked->addWidget(new SymbolView(QStringLiteral("exclamationmark.triangle.fill"), 12, Tint(Role::red)), 0,
+                       Qt::AlignTop);
+    m_blockedText = new Label(QString(), Theme::callout());
+    m_blockedText->setObjectName(QStringLiteral("blockedReason"));
+    m_blockedText->setWrapping(true);
+    blocked->addWidget(m_blockedText, 1);
+    auto* again = new Button(tr("Check Again"), Button::Style::bordered);
+    again->setObjectName(QStringLiteral("checkAgainButton"));
+    connect(again, &QAbstractButton::clicked, this, &SystemCheckView::startCheck);
+    blocked->addWidget(again, 0, Qt::AlignTop);
+    column->addWidget(m_blocked);
     column->addStretch(1);
 
     addBackToHome(m_state);
@@ -226,7 +271,11 @@ void SystemCheckView::rebuildRequirementRows()
         // The Node.js row says which version the chosen tool needs.
         const QString note = tool && status.requirement == SystemRequirement::nodeJS ? tool->nodeRequirementNote()
                                                                                      : QString();
-        m_requirementList->layout()->addWidget(new RequirementRow(status, wording, note));
+        // Git comes with the system's developer tools, whose installer the row offers.
+        std::function<void()> fix;
+        if (status.requirement == SystemRequirement::git)
+            fix = [this] { m_services.platform.startDeveloperToolsInstaller(); };
+        m_requirementList->layout()->addWidget(new RequirementRow(status, wording, note, std::move(fix)));
     }
 }
 
@@ -251,6 +300,17 @@ void SystemCheckView::render()
         m_main->setTitle(canProceed ? tr("Install") : tr("Requirements Not Met"));
         m_main->setEnabled(canProceed && !m_isChecking);
     }
+    QStringList blocking;
+    for (const RequirementStatus& status : m_state.requirements()) {
+        if (!status.isMet && !status.requirement.isInstalledBySetup())
+            blocking << status.requirement.title(m_services.platform.wording()) + QStringLiteral(" (") +
+                            status.details + QLatin1Char(')');
+    }
+    const bool blocked = !m_isChecking && !m_toolAlreadyInstalled && !blocking.isEmpty();
+    m_blocked->setVisible(blocked);
+    m_blockedText->setText(
+        blocked ? tr("Install is not available until this is fixed: %1.").arg(QLocale().createSeparatedList(blocking))
+                : QString());
 }
 
 } // namespace qf

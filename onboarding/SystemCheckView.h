@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "FlowScreen.h"
 #include "SetupModel.h"
 
@@ -23,8 +25,13 @@ class RequirementRow : public ui::RoundedCard {
 
 public:
     // `note` follows the requirement's explanation (what the chosen tool needs of it).
+    // `fix` (when given) is offered as a button while the requirement is not met.
     RequirementRow(const RequirementStatus& status, const SystemWording& wording, const QString& note = QString(),
-                   QWidget* parent = nullptr);
+                   std::function<void()> fix = {}, QWidget* parent = nullptr);
+
+    // The word beside a requirement: "Ready"; "Will be installed for you" for what setup
+    // installs itself; otherwise what is wrong.
+    static QString statusWord(const RequirementStatus& status);
 
     bool showsHelp() const { return m_showHelp; }
     ui::Button* helpButton() const { return m_help; }
@@ -74,6 +81,8 @@ private:
     ui::Label* m_installedTitle;
     ui::Label* m_installedVersionLabel;
     QWidget* m_requirementList;
+    QWidget* m_blocked;
+    ui::Label* m_blockedText;
     ui::Button* m_main;
 };
 

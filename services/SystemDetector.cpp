@@ -33,8 +33,11 @@ RequirementStatus SystemDetector::nodeStatus(const NodeCheck& node, CLITool tool
 RequirementStatus SystemDetector::diskSpaceStatus(std::optional<qint64> megabytes)
 {
     const qint64 mb = megabytes.value_or(0);
-    return {SystemRequirement::diskSpace, mb >= minimumDiskSpaceMB,
-            QString::number(mb) + QStringLiteral(" MB available")};
+    const bool enough = mb >= minimumDiskSpaceMB;
+    // Short of space, the details say by how much.
+    return {SystemRequirement::diskSpace, enough,
+            enough ? QString::number(mb) + QStringLiteral(" MB available")
+                   : QStringLiteral("%1 MB free, %2 MB needed").arg(mb).arg(minimumDiskSpaceMB)};
 }
 
 QCoro::Task<std::optional<QString>> SystemDetector::getNodeVersion()
@@ -140,6 +143,10 @@ QCoro::Task<QList<RequirementStatus>> SystemDetector::checkAllRequirements(CLITo
     QList<RequirementStatus> requirements;
     requirements << checkOperatingSystem();
     requirements << diskSpaceStatus(availableDiskSpaceMB());
+    // Every setup needs git; without it the installation would stop at its second step.
+    const Result<QString> git = co_await m_shell.run(QStringLiteral("git --version"));
+    requirements << RequirementStatus{SystemRequirement::git, git.ok(),
+                                      git ? git.value().trimmed() : QStringLiteral("Not installed")};
     if (tool.requiresNodeJS()) {
         const NodeCheck node = co_await checkNodeJS(tool.minimumNodeMajorVersion());
         requirements << nodeStatus(node, tool);

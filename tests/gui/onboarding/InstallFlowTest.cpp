@@ -82,7 +82,7 @@ TEST_F(InstallFlowTest, FromTheAccountScreenToACompletedInstallation)
     ASSERT_EQ(state.currentStep(), InstallationStep::systemCheck);
     waitForCheck();
     EXPECT_EQ(button("mainButton")->title(), QStringLiteral("Install"));
-    EXPECT_EQ(screenAs<SystemCheckView>()->requirementRows().size(), 2); // Claude Code needs no Node.js
+    EXPECT_EQ(screenAs<SystemCheckView>()->requirementRows().size(), 3); // Claude Code needs no Node.js
     click("mainButton");
 
     ASSERT_EQ(state.currentStep(), InstallationStep::installation);
@@ -120,26 +120,31 @@ TEST_F(InstallFlowTest, AToolAlreadyOnThePathIsOfferedInTheTerminal)
 TEST_F(InstallFlowTest, RequirementsDecideWhetherTheInstallationMayStart)
 {
     // Node.js missing does not block: the installation brings it.
+    sandbox.installFake(QStringLiteral("git"));
     open(InstallationStep::systemCheck, CLITool::geminiCLI);
     waitForCheck();
     QList<RequirementRow*> rows = screenAs<SystemCheckView>()->requirementRows();
-    ASSERT_EQ(rows.size(), 3);
+    ASSERT_EQ(rows.size(), 4);
     auto* nodeRow = test::child<RequirementRow>(screen(), QStringLiteral("requirementRow.nodeJS"));
     auto* nodeStatus = test::child<ui::Label>(nodeRow, QStringLiteral("requirementStatus"));
-    EXPECT_EQ(nodeStatus->text(), QStringLiteral("Will install"));
+    EXPECT_EQ(nodeStatus->text(), QStringLiteral("Will be installed for you"));
     EXPECT_EQ(nodeStatus->tint(), ui::Tint(ui::Role::orange));
+    // Its help agrees: nothing for the user to do.
+    EXPECT_EQ(test::child<ui::Label>(nodeRow, QStringLiteral("requirementFix"))->text(),
+              QStringLiteral("Quillforge installs it for you as part of the setup."));
+    EXPECT_FALSE(shows(test::child(screen(), QStringLiteral("blockedNotice"))));
     EXPECT_EQ(button("mainButton")->title(), QStringLiteral("Install"));
     EXPECT_TRUE(button("mainButton")->isEnabled());
 
     // Help opens per row, and a second press closes it again.
     rows[0]->helpButton()->click();
-    rows[2]->helpButton()->click();
-    rows[2]->helpButton()->click();
+    rows[3]->helpButton()->click();
+    rows[3]->helpButton()->click();
     EXPECT_TRUE(rows[0]->showsHelp());
     EXPECT_FALSE(rows[1]->showsHelp());
-    EXPECT_FALSE(rows[2]->showsHelp());
+    EXPECT_FALSE(rows[3]->showsHelp());
     EXPECT_FALSE(shows(test::child(nodeRow, QStringLiteral("requirementFix"))));
-    rows[2]->helpButton()->click();
+    rows[3]->helpButton()->click();
     EXPECT_TRUE(shows(test::child(nodeRow, QStringLiteral("requirementFix"))));
     // The help says which Node.js the chosen tool needs.
     EXPECT_TRUE(test::child<ui::Label>(nodeRow, QStringLiteral("requirementExplanation"))
@@ -152,12 +157,44 @@ TEST_F(InstallFlowTest, RequirementsDecideWhetherTheInstallationMayStart)
     waitForCheck();
     EXPECT_EQ(button("mainButton")->title(), QStringLiteral("Requirements Not Met"));
     EXPECT_FALSE(button("mainButton")->isEnabled());
+    // What is wrong, in red, and the screen says what blocks "Install".
+    auto* diskRow = test::child<RequirementRow>(screen(), QStringLiteral("requirementRow.diskSpace"));
+    EXPECT_EQ(test::child<ui::Label>(diskRow, QStringLiteral("requirementStatus"))->text(),
+              QStringLiteral("Not enough space"));
+    EXPECT_EQ(test::child<ui::Label>(diskRow, QStringLiteral("requirementStatus"))->tint(), ui::Tint(ui::Role::red));
+    EXPECT_EQ(test::child<ui::Label>(diskRow, QStringLiteral("requirementDetails"))->text(),
+              QStringLiteral("100 MB free, 200 MB needed"));
+    EXPECT_TRUE(shows(test::child(screen(), QStringLiteral("blockedNotice"))));
+    EXPECT_EQ(
+        text("blockedReason"),
+        QStringLiteral("Install is not available until this is fixed: 200MB disk space (100 MB free, 200 MB needed)."));
     QTest::keyClick(window.get(), Qt::Key_Return);
     QTest::qWait(200); // longer than a button's pressed look
     EXPECT_EQ(state.currentStep(), InstallationStep::systemCheck);
     click("backButton");
     EXPECT_EQ(state.currentStep(), InstallationStep::home);
     EXPECT_TRUE(state.requirements().isEmpty());
+}
+
+TEST_F(InstallFlowTest, MissingGitBlocksTheInstallationAndOffersItsInstaller)
+{
+    open(InstallationStep::systemCheck, CLITool::claudeCode); // no git here
+    waitForCheck();
+    auto* gitRow = test::child<RequirementRow>(screen(), QStringLiteral("requirementRow.git"));
+    EXPECT_EQ(test::child<ui::Label>(gitRow, QStringLiteral("requirementStatus"))->text(),
+              QStringLiteral("Not installed"));
+    EXPECT_FALSE(button("mainButton")->isEnabled());
+    EXPECT_EQ(text("blockedReason"),
+              QStringLiteral("Install is not available until this is fixed: Git (Not installed)."));
+    // The row offers the system's installer, as the dashboard does; once git is there, a
+    // second look lets the installation start.
+    test::child<QAbstractButton>(gitRow, QStringLiteral("requirementFixButton"))->click();
+    EXPECT_EQ(platform.installersStarted, 1);
+    sandbox.installFake(QStringLiteral("git"));
+    click("checkAgainButton");
+    waitForCheck();
+    EXPECT_TRUE(button("mainButton")->isEnabled());
+    EXPECT_FALSE(shows(test::child(screen(), QStringLiteral("blockedNotice"))));
 }
 
 TEST_F(InstallFlowTest, MissingGitStopsTheRunAndTryAgainStartsOver)

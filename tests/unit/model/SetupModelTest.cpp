@@ -25,8 +25,9 @@ TEST(InstallationStep, RawValuesFollowFlowOrder)
 TEST(SystemRequirement, IdentityAndWording)
 {
     const auto& all = SystemRequirement::allCases();
-    ASSERT_EQ(all.size(), 3u);
-    const QStringList ids = {QStringLiteral("macOSVersion"), QStringLiteral("nodeJS"), QStringLiteral("diskSpace")};
+    ASSERT_EQ(all.size(), 4u);
+    const QStringList ids = {QStringLiteral("macOSVersion"), QStringLiteral("nodeJS"), QStringLiteral("diskSpace"),
+                             QStringLiteral("git")};
     for (size_t i = 0; i < all.size(); ++i)
         EXPECT_EQ(all[i].id(), ids[int(i)]);
     const RequirementStatus status{SystemRequirement::diskSpace, true, QStringLiteral("512 MB available")};
@@ -37,11 +38,13 @@ TEST(SystemRequirement, IdentityAndWording)
                                 .osRequirementHelp = QStringLiteral("h"),
                                 .osRequirementFix = QStringLiteral("f"),
                                 .diskSpaceHelp = QStringLiteral("d"),
-                                .nodeFixSuggestion = QStringLiteral("n")};
+                                .nodeFixSuggestion = QStringLiteral("n"),
+                                .gitMissingError = QStringLiteral("g")};
     const SystemRequirement os = SystemRequirement::macOSVersion;
     EXPECT_EQ(os.title(wording) + os.helpText(wording) + os.fixSuggestion(wording), QStringLiteral("thf"));
     EXPECT_EQ(SystemRequirement(SystemRequirement::diskSpace).helpText(wording), QStringLiteral("d"));
     EXPECT_EQ(SystemRequirement(SystemRequirement::nodeJS).fixSuggestion(wording), QStringLiteral("n"));
+    EXPECT_EQ(SystemRequirement(SystemRequirement::git).fixSuggestion(wording), QStringLiteral("g"));
     for (SystemRequirement requirement : all) {
         EXPECT_FALSE(requirement.title(wording).isEmpty());
         EXPECT_FALSE(requirement.helpText(wording).isEmpty());

@@ -67,7 +67,7 @@ TEST(SystemDetectorRules, DiskSpaceBoundaries)
     // Unreadable space counts as none at all.
     const RequirementStatus unknown = SystemDetector::diskSpaceStatus(std::nullopt);
     EXPECT_FALSE(unknown.isMet);
-    EXPECT_EQ(unknown.details, QStringLiteral("0 MB available"));
+    EXPECT_EQ(unknown.details, QStringLiteral("0 MB free, 200 MB needed"));
 }
 
 TEST_F(SystemDetectorTest, NodeFromTheSearchPath)
@@ -94,32 +94,37 @@ TEST_F(SystemDetectorTest, RequirementListsPerTool)
     platform.diskSpace = DiskSpace{209715199, QString()};
 
     const QList<RequirementStatus> gemini = *await(detector.checkAllRequirements(CLITool::geminiCLI));
-    ASSERT_EQ(gemini.size(), 3);
+    ASSERT_EQ(gemini.size(), 4);
     EXPECT_EQ(gemini[0], (RequirementStatus{SystemRequirement::macOSVersion, true, QStringLiteral("macOS 14.0.0")}));
-    EXPECT_EQ(gemini[1], (RequirementStatus{SystemRequirement::diskSpace, false, QStringLiteral("199 MB available")}));
+    EXPECT_EQ(gemini[1],
+              (RequirementStatus{SystemRequirement::diskSpace, false, QStringLiteral("199 MB free, 200 MB needed")}));
+    // git is checked for every tool.
+    EXPECT_EQ(gemini[2], (RequirementStatus{SystemRequirement::git, false, QStringLiteral("Not installed")}));
     // A Node.js too old for the tool shows its version and the one needed, and is not met;
     // the same Node.js is new enough for Codex.
-    EXPECT_EQ(gemini[2],
+    EXPECT_EQ(gemini[3],
               (RequirementStatus{SystemRequirement::nodeJS, false, QStringLiteral("v19.0.0 (needs 20 or newer)")}));
-    EXPECT_EQ((*await(detector.checkAllRequirements(CLITool::codex)))[2],
-              (RequirementStatus{SystemRequirement::nodeJS, true, QStringLiteral("v19.0.0")}));
+    sandbox.installFake(QStringLiteral("git"));
+    const QList<RequirementStatus> codex = *await(detector.checkAllRequirements(CLITool::codex));
+    EXPECT_EQ(codex[2], (RequirementStatus{SystemRequirement::git, true, QStringLiteral("git version 2.39.5")}));
+    EXPECT_EQ(codex[3], (RequirementStatus{SystemRequirement::nodeJS, true, QStringLiteral("v19.0.0")}));
     sandbox.setEnv("FAKE_NODE_VERSION", "v17.9.1");
-    EXPECT_EQ((*await(detector.checkAllRequirements(CLITool::codex)))[2],
+    EXPECT_EQ((*await(detector.checkAllRequirements(CLITool::codex)))[3],
               (RequirementStatus{SystemRequirement::nodeJS, false, QStringLiteral("v17.9.1 (needs 18 or newer)")}));
 
-    // Claude Code needs no Node.js: two records, and node is never asked.
+    // Claude Code needs no Node.js: three records, and node is never asked.
     QFile::remove(sandbox.stateDirectory() + QStringLiteral("/node.log"));
     platform.osCheck = {false, QStringLiteral("macOS 13.6.1")};
     const QList<RequirementStatus> claude = *await(detector.checkAllRequirements(CLITool::claudeCode));
-    ASSERT_EQ(claude.size(), 2);
+    ASSERT_EQ(claude.size(), 3);
     EXPECT_FALSE(claude[0].isMet);
     EXPECT_EQ(claude[0].details, QStringLiteral("macOS 13.6.1"));
     EXPECT_FALSE(QFile::exists(sandbox.stateDirectory() + QStringLiteral("/node.log")));
 
     sandbox.removeFake(QStringLiteral("node"));
-    const QList<RequirementStatus> codex = *await(detector.checkAllRequirements(CLITool::codex));
-    ASSERT_EQ(codex.size(), 3);
-    EXPECT_EQ(codex[2], (RequirementStatus{SystemRequirement::nodeJS, false, QStringLiteral("Not installed")}));
+    const QList<RequirementStatus> withoutNode = *await(detector.checkAllRequirements(CLITool::codex));
+    ASSERT_EQ(withoutNode.size(), 4);
+    EXPECT_EQ(withoutNode[3], (RequirementStatus{SystemRequirement::nodeJS, false, QStringLiteral("Not installed")}));
 }
 
 TEST_F(SystemDetectorTest, DiskSpaceOfTheHomeVolume)
