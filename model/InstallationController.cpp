@@ -29,6 +29,7 @@ QCoro::Task<> InstallationController::startInstallation()
     setInstalling(true);
     setComplete(false);
     m_state.setErrorMessage(std::nullopt);
+    m_state.setCaveats({});
     m_state.setInstallationOutput(QString());
     m_logFile.reset();
 
@@ -71,6 +72,7 @@ QCoro::Task<> InstallationController::startInstallation()
     if (isCurrent(attempt)) {
         setInstalling(false);
         if (result) {
+            m_state.setCaveats(m_installer.caveats());
             setComplete(true);
         } else {
             markUnfinishedStepsFailed();

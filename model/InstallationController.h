@@ -29,6 +29,8 @@ public:
     virtual ~SetupService() = default;
     virtual QCoro::Task<QList<SetupStep>> setupSteps(CLITool tool) = 0;
     virtual QCoro::Task<Result<void>> runSetup(CLITool tool, StepUpdate onStepUpdate, Output onOutput) = 0;
+    // What the last run that succeeded left for the user to know (nothing by default).
+    virtual QStringList caveats() const { return {}; }
 
 protected:
     SetupService() = default;

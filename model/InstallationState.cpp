@@ -68,6 +68,11 @@ void InstallationState::setErrorMessage(const std::optional<QString>& message)
     assign(m_errorMessage, message, &InstallationState::errorMessageChanged);
 }
 
+void InstallationState::setCaveats(const QStringList& caveats)
+{
+    assign(m_caveats, caveats, &InstallationState::caveatsChanged);
+}
+
 void InstallationState::setToolAlreadyInstalled(bool installed)
 {
     assign(m_toolAlreadyInstalled, installed, &InstallationState::toolAlreadyInstalledChanged);
@@ -100,6 +105,7 @@ void InstallationState::reset()
     setInstallationOutput(QString());
     setApiKey(QString());
     setErrorMessage(std::nullopt);
+    setCaveats({});
     setToolAlreadyInstalled(false);
     setIsOpeningExistingTool(false);
 }

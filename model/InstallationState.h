@@ -33,6 +33,9 @@ public:
     const BoundedLog& installationLog() const { return m_installationLog; }
     const QString& apiKey() const { return m_apiKey; }
     const std::optional<QString>& errorMessage() const { return m_errorMessage; }
+    // What a finished installation left for the user to know: each a sentence of what is off
+    // and what to do.
+    const QStringList& caveats() const { return m_caveats; }
     bool toolAlreadyInstalled() const { return m_toolAlreadyInstalled; }
     bool hasAnyInstalledTools() const { return m_hasAnyInstalledTools; }
     bool isOpeningExistingTool() const { return m_isOpeningExistingTool; }
@@ -45,6 +48,7 @@ public:
     void appendInstallationOutput(const QString& text);
     void setApiKey(const QString& key);
     void setErrorMessage(const std::optional<QString>& message);
+    void setCaveats(const QStringList& caveats);
     void setToolAlreadyInstalled(bool installed);
     void setIsOpeningExistingTool(bool opening);
 
@@ -66,6 +70,7 @@ Q_SIGNALS:
     void installationOutputChanged();
     void apiKeyChanged();
     void errorMessageChanged();
+    void caveatsChanged();
     void toolAlreadyInstalledChanged();
     void hasAnyInstalledToolsChanged();
     void isOpeningExistingToolChanged();
@@ -84,6 +89,7 @@ private:
     BoundedLog m_installationLog;
     QString m_apiKey;
     std::optional<QString> m_errorMessage;
+    QStringList m_caveats;
     bool m_toolAlreadyInstalled = false;
     bool m_hasAnyInstalledTools = false;
     bool m_isOpeningExistingTool = false;

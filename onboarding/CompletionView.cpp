@@ -220,6 +220,9 @@ void CompletionView::buildContent(CLITool tool, QVBoxLayout* column)
     titles->addWidget(subtitle);
     header->addLayout(titles);
     column->addLayout(header);
+    // What the installation left for the user to know, before anything else.
+    if (!m_state.caveats().isEmpty() && !opened)
+        column->addLayout(inset(flow::caveatCard(m_state.caveats())));
 
     // Quick start: the command to try, and how signing in works.
     auto* quickStart = roundedCard(QStringLiteral("quickStartCard"), 12);

@@ -4,7 +4,9 @@
 #include "InstallationState.h"
 #include "Label.h"
 #include "Layout.h"
+#include "RoundedCard.h"
 #include "Surface.h"
+#include "Symbol.h"
 #include "Theme.h"
 
 #include <QPainter>
@@ -115,6 +117,29 @@ ui::Label* centredText(const QString& text, const QFont& font, const ui::Tint& t
     label->setAlignment(Qt::AlignHCenter);
     label->setWrapping(true);
     return label;
+}
+
+QWidget* caveatCard(const QStringList& caveats)
+{
+    auto* card = ui::roundedCard(QStringLiteral("caveats"), 12, ui::Tint(ui::Role::orange, 0.08));
+    card->setStroke(ui::Tint(ui::Role::orange, 0.25), 1);
+    auto* rows = ui::vstack(card, 10, QMargins(16, 14, 16, 14));
+    for (const QString& caveat : caveats) {
+        auto* row = ui::hstack(8);
+        row->addWidget(
+            new ui::SymbolView(QStringLiteral("exclamationmark.triangle.fill"), 12, ui::Tint(ui::Role::orange)), 0,
+            Qt::AlignTop);
+        auto* text = new ui::Label(caveat, ui::Theme::callout());
+        text->setObjectName(QStringLiteral("caveat"));
+        text->setWrapping(true);
+        text->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        row->addWidget(text, 1);
+        rows->addLayout(row);
+    }
+    card->setAccessibleName(QCoreApplication::translate("InstallationView", "Good to know"));
+    card->setAccessibleDescription(caveats.join(QLatin1Char(' ')));
+    card->setVisible(!caveats.isEmpty());
+    return card;
 }
 
 } // namespace flow

@@ -69,6 +69,9 @@ ui::Button* backButton(ui::Button::Style style);
 QWidget* toolLogo(CLITool tool, int side, qreal cornerRadius, qreal shadowRadius, qreal shadowDrop);
 // Centred text that wraps onto as many lines as it needs.
 ui::Label* centredText(const QString& text, const QFont& font, const ui::Tint& tint = ui::Tint(ui::Role::primary));
+// What a finished installation left for the user to know, one warning row each, on an orange
+// card named "caveats"; hidden while `caveats` is empty.
+QWidget* caveatCard(const QStringList& caveats);
 } // namespace flow
 
 // The tool's tile at the top of the system check and the installation: its symbol on its

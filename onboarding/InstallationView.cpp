@@ -219,6 +219,8 @@ InstallationView::InstallationView(InstallationState& state, InstallationControl
     auto* errorRow = vstack(0, QMargins(24, 0, 24, 0));
     errorRow->addWidget(m_errorCard);
     column->addLayout(errorRow);
+    m_caveatRow = vstack(0, QMargins(24, 0, 24, 0));
+    column->addLayout(m_caveatRow);
     column->addStretch(1);
 
     m_back = addBackToHome(m_state);
@@ -244,6 +246,13 @@ InstallationView::InstallationView(InstallationState& state, InstallationControl
     const auto rerender = [this] { render(); };
     connect(&m_state, &InstallationState::setupStepsChanged, this, rerender);
     connect(&m_state, &InstallationState::errorMessageChanged, this, rerender);
+    connect(&m_state, &InstallationState::caveatsChanged, this, [this] {
+        // One card for what the run left to know, rebuilt when that changes.
+        delete m_caveats;
+        m_caveats = flow::caveatCard(m_state.caveats());
+        m_caveatRow->addWidget(m_caveats);
+        render();
+    });
     connect(&m_state, &InstallationState::installationOutputChanged, this, [this] {
         syncLog();
         m_logSection->setVisible(!m_state.installationOutput().isEmpty());
@@ -282,6 +291,8 @@ void InstallationView::render()
     m_log->setVisible(m_showDetails);
 
     m_errorCard->setVisible(error.has_value());
+    if (m_caveats)
+        m_caveats->setVisible(complete && !m_state.caveats().isEmpty());
     m_errorText->setText(error.value_or(QString()));
     m_errorCard->setAccessibleDescription(error.value_or(QString()));
 

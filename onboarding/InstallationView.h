@@ -49,8 +49,8 @@ public:
 // The installation: starts a run for the chosen tool as soon as it appears and shows the steps
 // with their live status, the log behind "Details" (with "Copy Log", which copies the whole
 // log even when only its newest part is shown), and at the end either "Installation Complete!"
-// with "Continue" or the error with "Try Again" and "Show Log File". The run itself belongs to
-// the controller, so leaving the screen never stops it.
+// with "Continue" (and what the run left to know) or the error with "Try Again" and "Show Log File". The run itself
+// belongs to the controller, so leaving the screen never stops it.
 class InstallationView : public FlowScreen {
     Q_OBJECT
 
@@ -96,6 +96,8 @@ private:
     ui::LogView* m_log;
     ui::RoundedCard* m_errorCard;
     ui::Label* m_errorText;
+    QVBoxLayout* m_caveatRow;
+    QWidget* m_caveats = nullptr;
     ui::Button* m_back;
     ui::Button* m_showLogFile;
     ui::Button* m_main;

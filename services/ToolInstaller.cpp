@@ -9,6 +9,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QTemporaryDir>
+#include <QVersionNumber>
 #include <QtConcurrent/QtConcurrentRun>
 
 #include <unistd.h>
@@ -213,6 +214,7 @@ QCoro::Task<Result<QString>> ToolInstaller::installNodeRelease(Output log)
 
 QCoro::Task<Result<void>> ToolInstaller::runSetup(CLITool tool, StepUpdate report, Output log)
 {
+    m_caveats.clear();
     // 1. The projects folder. A folder that cannot be created is reported and setup goes on.
     report(SetupStepType::createDeveloperFolder, SetupStepStatus::inProgress, std::nullopt);
     switch (prepareDeveloperFolder(log)) {
@@ -256,6 +258,19 @@ QCoro::Task<Result<void>> ToolInstaller::runSetup(CLITool tool, StepUpdate repor
                 co_return ServiceError::message(nodeShadowedMessage(tool, installs));
             }
             report(SetupStepType::installNode, SetupStepStatus::completed, after.version);
+            if (const QList<NodeInstall> installs = co_await m_detector.findNodeInstalls(); installs.size() > 1) {
+                const NodeInstall& first = installs.first();
+                const auto newest = std::max_element(installs.begin(), installs.end(),
+                                                     [](const auto& a, const auto& b) {
+                                                         return QVersionNumber::fromString(a.version.mid(1)) <
+                                                                QVersionNumber::fromString(b.version.mid(1));
+                                                     });
+                if (newest->version != first.version) {
+                    m_caveats << QObject::tr("An older Node.js (%1 in %2) is found before the one just installed (%3). "
+                                             "%4 works with it; to use the new one, remove the older Node.js.")
+                                     .arg(first.version, first.folder, newest->version, tool.displayName());
+                }
+            }
         }
     }
 
@@ -275,6 +290,15 @@ QCoro::Task<Result<void>> ToolInstaller::runSetup(CLITool tool, StepUpdate repor
             installCommand = QStringLiteral("npm_config_prefix=") +
                              shellQuote(QDir::homePath() + QStringLiteral("/.local")) + QLatin1Char(' ') +
                              installCommand;
+        }
+    }
+    if (tool.installsThroughNpm()) {
+        const Result<QString> ignoring = co_await m_shell.run(QStringLiteral("npm config get ignore-scripts"));
+        if (ignoring && ignoring.value().trimmed() == QLatin1String("true")) {
+            m_caveats << QObject::tr("npm is set to skip install scripts (ignore-scripts), so parts of %1 may be "
+                                     "missing. If it does not start, run \"npm config delete ignore-scripts\" in "
+                                     "Terminal and install it again.")
+                             .arg(tool.displayName());
         }
     }
     const Result<void> installed = co_await m_shell.runWithStreaming(
@@ -432,6 +456,7 @@ QCoro::Task<void> ToolInstaller::addLocalProgramsToSearchPath(CLITool tool, cons
         log(QStringLiteral("Note: ") + added.error().errorDescription() +
             QStringLiteral("\nTo start %1 from a terminal, add this line to %2:\n%3\n")
                 .arg(tool.displayName(), shown, ProfileWriter::searchPathLine(profile.family)));
+        m_caveats << terminalCaveat(tool, shown, ProfileWriter::searchPathLine(profile.family));
         co_return;
     }
     const bool found = co_await newTerminalSearches(folder);
@@ -443,7 +468,15 @@ QCoro::Task<void> ToolInstaller::addLocalProgramsToSearchPath(CLITool tool, cons
                            "it. To start %2 there, add ~/.local/bin to the search path in your shell's own start-up "
                            "file.\n")
                 .arg(shown, tool.displayName()));
+        m_caveats << terminalCaveat(tool, shown, ProfileWriter::searchPathLine(profile.family));
     }
+}
+
+QString ToolInstaller::terminalCaveat(CLITool tool, const QString& profile, const QString& line)
+{
+    return QObject::tr("A new terminal window will not find %1 yet: your shell does not read %2. Add this line to "
+                       "your shell's start-up file, then open a new window: %3")
+        .arg(tool.displayName(), profile, line);
 }
 
 QString ToolInstaller::displayedPath(const QString& path, const QString& home)

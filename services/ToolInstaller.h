@@ -32,6 +32,11 @@ public:
 
     QCoro::Task<QList<SetupStep>> setupSteps(CLITool tool) override;
     QCoro::Task<Result<void>> runSetup(CLITool tool, StepUpdate onStepUpdate, Output onOutput) override;
+    // A new terminal window that will not find the tool, an older Node.js found first, npm
+    // set to skip install scripts: each in words, with what to do.
+    QStringList caveats() const override { return m_caveats; }
+    // The caveat for a tool that a new terminal window will not find.
+    static QString terminalCaveat(CLITool tool, const QString& profile, const QString& line);
 
     // True when this call created ~/Developer.
     QCoro::Task<bool> createDeveloperFolder(Output onOutput);
@@ -86,6 +91,7 @@ private:
     SystemDetector& m_detector;
     const Platform& m_platform;
     QString m_nodeDistribution = QLatin1String(kNodeDistribution);
+    QStringList m_caveats;
 };
 
 } // namespace qf

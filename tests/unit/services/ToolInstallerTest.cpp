@@ -564,6 +564,35 @@ TEST_F(ToolInstallerTest, AnNpmFolderBehindABrokenLinkSendsTheToolToLocal)
     EXPECT_TRUE(sandbox.exists(QStringLiteral(".local/bin/gemini")));
 }
 
+TEST_F(ToolInstallerTest, WhatASuccessfulInstallLeavesToKnowIsSaid)
+{
+    sandbox.installFakes({"git", "node", "npm"});
+    // A plain run leaves nothing to know.
+    SetupRun run = runSetup(CLITool::geminiCLI);
+    ASSERT_TRUE(run.result && run.result->ok()) << run.error().toStdString();
+    EXPECT_EQ(installer.caveats(), QStringList());
+
+    // npm set to skip install scripts.
+    sandbox.setEnv("FAKE_NPM_IGNORE_SCRIPTS", "true");
+    run = runSetup(CLITool::geminiCLI);
+    ASSERT_TRUE(run.result && run.result->ok());
+    ASSERT_EQ(installer.caveats().size(), 1);
+    EXPECT_TRUE(installer.caveats().first().startsWith(QStringLiteral("npm is set to skip install scripts")));
+    sandbox.setEnv("FAKE_NPM_IGNORE_SCRIPTS", "false");
+
+    // A tool in ~/.local/bin that the user's shell will not find: it reads none of the files
+    // Quillforge knows for it.
+    const QString prefix = sandbox.stateDirectory() + QStringLiteral("/usr");
+    writeFile(prefix + QStringLiteral("/lib"), "");
+    sandbox.setEnv("FAKE_NPM_PREFIX", prefix.toUtf8());
+    platform.terminalShell = QStringLiteral("/bin/dash");
+    run = runSetup(CLITool::codex);
+    ASSERT_TRUE(run.result && run.result->ok()) << run.error().toStdString();
+    EXPECT_EQ(installer.caveats(),
+              QStringList{ToolInstaller::terminalCaveat(CLITool::codex, QStringLiteral("~/.zshrc"),
+                                                        QStringLiteral("export PATH=\"$HOME/.local/bin:$PATH\""))});
+}
+
 TEST_F(ToolInstallerTest, AWritableNpmFolderIsUsedAsItIs)
 {
     sandbox.installFakes({"git", "node", "npm"});
