@@ -13,6 +13,8 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace qf {
 
 MainWindow::MainWindow(InstallationState& state, Services& services, ScreenFactory factory, QWidget* parent)
@@ -25,8 +27,10 @@ MainWindow::MainWindow(InstallationState& state, Services& services, ScreenFacto
     setBackgroundRole(QPalette::Window);
 
     // Start at the size the window will open with, so the first screen is laid out once.
-    if (QScreen* screen = QGuiApplication::primaryScreen())
-        resize(screen->availableGeometry().size().expandedTo(minimumSize()));
+    if (QScreen* screen = QGuiApplication::primaryScreen()) {
+        const QMargins frame = services.platform.mainWindowFrame(this).margins;
+        resize(screen->availableGeometry().marginsRemoved(frame).size().expandedTo(minimumSize()));
+    }
 
     if (!factory) {
         factory = [this](InstallationStep step, InstallationState& shared) {
@@ -82,18 +86,36 @@ void MainWindow::showAbout()
     m_about->activateWindow();
 }
 
+bool MainWindow::event(QEvent* event)
+{
+    const bool handled = QWidget::event(event);
+    // A window manager frames a new window a moment after it appears: once it has, a frame
+    // that turned out other than assumed is made room for, once.
+    const QEvent::Type type = event->type();
+    if (m_assumedFrame && (type == QEvent::Move || type == QEvent::Resize || type == QEvent::WindowActivate)) {
+        const WindowFrame frame = m_services.platform.mainWindowFrame(this);
+        if (frame.reported && std::exchange(m_assumedFrame, std::nullopt) != frame.margins)
+            fitToScreen();
+    }
+    return handled;
+}
+
 void MainWindow::configure()
+{
+    fitToScreen();
+    m_services.platform.configureMainWindow(this);
+}
+
+void MainWindow::fitToScreen()
 {
     QScreen* screen = QGuiApplication::primaryScreen();
     if (!screen)
         return;
-    // Fill the usable area of the screen, whatever size the window was created with; the
-    // window manager's frame, where there is one, stays inside that area too.
-    const QRect available = screen->availableGeometry();
-    const QMargins frame(geometry().left() - frameGeometry().left(), geometry().top() - frameGeometry().top(),
-                         frameGeometry().right() - geometry().right(), frameGeometry().bottom() - geometry().bottom());
-    setGeometry(available.marginsRemoved(frame));
-    m_services.platform.configureMainWindow(this);
+    // Whatever size the window was created with, the window and its frame together cover
+    // the usable area of the screen.
+    const WindowFrame frame = m_services.platform.mainWindowFrame(this);
+    setGeometry(screen->availableGeometry().marginsRemoved(frame.margins));
+    m_assumedFrame = frame.reported ? std::nullopt : std::optional(frame.margins);
 }
 
 } // namespace qf

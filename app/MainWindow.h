@@ -7,13 +7,15 @@
 #include <QPointer>
 #include <QWidget>
 
+#include <optional>
+
 namespace qf {
 
 class InstallationState;
 class Services;
 
-// The one main window: at least 550 x 450, opening over the screen's usable area, on the
-// window background, holding the content view.
+// The one main window: at least 550 x 450, opening over the screen's usable area (its frame
+// included), on the window background, holding the content view.
 class MainWindow : public QWidget {
     Q_OBJECT
 
@@ -35,16 +37,21 @@ public:
     static constexpr int minimumHeight = 450;
 
 protected:
+    bool event(QEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
 private:
     void configure();
+    // Fills the usable area of the screen, leaving room for the frame around the window.
+    void fitToScreen();
 
     Services& m_services;
     // Outlives every screen, so an installation goes on when its screen goes away.
     InstallationController m_installation;
     ContentView* m_content;
     bool m_configured = false;
+    // The frame the window was fitted with before the window system said which it is.
+    std::optional<QMargins> m_assumedFrame;
     QPointer<QDialog> m_about;
 };
 

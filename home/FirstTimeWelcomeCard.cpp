@@ -29,7 +29,8 @@ WelcomeStep::WelcomeStep(int number, const QString& title, const QString& descri
     row->addLayout(text, 1);
 }
 
-FirstTimeWelcomeCard::FirstTimeWelcomeCard(const QString& developerToolsName, QWidget* parent) : RoundedCard(parent)
+FirstTimeWelcomeCard::FirstTimeWelcomeCard(const QString& developerToolsName, QWidget* parent)
+    : RoundedCard(parent), m_developerToolsName(developerToolsName)
 {
     setObjectName(QStringLiteral("firstTimeWelcomeCard"));
     setCornerRadius(18);
@@ -76,13 +77,28 @@ FirstTimeWelcomeCard::FirstTimeWelcomeCard(const QString& developerToolsName, QW
     tip->setFill(Tint(Role::yellow, 0.08));
     auto* tipRow = hstack(tip, 10, QMargins(14, 14, 14, 14));
     tipRow->addWidget(new SymbolView(QStringLiteral("lightbulb.fill"), 14, Tint(Role::yellow)), 0, Qt::AlignVCenter);
-    auto* tipText = new Label(tr("New to this? Start with **%1**, then try **Claude Code**.").arg(developerToolsName),
-                              Theme::font(12), Tint(Role::secondary));
-    tipText->setObjectName(QStringLiteral("welcomeTipText"));
-    tipText->setTextFormat(Qt::MarkdownText);
-    tipText->setWrapping(true);
-    tipRow->addWidget(tipText, 1, Qt::AlignVCenter);
+    m_tip = new Label(QString(), Theme::font(12), Tint(Role::secondary));
+    m_tip->setObjectName(QStringLiteral("welcomeTipText"));
+    m_tip->setTextFormat(Qt::MarkdownText);
+    m_tip->setWrapping(true);
+    tipRow->addWidget(m_tip, 1, Qt::AlignVCenter);
     column->addWidget(tip);
+    setMachine(false, {});
+}
+
+void FirstTimeWelcomeCard::setMachine(bool hasDeveloperTools, const QList<CLITool>& installedTools)
+{
+    m_tip->setText(tipText(m_developerToolsName, hasDeveloperTools, installedTools));
+}
+
+QString FirstTimeWelcomeCard::tipText(const QString& developerToolsName, bool hasDeveloperTools,
+                                      const QList<CLITool>& installedTools)
+{
+    if (!installedTools.isEmpty())
+        return tr("**%1** is ready: press **Open** on its card to start it.").arg(installedTools.first().displayName());
+    if (hasDeveloperTools)
+        return tr("New to this? **%1** is already set up, so start with **Claude Code**.").arg(developerToolsName);
+    return tr("New to this? Start with **%1**, then try **Claude Code**.").arg(developerToolsName);
 }
 
 } // namespace qf

@@ -56,10 +56,11 @@ HomeView::HomeView(InstallationState& state, Services& services, QWidget* parent
     m_scroll->setObjectName(QStringLiteral("homeScroll"));
     m_scroll->setAccessibleName(tr("Your AI Coding Assistants"));
     vstack(backdrop, 0)->addWidget(m_scroll);
-    auto* column = vstack(m_scroll->content(), 32, QMargins(0, 0, 0, 32));
+    // The content keeps to a centred column; the backdrop spans the window.
+    auto* column = centredColumn(m_scroll->content(), this, 32, QMargins(0, 0, 0, 32));
 
     // Header: the logo and name, and what this screen is.
-    auto* header = vstack(8, QMargins(0, 20, 0, 0));
+    auto* header = vstack(8, QMargins(28, 20, 28, 0));
     auto* brand = hstack(10);
     // Where the system has no application menu, "About Quillforge" sits at the header's end;
     // a space as wide on the other side keeps the name centred.
@@ -204,6 +205,10 @@ void HomeView::render()
 {
     m_loadingRow->setVisible(m_isLoading);
     m_welcome->setVisible(!m_isLoading && m_isFirstTimeUser);
+    const bool hasDeveloperTools = std::any_of(
+        m_systemTools.cbegin(), m_systemTools.cend(),
+        [](const SystemTool& tool) { return tool.id == SystemToolID::developerTools && tool.isInstalled; });
+    m_welcome->setMachine(hasDeveloperTools, m_installedTools);
     for (SectionHeader* header : std::as_const(m_sectionHeaders))
         header->setVisible(!m_isLoading);
     for (AIToolCard* card : std::as_const(m_aiCards))

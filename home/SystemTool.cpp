@@ -20,7 +20,7 @@ QList<SystemTool> systemToolCatalogue(const Platform& platform)
 {
     const DeveloperToolsItem tools = platform.developerToolsItem();
     const QString optionalNote = trText("Only needed for Gemini or Codex");
-    return {
+    QList<SystemTool> items{
         SystemTool{
             .id = SystemToolID::developerTools,
             .key = tools.key,
@@ -30,7 +30,6 @@ QList<SystemTool> systemToolCatalogue(const Platform& platform)
             .uninstallCommand = tools.uninstallCommand,
             .uninstallNote = tools.uninstallNote,
             .uninstallShownAs = tools.uninstallShownAs,
-            .stepNumber = 1,
         },
         SystemTool{
             .id = SystemToolID::developerFolder,
@@ -40,9 +39,10 @@ QList<SystemTool> systemToolCatalogue(const Platform& platform)
             .description = trText("Where your projects live"),
             .isInstalled = developerFolderExists(),
             .uninstallNote = platform.wording().developerFolderNote,
-            .stepNumber = 2,
         },
-        SystemTool{
+    };
+    if (platform.setupIncludesHomebrew()) {
+        items << SystemTool{
             .id = SystemToolID::homebrew,
             .key = QStringLiteral("homebrew"),
             .name = QStringLiteral("Homebrew"),
@@ -50,21 +50,23 @@ QList<SystemTool> systemToolCatalogue(const Platform& platform)
             .description = optionalNote,
             .uninstallCommand = downloadThenRunLine(QLatin1String(web::homebrewUninstallScript),
                                                     QStringLiteral("/bin/bash")),
-            .stepNumber = 3,
             .isOptional = true,
-        },
-        SystemTool{
-            .id = SystemToolID::node,
-            .key = QStringLiteral("node"),
-            .name = QStringLiteral("Node.js"),
-            .icon = QStringLiteral("server.rack"),
-            .description = optionalNote,
-            // Known once the copy that commands find has been located.
-            .uninstallCommand = std::nullopt,
-            .stepNumber = 4,
-            .isOptional = true,
-        },
+        };
+    }
+    items << SystemTool{
+        .id = SystemToolID::node,
+        .key = QStringLiteral("node"),
+        .name = QStringLiteral("Node.js"),
+        .icon = QStringLiteral("server.rack"),
+        .description = optionalNote,
+        // Known once the copy that commands find has been located.
+        .uninstallCommand = std::nullopt,
+        .isOptional = true,
     };
+    // The steps are numbered as they are listed.
+    for (int i = 0; i < items.size(); ++i)
+        items[i].stepNumber = i + 1;
+    return items;
 }
 
 QCoro::Task<NodeCopy> nodeCopyAt(const QString& path, ShellRunner& shell)

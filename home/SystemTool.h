@@ -49,7 +49,9 @@ QCoro::Task<NodeCopy> nodeCopyAt(const QString& path, ShellRunner& shell);
 // The line that removes that copy; nothing for a copy Quillforge did not install.
 std::optional<QString> nodeRemovalCommand(NodeCopy copy);
 
-// The four items in dashboard order, with the projects folder's presence already known.
+// The items in dashboard order, numbered from 1, with the projects folder's presence already
+// known: the developer tools, the projects folder, Homebrew (where it belongs to the setup)
+// and Node.js.
 QList<SystemTool> systemToolCatalogue(const Platform& platform);
 
 // Fills in presence and version of one item, or of every item (all checked at the same time,

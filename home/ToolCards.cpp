@@ -92,6 +92,10 @@ ui::Button* DashboardCard::makeRemoveButton(const QString& itemName, std::functi
     remove->setContentTint(Tint(Role::secondary));
     remove->setAccessibleName(tr("Remove %1").arg(itemName));
     remove->setToolTip(remove->accessibleName());
+    // Its place is kept while it is hidden, so that nothing beside it moves as it comes and goes.
+    QSizePolicy policy = remove->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    remove->setSizePolicy(policy);
     remove->hide();
     connect(remove, &QAbstractButton::clicked, this, [onUninstall = std::move(onUninstall)] {
         if (onUninstall)
@@ -180,13 +184,15 @@ AIToolCard::AIToolCard(CLITool tool, std::function<void()> onOpen, std::function
                               std::move(onOpen));
     m_open->setObjectName(QStringLiteral("openButton"));
     m_open->setAccessibleName(tr("Open %1").arg(tool.displayName()));
-    buttons->addWidget(m_open, 0, Qt::AlignVCenter);
-    buttons->addWidget(makeRemoveButton(tool.displayName(), std::move(onUninstall)), 0, Qt::AlignVCenter);
+    ui::Button* remove = makeRemoveButton(tool.displayName(), std::move(onUninstall));
     m_install = new ActionButton(tr("Install"), QStringLiteral("arrow.down.circle"), Tint(Role::accent), false, false,
                                  std::move(onInstall));
     m_install->setObjectName(QStringLiteral("installButton"));
     m_install->setAccessibleName(tr("Install %1").arg(tool.displayName()));
+    // "Open" or "Install", then the remove button's place: the actions of every card line up.
+    buttons->addWidget(m_open, 0, Qt::AlignVCenter);
     buttons->addWidget(m_install, 0, Qt::AlignVCenter);
+    buttons->addWidget(remove, 0, Qt::AlignVCenter);
     row->addLayout(buttons);
 
     render();
@@ -219,7 +225,6 @@ void AIToolCard::renderHover(qreal progress)
         setStroke(Tint(brand, 0.25 + 0.25 * progress), 1.5);
     else
         setStroke(Tint(Role::clear), 0);
-    SurfaceEffect::of(this)->setScale(1.0 + 0.01 * progress);
     setChildShadow(m_logo, ShadowStyle{Tint(brand, 0.3), 4 + 4 * progress, {0, 2}}, Shape::rounded(10));
 }
 

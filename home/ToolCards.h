@@ -43,7 +43,8 @@ private:
 
 // What the cards of the dashboard share: the rounded surface, hover reported to the dashboard
 // (which decides which card counts as hovered and says so back with `setHovered`), and the
-// remove button that shows while the card is hovered or has keyboard focus, fading in and out.
+// remove button that shows while the card is hovered or has keyboard focus, fading in and out
+// in a place kept for it at the end of the card.
 class DashboardCard : public ui::RoundedCard {
     Q_OBJECT
 

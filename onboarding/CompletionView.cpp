@@ -149,7 +149,9 @@ CompletionView::CompletionView(InstallationState& state, Services& services, QWi
     bar->setShape(Shape::rounded(0));
     bar->setFill(Tint(Role::controlBackground));
     auto* barColumn = vstack(bar, 0);
-    auto* barRow = hstack(16, QMargins(24, 16, 24, 16));
+    // Its buttons keep to the content's column below.
+    auto* barHolder = new QWidget;
+    auto* barRow = centredRow(barHolder, this, 16, QMargins(24, 16, 24, 16));
     auto* home = new Button(tr("Home"), Button::Style::bordered, Button::Size::large);
     home->setObjectName(QStringLiteral("homeButton"));
     home->setLeadingSymbol(QStringLiteral("chevron.left"), 12, SymbolWeight::semibold);
@@ -172,14 +174,14 @@ CompletionView::CompletionView(InstallationState& state, Services& services, QWi
         connect(open, &QAbstractButton::clicked, m_launch, &ToolLaunch::open);
         barRow->addWidget(open);
     }
-    barColumn->addLayout(barRow);
+    barColumn->addWidget(barHolder);
     barColumn->addWidget(divider());
     root->addWidget(bar);
 
     m_scroll = new ScrollView;
     m_scroll->setObjectName(QStringLiteral("completionScroll"));
     m_scroll->setAccessibleName(accessibleName());
-    auto* column = vstack(m_scroll->content(), 24, QMargins(0, 0, 0, 24));
+    auto* column = centredColumn(m_scroll->content(), this, 24, QMargins(0, 0, 0, 24));
     if (tool) {
         // Shown when a terminal window could not be opened, where the button that tried is.
         m_fallback = new TerminalFallbackRow(m_launch->typedLine(), [this] { m_toast->present(); });

@@ -27,7 +27,8 @@ FlowScreen::FlowScreen(const QString& objectName, const QString& title, QWidget*
 
     auto* bar = new QWidget;
     bar->setObjectName(QStringLiteral("bottomBar"));
-    m_bar = hstack(bar, 8, QMargins(24, 16, 24, 16));
+    // The bar's buttons keep to the content's column, however wide the window.
+    m_bar = centredRow(bar, this, 8, QMargins(24, 16, 24, 16));
     root->addWidget(bar);
 
     // Return belongs to the main button, as in a dialog: Space still presses a focused one.
@@ -40,7 +41,7 @@ FlowScreen::FlowScreen(const QString& objectName, const QString& title, QWidget*
 
 QVBoxLayout* FlowScreen::makeColumn(int spacing, int topPadding)
 {
-    return ui::vstack(m_scroll->content(), spacing, QMargins(0, topPadding, 0, 0));
+    return ui::centredColumn(m_scroll->content(), this, spacing, QMargins(0, topPadding, 0, 0));
 }
 
 ui::Button* FlowScreen::addBackToHome(InstallationState& state)

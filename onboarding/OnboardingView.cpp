@@ -37,7 +37,7 @@ OnboardingView::OnboardingView(InstallationState& state, QWidget* parent) : QWid
 
     // Every animated element is a direct child of the scroll content, so that while it rises
     // into place it is never clipped by a smaller container; the stacks are plain layouts.
-    auto* stack = vstack(scroll->content(), 40, QMargins(0, 60, 0, 0));
+    auto* stack = centredColumn(scroll->content(), this, 40, QMargins(0, 60, 0, 0));
 
     // Header: logo and title block.
     auto* header = vstack(16);

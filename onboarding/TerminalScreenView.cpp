@@ -52,7 +52,7 @@ TerminalLaunchedView::TerminalLaunchedView(InstallationState& state, CLITool too
     auto* root = vstack(this, 0);
     m_scroll = new ScrollView;
     root->addWidget(m_scroll);
-    auto* column = vstack(m_scroll->content(), 12, QMargins(0, 24, 0, 24));
+    auto* column = centredColumn(m_scroll->content(), this, 12, QMargins(0, 24, 0, 24));
     column->addStretch(1);
 
     column->addWidget(new SymbolView(QStringLiteral("terminal.fill"), 48, Tint(tool.brandColor())), 0,

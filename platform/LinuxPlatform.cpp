@@ -10,8 +10,10 @@
 #include <QFileInfo>
 #include <QProcess>
 #include <QStandardPaths>
+#include <QStyle>
 #include <QSysInfo>
 #include <QUrl>
+#include <QWidget>
 
 namespace qf {
 
@@ -157,6 +159,19 @@ QStringList LinuxPlatform::globalNpmPrograms() const
 void LinuxPlatform::configureMainWindow(QWidget*)
 {
     // An ordinary decorated window: the window manager draws the title bar and corners.
+}
+
+WindowFrame LinuxPlatform::mainWindowFrame(const QWidget* window) const
+{
+    const int titleBar = window ? window->style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, window) : 0;
+    return windowFrame(reportedWindowFrame(window), titleBar);
+}
+
+WindowFrame LinuxPlatform::windowFrame(const QMargins& reported, int titleBarHeight)
+{
+    if (!reported.isNull())
+        return {reported, true};
+    return {QMargins(0, titleBarHeight, 0, 0), false};
 }
 
 OperatingSystemCheck LinuxPlatform::checkOperatingSystem() const

@@ -12,6 +12,7 @@
 #include <QProcess>
 #include <QSysInfo>
 #include <QTimer>
+#include <QWidget>
 
 #include <algorithm>
 
@@ -107,6 +108,14 @@ ApplicationLook MacPlatform::applicationLook() const
 }
 
 void MacPlatform::configureMainWindow(QWidget* window) { applyMacWindowStyle(window); }
+
+WindowFrame MacPlatform::mainWindowFrame(const QWidget* window) const
+{
+    if (window && window->testAttribute(Qt::WA_WState_Created) && window->windowHandle())
+        return {reportedWindowFrame(window), true};
+    // Not made yet: a standard title bar, 28 points tall.
+    return {QMargins(0, 28, 0, 0), false};
+}
 
 OperatingSystemCheck MacPlatform::checkOperatingSystem() const
 {

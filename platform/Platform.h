@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QMargins>
 #include <QString>
 #include <QStringList>
 #include <QUrl>
@@ -71,6 +72,16 @@ struct ApplicationLook {
     QStringList fontFamilies;
 };
 
+// The frame the window system draws around a window: its title bar and borders.
+struct WindowFrame {
+    QMargins margins;
+    // Whether the window system has said so; otherwise it is the frame this system's windows
+    // usually get, until the window has been framed.
+    bool reported = false;
+
+    friend bool operator==(const WindowFrame&, const WindowFrame&) = default;
+};
+
 // Free space on a volume, or why it could not be read.
 struct DiskSpace {
     std::optional<qint64> bytes;
@@ -102,6 +113,9 @@ public:
     // Shapes the main window once it is on screen: on macOS a hidden title bar with the
     // content reaching the top edge and rounded content; elsewhere an ordinary window.
     virtual void configureMainWindow(QWidget* window) = 0;
+    // The frame around the main window, which its first size leaves room for so that the
+    // whole window fits the usable area of the screen.
+    virtual WindowFrame mainWindowFrame(const QWidget* window) const = 0;
     // How a sheet of the main window is made: on macOS a real sheet, elsewhere a dialog
     // window in front of the main window. Either way it is window-modal.
     virtual Qt::WindowFlags sheetWindowFlags() const { return Qt::Dialog; }
@@ -148,6 +162,9 @@ public:
     virtual void openURL(const QUrl& url);
 
     virtual DeveloperToolsItem developerToolsItem() const = 0;
+    // Whether Homebrew belongs to this system's setup (it brings Node.js on macOS); where it
+    // does not, the dashboard does not list it.
+    virtual bool setupIncludesHomebrew() const = 0;
     // Starts the system's installer for the developer tools; errors are swallowed.
     virtual void startDeveloperToolsInstaller() = 0;
 
@@ -160,6 +177,10 @@ public:
     // nodejs.org publishes none for it.
     virtual std::optional<NodeReleaseTarget> nodeReleaseTarget() const = 0;
 };
+
+// The frame the window system reports for `window`: none until the window is on screen and
+// framed (none at all for a window without a frame).
+QMargins reportedWindowFrame(const QWidget* window);
 
 // The backend for the system this binary was built for.
 std::unique_ptr<Platform> createNativePlatform();

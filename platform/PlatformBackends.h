@@ -15,6 +15,8 @@ public:
     const SystemWording& wording() const override;
     ApplicationLook applicationLook() const override;
     void configureMainWindow(QWidget* window) override;
+    // As AppKit frames it: known as soon as the window exists.
+    WindowFrame mainWindowFrame(const QWidget* window) const override;
     Qt::WindowFlags sheetWindowFlags() const override { return Qt::Sheet; }
     bool hasApplicationMenu() const override { return true; }
     OperatingSystemCheck checkOperatingSystem() const override;
@@ -26,6 +28,7 @@ public:
     QString terminalDescription() const override;
     DeveloperToolsItem developerToolsItem() const override;
     void startDeveloperToolsInstaller() override;
+    bool setupIncludesHomebrew() const override { return true; }
     QStringList terminalShellInvocation(const QString& line) const override;
     QString loginShell() const override;
     bool terminalStartsLoginShell() const override;
@@ -67,6 +70,9 @@ public:
     const SystemWording& wording() const override;
     ApplicationLook applicationLook() const override;
     void configureMainWindow(QWidget* window) override;
+    // As the window manager reports it once it has framed the window; before that a title
+    // bar as tall as the style's.
+    WindowFrame mainWindowFrame(const QWidget* window) const override;
     OperatingSystemCheck checkOperatingSystem() const override;
     QStringList programDirectories() const override;
     QStringList globalNpmPrograms() const override;
@@ -74,6 +80,9 @@ public:
     QString terminalDescription() const override;
     DeveloperToolsItem developerToolsItem() const override;
     void startDeveloperToolsInstaller() override;
+    // Homebrew is no part of the setup here: Node.js comes from its release archive (unless a
+    // Homebrew the user installed is already there).
+    bool setupIncludesHomebrew() const override { return false; }
     QStringList terminalShellInvocation(const QString& line) const override;
     QString loginShell() const override;
     bool terminalStartsLoginShell() const override;
@@ -85,6 +94,9 @@ public:
 
     // The texts of a Linux system whose os-release says `osRelease`.
     static SystemWording wordingFor(const QMap<QString, QString>& osRelease);
+    // The frame the window manager `reported` (none until it has framed the window), or else
+    // a title bar `titleBarHeight` tall and nothing on the other sides.
+    static WindowFrame windowFrame(const QMargins& reported, int titleBarHeight);
     // Light or dark as asked for by QUILLFORGE_APPEARANCE ("light", "dark") or by a GTK theme
     // whose name says dark; nothing when neither says.
     static std::optional<bool> appearanceFrom(const QByteArray& requested, const QByteArray& gtkTheme);

@@ -34,6 +34,30 @@ QHBoxLayout* hstack(QWidget* owner, int spacing, QMargins padding)
     return layout;
 }
 
+QRect centredSpan(const QRect& room, int maximumWidth, qreal centre)
+{
+    if (room.width() <= maximumWidth)
+        return room;
+    const int left = std::clamp(qRound(centre - maximumWidth / 2.0), room.left(), room.right() + 1 - maximumWidth);
+    return {left, room.top(), maximumWidth, room.height()};
+}
+
+CentredColumn* centredColumn(QWidget* owner, QWidget* centredOn, int spacing, QMargins padding)
+{
+    auto* layout = new CentredColumn(owner, centredOn);
+    layout->setSpacing(spacing);
+    layout->setContentsMargins(padding);
+    return layout;
+}
+
+CentredRow* centredRow(QWidget* owner, QWidget* centredOn, int spacing, QMargins padding)
+{
+    auto* layout = new CentredRow(owner, centredOn);
+    layout->setSpacing(spacing);
+    layout->setContentsMargins(padding);
+    return layout;
+}
+
 QVBoxLayout* vstack(int spacing, QMargins padding) { return vstack(nullptr, spacing, padding); }
 QHBoxLayout* hstack(int spacing, QMargins padding) { return hstack(nullptr, spacing, padding); }
 

@@ -1,7 +1,10 @@
 #pragma once
 
 #include <QBoxLayout>
+#include <QPointer>
 #include <QScrollArea>
+
+#include <algorithm>
 
 class QScrollBar;
 
@@ -12,6 +15,55 @@ QVBoxLayout* vstack(QWidget* owner, int spacing, QMargins padding = {});
 QHBoxLayout* hstack(QWidget* owner, int spacing, QMargins padding = {});
 QVBoxLayout* vstack(int spacing, QMargins padding = {});
 QHBoxLayout* hstack(int spacing, QMargins padding = {});
+
+// The most a screen's content spans, padding included: on a wide window it stays a centred
+// column, so that a label and its button are never half a screen apart.
+inline constexpr int maximumContentWidth = 720;
+
+// Where a column at most `maximumWidth` wide goes in `room`: all of it when it is narrower,
+// otherwise centred on `centre` (a position in the room's coordinates) as far as it fits.
+QRect centredSpan(const QRect& room, int maximumWidth, qreal centre);
+
+// A stack (QVBoxLayout or QHBoxLayout) that spans at most `maximumWidth` points and is centred
+// in the room it is given; in less room it takes all of it, padding and all. With `centredOn`,
+// a widget that holds the layout's own, it is centred on that widget instead: a column inside
+// a scroll view then lines up with the one in a bar below it whether or not the scroll bar
+// takes room. Children are plain layout items, so nothing clips their shadows.
+template <typename Box>
+class Centred : public Box {
+public:
+    explicit Centred(QWidget* owner, QWidget* centredOn = nullptr, int maximumWidth = maximumContentWidth)
+        : Box(owner), m_centredOn(centredOn), m_maximumWidth(maximumWidth)
+    {
+    }
+
+    void setGeometry(const QRect& room) override { Box::setGeometry(centredSpan(room, m_maximumWidth, centre(room))); }
+    int heightForWidth(int width) const override { return Box::heightForWidth(std::min(width, m_maximumWidth)); }
+    int minimumHeightForWidth(int width) const override
+    {
+        return Box::minimumHeightForWidth(std::min(width, m_maximumWidth));
+    }
+
+private:
+    qreal centre(const QRect& room) const
+    {
+        const QWidget* owner = this->parentWidget();
+        if (!m_centredOn || !owner || (owner != m_centredOn && !m_centredOn->isAncestorOf(owner)))
+            return (room.left() + room.right() + 1) / 2.0;
+        const int origin = owner == m_centredOn ? 0 : owner->mapFrom(m_centredOn.data(), QPoint(0, 0)).x();
+        return origin + m_centredOn->width() / 2.0;
+    }
+
+    QPointer<QWidget> m_centredOn;
+    int m_maximumWidth;
+};
+
+using CentredColumn = Centred<QVBoxLayout>;
+using CentredRow = Centred<QHBoxLayout>;
+
+// A centred column or row of `spacing` with `padding`, laid into `owner`.
+CentredColumn* centredColumn(QWidget* owner, QWidget* centredOn, int spacing, QMargins padding = {});
+CentredRow* centredRow(QWidget* owner, QWidget* centredOn, int spacing, QMargins padding = {});
 
 // A one-point line in the separator colour, `padding` points of room above and below it.
 QWidget* divider(int padding = 0);

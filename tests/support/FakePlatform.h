@@ -20,6 +20,10 @@ public:
     const SystemWording& wording() const override { return words; }
     ApplicationLook applicationLook() const override { return look; }
     void configureMainWindow(QWidget*) override { ++windowsConfigured; }
+    WindowFrame mainWindowFrame(const QWidget* window) const override
+    {
+        return windowFrame.value_or(WindowFrame{reportedWindowFrame(window), true});
+    }
     OperatingSystemCheck checkOperatingSystem() const override { return osCheck; }
     DiskSpace availableDiskSpace(const QString& path) const override
     {
@@ -52,6 +56,7 @@ public:
     void openURL(const QUrl& url) override { openedURLs.append(url); }
     DeveloperToolsItem developerToolsItem() const override { return developerTools; }
     void startDeveloperToolsInstaller() override { ++installersStarted; }
+    bool setupIncludesHomebrew() const override { return homebrew; }
     QStringList terminalShellInvocation(const QString& line) const override
     {
         // As the real systems start them: csh and tcsh take "-l" only alone.
@@ -77,6 +82,9 @@ public:
     QStringList directories;
     QStringList npmPrograms;
     DeveloperToolsItem developerTools = MacPlatform::commandLineToolsItem();
+    bool homebrew = true;
+    // The frame around the main window; nothing: the one the window system reports.
+    std::optional<WindowFrame> windowFrame;
     std::optional<NodeReleaseTarget> releaseTarget = NodeReleaseTarget{QStringLiteral("linux-x64"),
                                                                        QStringLiteral("linux-x64")};
     // The shell a new terminal window would start.

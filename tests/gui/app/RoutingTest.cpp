@@ -8,6 +8,7 @@
 #include "TestSupport.h"
 
 #include <QGuiApplication>
+#include <QMoveEvent>
 #include <QPointer>
 #include <QScreen>
 
@@ -126,4 +127,45 @@ TEST_F(RoutingTest, WindowFillsTheUsableScreenAndKeepsItsMinimum)
     const QRect available = QGuiApplication::primaryScreen()->availableGeometry();
     EXPECT_EQ(window.frameGeometry(), available);
     EXPECT_EQ(platform.windowsConfigured, 1); // the platform shapes it once
+}
+
+TEST_F(RoutingTest, TheFirstWindowLeavesRoomForItsFrame)
+{
+    const QRect available = QGuiApplication::primaryScreen()->availableGeometry();
+    // (Larger than the frame of the test's own window system, which keeps frames on screen.)
+    const QMargins frame(3, 20, 3, 5);
+    {
+        // The system knows the frame: the window and its frame together cover the usable
+        // area, and the first screen is laid out at that size from the start.
+        platform.windowFrame = WindowFrame{frame, true};
+        InstallationState state;
+        MainWindow window(state, services);
+        EXPECT_EQ(window.size(), available.marginsRemoved(frame).size());
+        window.show();
+        test::settle();
+        EXPECT_EQ(window.geometry(), available.marginsRemoved(frame));
+    }
+
+    // The window manager has not framed the window yet: the platform's usual title bar is
+    // assumed, and once the real frame is known the window makes room for it.
+    const QMargins titleBar(2, 24, 2, 2);
+    platform.windowFrame = WindowFrame{titleBar, false};
+    InstallationState state;
+    MainWindow window(state, services);
+    window.show();
+    test::settle();
+    EXPECT_EQ(window.geometry(), available.marginsRemoved(titleBar));
+    const auto moved = [&window] {
+        QMoveEvent event(window.pos(), window.pos());
+        QCoreApplication::sendEvent(&window, &event);
+    };
+    moved(); // still not framed
+    EXPECT_EQ(window.geometry(), available.marginsRemoved(titleBar));
+    platform.windowFrame = WindowFrame{frame, true};
+    moved();
+    EXPECT_EQ(window.geometry(), available.marginsRemoved(frame));
+    // That happens once: later the window's size is the user's.
+    platform.windowFrame = WindowFrame{QMargins(4, 30, 4, 4), true};
+    moved();
+    EXPECT_EQ(window.geometry(), available.marginsRemoved(frame));
 }

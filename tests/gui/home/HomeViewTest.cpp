@@ -1,6 +1,7 @@
 #include "FirstTimeWelcomeCard.h"
 #include "HomeView.h"
 #include "InstallationState.h"
+#include "PlatformBackends.h"
 #include "TestMachine.h"
 #include "TestSupport.h"
 #include "ToolCards.h"
@@ -10,6 +11,7 @@
 #include <QDir>
 #include <QEnterEvent>
 #include <QFileInfo>
+#include <QLabel>
 #include <QTest>
 
 #include <memory>
@@ -175,6 +177,93 @@ TEST_F(HomeTest, RemoveButtonsShowWhileHoveredOrFocused)
     card(*view, "node")->setFocus(Qt::TabFocusReason);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     EXPECT_EQ(QApplication::focusWidget(), claude);
+}
+
+TEST_F(HomeTest, HoveringACardMovesNothingOnIt)
+{
+    sandbox.installFakes({"claude", "brew"});
+    auto view = showHome();
+    // Where each part of a card lies in the dashboard, and where its text is drawn there: the
+    // box around its dark pixels, as the dashboard paints it (with the cards' own effects).
+    struct Seen {
+        QRect place;
+        QRect ink;
+    };
+    const auto seen = [&view](const QWidget* part) {
+        const QRect place(part->mapTo(view.get(), QPoint(0, 0)), part->size());
+        const QImage image = view->grab(place).toImage();
+        QRect ink;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                if (qGray(image.pixel(x, y)) < 170)
+                    ink |= QRect(x, y, 1, 1);
+            }
+        }
+        return Seen{place, ink};
+    };
+    const auto check = [&](DashboardCard* card, const QStringList& names) {
+        QList<const QWidget*> parts;
+        for (const QString& name : names)
+            parts << test::child(card, name);
+        auto* remove = test::child<QWidget>(card, QStringLiteral("removeButton"));
+        test::settle();
+        QList<Seen> before;
+        for (const QWidget* part : std::as_const(parts))
+            before << seen(part);
+        const QRect removePlace = remove->geometry();
+
+        hover(card, true);
+        test::settle();
+        ASSERT_TRUE(remove->isVisible()) << card->objectName().toStdString();
+        EXPECT_EQ(remove->geometry(), removePlace); // it appears where its room was kept
+        for (int i = 0; i < parts.size(); ++i) {
+            const Seen after = seen(parts[i]);
+            EXPECT_EQ(after.place, before[i].place) << parts[i]->objectName().toStdString();
+            EXPECT_FALSE(after.ink.isEmpty()) << parts[i]->objectName().toStdString();
+            EXPECT_EQ(after.ink, before[i].ink) << parts[i]->objectName().toStdString();
+        }
+        hover(card, false);
+    };
+    check(card(*view, CLITool::claudeCode),
+          {QStringLiteral("openButton"), QStringLiteral("toolName"), QStringLiteral("toolDescription")});
+    check(card(*view, "homebrew"), {QStringLiteral("itemName"), QStringLiteral("itemDescription")});
+}
+
+TEST_F(HomeTest, WithoutHomebrewInTheSetupTheStepsAreNumberedWithoutIt)
+{
+    // As on Linux: Homebrew is not offered even when one is there.
+    platform.homebrew = false;
+    platform.developerTools = LinuxPlatform::gitToolsItem();
+    sandbox.installFakes({"brew", "git"});
+    auto view = showHome();
+    EXPECT_EQ(view->findChild<SystemToolCard*>(QStringLiteral("systemToolCard.homebrew")), nullptr);
+    QStringList steps;
+    for (const SystemToolCard* item : view->findChildren<SystemToolCard*>()) {
+        if (item->isVisible())
+            steps << item->tool().key + QLatin1Char(' ') +
+                         test::child<ui::IconTile>(item, QStringLiteral("stepNumber"))->text();
+    }
+    EXPECT_EQ(steps, (QStringList{QStringLiteral("git 1"), QStringLiteral("developer 2"), QStringLiteral("node 3")}));
+}
+
+TEST_F(HomeTest, TheWelcomeTipFollowsWhatIsInstalled)
+{
+    const QString tools = QStringLiteral("Xcode CLI Tools");
+    EXPECT_EQ(FirstTimeWelcomeCard::tipText(tools, false, {}),
+              QStringLiteral("New to this? Start with **Xcode CLI Tools**, then try **Claude Code**."));
+    EXPECT_EQ(FirstTimeWelcomeCard::tipText(tools, true, {}),
+              QStringLiteral("New to this? **Xcode CLI Tools** is already set up, so start with **Claude Code**."));
+    EXPECT_EQ(FirstTimeWelcomeCard::tipText(tools, false, {CLITool::geminiCLI, CLITool::codex}),
+              QStringLiteral("**Gemini CLI** is ready: press **Open** on its card to start it."));
+
+    // The dashboard tells the card what it found.
+    auto view = showHome();
+    const auto tip = [&view] { return test::child<QLabel>(view.get(), QStringLiteral("welcomeTipText"))->text(); };
+    EXPECT_EQ(tip(), FirstTimeWelcomeCard::tipText(tools, false, {}));
+    sandbox.installFakes({"xcode-select"});
+    view->loadData();
+    waitForLoad(*view);
+    EXPECT_EQ(tip(), FirstTimeWelcomeCard::tipText(tools, true, {}));
 }
 
 TEST_F(HomeTest, TheDashboardGoesAwayQuietlyWithTheFocusOnACardsButton)

@@ -1,9 +1,11 @@
 #include "CoroTest.h"
+#include "PlatformBackends.h"
 #include "SystemTool.h"
 #include "TestMachine.h"
 
 #include <QDir>
 #include <QFileInfo>
+#include <QPair>
 #include <QSet>
 
 using namespace qf;
@@ -71,6 +73,30 @@ TEST_F(SystemToolTest, TheCatalogue)
     EXPECT_FALSE(tools[1].isInstalled);
     sandbox.writeFile(QStringLiteral("Developer"), "a file");
     EXPECT_TRUE(catalogue()[1].isInstalled);
+}
+
+TEST_F(SystemToolTest, HomebrewIsListedOnlyWhereTheSetupUsesIt)
+{
+    const auto listed = [](const QList<SystemTool>& tools) {
+        QList<QPair<SystemToolID, int>> items;
+        for (const SystemTool& tool : tools)
+            items.append({tool.id, tool.stepNumber.value_or(0)});
+        return items;
+    };
+    const QList<QPair<SystemToolID, int>> withHomebrew{{SystemToolID::developerTools, 1},
+                                                       {SystemToolID::developerFolder, 2},
+                                                       {SystemToolID::homebrew, 3},
+                                                       {SystemToolID::node, 4}};
+    const QList<QPair<SystemToolID, int>> withoutHomebrew{
+        {SystemToolID::developerTools, 1}, {SystemToolID::developerFolder, 2}, {SystemToolID::node, 3}};
+
+    EXPECT_EQ(listed(catalogue()), withHomebrew);
+    platform.homebrew = false;
+    EXPECT_EQ(listed(catalogue()), withoutHomebrew);
+    // As the systems themselves say: a Mac's setup installs Node.js through Homebrew, a Linux one
+    // from the release archive.
+    EXPECT_EQ(listed(systemToolCatalogue(MacPlatform())), withHomebrew);
+    EXPECT_EQ(listed(systemToolCatalogue(LinuxPlatform())), withoutHomebrew);
 }
 
 TEST_F(SystemToolTest, NothingInstalled)

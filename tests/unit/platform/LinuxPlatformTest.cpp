@@ -7,9 +7,11 @@
 #include <QFileInfo>
 #include <QProcess>
 #include <QRegularExpression>
+#include <QStyle>
 #include <QSysInfo>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QWidget>
 
 #include <gtest/gtest.h>
 
@@ -576,6 +578,32 @@ TEST(LogFolders, TheFileManagerIsAskedToShowTheFile)
     };
     ASSERT_TRUE(QTest::qWaitFor([&] { return read().endsWith(q("string:\n")); }, 20000));
     EXPECT_EQ(read(), expected.mid(1).join(QLatin1Char('\n')) + QLatin1Char('\n'));
+}
+
+// --- The main window's frame ----------------------------------------------------------------
+
+TEST(WindowFrames, UntilTheWindowIsFramedEachSystemAssumesItsTitleBar)
+{
+    using qf::WindowFrame;
+    // Linux: what the window manager reports once it has framed the window; before that, a
+    // title bar as tall as the style's.
+    EXPECT_EQ(LinuxPlatform::windowFrame(QMargins(1, 20, 1, 5), 24), (WindowFrame{QMargins(1, 20, 1, 5), true}));
+    EXPECT_EQ(LinuxPlatform::windowFrame(QMargins(), 24), (WindowFrame{QMargins(0, 24, 0, 0), false}));
+    QWidget window;
+    const WindowFrame unframed = LinuxPlatform().mainWindowFrame(&window);
+    EXPECT_FALSE(unframed.reported);
+    EXPECT_EQ(unframed.margins.top(), window.style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, &window));
+    EXPECT_GE(unframed.margins.top(), 16);
+    // A Mac: a standard title bar until the window exists, then what AppKit says.
+    EXPECT_EQ(qf::MacPlatform().mainWindowFrame(&window), (WindowFrame{QMargins(0, 28, 0, 0), false}));
+
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    // The test's window system frames its windows as it shows them.
+    const WindowFrame shown{qf::reportedWindowFrame(&window), true};
+    ASSERT_FALSE(shown.margins.isNull());
+    EXPECT_EQ(qf::MacPlatform().mainWindowFrame(&window), shown);
+    EXPECT_EQ(LinuxPlatform().mainWindowFrame(&window), shown);
 }
 
 } // namespace
