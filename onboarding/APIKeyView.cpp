@@ -167,6 +167,9 @@ void APIKeyView::save()
         m_isSaving = false;
         if (saved) {
             m_state.setApiKey(key);
+            // Skipped meanwhile: the key is stored, and the user has gone on already.
+            if (m_state.currentStep() != InstallationStep::apiKey)
+                return;
             if (saved.value().isEmpty()) {
                 m_state.goToNextStep();
                 return;
@@ -209,7 +212,7 @@ void APIKeyView::render()
     m_save->setEnabled(hasField && !m_field->text().isEmpty() && !m_isSaving);
     m_save->setShowsActivity(m_isSaving);
     m_save->setAccessibleDescription(m_isSaving ? tr("Saving") : QString());
-    m_skip->setEnabled(!m_isSaving);
+    // "Skip for Now" stays available while a save runs: the save then only stores the key.
     m_skip->setVisible(!m_savedNotice);
 }
 

@@ -123,12 +123,15 @@ void AccountSetupView::buildContent(CLITool tool, Platform& platform, QVBoxLayou
     cardRow->addWidget(card);
     column->addLayout(cardRow);
 
+    // The pricing line sits centred under the steps.
     auto* pricing = hstack(8, QMargins(24, 0, 24, 0));
+    pricing->addStretch(1);
     pricing->addWidget(new SymbolView(QStringLiteral("creditcard"), 12, Tint(Role::secondary)), 0, Qt::AlignVCenter);
     auto* price = new Label(tool.pricingInfo(), Theme::caption(), Tint(Role::secondary));
     price->setObjectName(QStringLiteral("pricingInfo"));
     price->setWrapping(true);
-    pricing->addWidget(price, 1);
+    pricing->addWidget(price, 0);
+    pricing->addStretch(1);
     column->addLayout(pricing);
 }
 

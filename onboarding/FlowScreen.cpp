@@ -46,7 +46,9 @@ QVBoxLayout* FlowScreen::makeColumn(int spacing, int topPadding)
 
 ui::Button* FlowScreen::addBackToHome(InstallationState& state)
 {
-    ui::Button* back = flow::backButton(ui::Button::Style::bordered);
+    // A bordered "Back" alone: the chevron belongs to the screens that step back one screen.
+    auto* back = new ui::Button(tr("Back"), ui::Button::Style::bordered, ui::Button::Size::large);
+    back->setObjectName(QStringLiteral("backButton"));
     connect(back, &QAbstractButton::clicked, this, [&state] {
         state.reset();
         state.setCurrentStep(InstallationStep::home);

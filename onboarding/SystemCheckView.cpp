@@ -169,11 +169,10 @@ SystemCheckView::SystemCheckView(InstallationState& state, Services& services, Q
     // Checking.
     m_checking = new QWidget;
     m_checking->setObjectName(QStringLiteral("checkingRow"));
-    auto* checking = vstack(m_checking, 0);
+    // The spinner and its line, 16 apart, with room around both.
+    auto* checking = vstack(m_checking, 16, QMargins(32, 32, 32, 32));
     auto* spinner = new ActivityIndicator(24);
-    auto* spinnerBox = vstack(0, QMargins(32, 32, 32, 32));
-    spinnerBox->addWidget(spinner, 0, Qt::AlignHCenter);
-    checking->addLayout(spinnerBox);
+    checking->addWidget(spinner, 0, Qt::AlignHCenter);
     auto* checkingText = flow::centredText(tr("Checking system requirements..."), Theme::body(), Tint(Role::secondary));
     checking->addWidget(checkingText);
     column->addWidget(m_checking);

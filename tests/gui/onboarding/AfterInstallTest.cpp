@@ -19,6 +19,10 @@
 
 #include <algorithm>
 
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+
 using namespace qf;
 
 namespace {
@@ -354,6 +358,29 @@ TEST_F(AfterInstallTest, ASavedKeyLandsInTheProfileTheCaptionNames)
     EXPECT_EQ(state.currentStep(), InstallationStep::completion);
     EXPECT_EQ(profileText("/.tcshrc"),
               QStringLiteral("\n# Claude Code API Key\nsetenv ANTHROPIC_API_KEY \"") + kKey + QStringLiteral("\"\n"));
+}
+
+TEST_F(AfterInstallTest, SkippingWhileAKeyIsSavedGoesOnOnceAndKeepsTheKey)
+{
+    platform.terminalShell = QStringLiteral("/bin/zsh");
+    open(InstallationStep::apiKey, CLITool::codex);
+    typeKey(kKey);
+    // Another writer holds the profile's lock, so the save waits.
+    const int folder = ::open(QFile::encodeName(QDir::homePath()).constData(), O_RDONLY | O_DIRECTORY);
+    ASSERT_GE(folder, 0);
+    ASSERT_EQ(::flock(folder, LOCK_EX), 0);
+    click("saveButton");
+    ASSERT_TRUE(screenAs<APIKeyView>()->isSaving());
+    EXPECT_TRUE(button("skipButton")->isEnabled());
+    click("skipButton");
+    EXPECT_EQ(state.currentStep(), InstallationStep::completion);
+    ::close(folder);
+    // The save still ends, stores the key and does not move the flow a second time.
+    ASSERT_TRUE(QTest::qWaitFor([this] { return qgetenv("OPENAI_API_KEY") == kKey.toUtf8(); }, 10000));
+    test::settle();
+    EXPECT_EQ(state.currentStep(), InstallationStep::completion);
+    EXPECT_TRUE(profileText("/.zshrc").contains(kKey));
+    qunsetenv("OPENAI_API_KEY");
 }
 
 TEST_F(AfterInstallTest, AKeyTheProfileComputesIsFollowedAndTheScreenSaysSo)

@@ -171,6 +171,8 @@ TEST_F(InstallFlowTest, RequirementsDecideWhetherTheInstallationMayStart)
     QTest::keyClick(window.get(), Qt::Key_Return);
     QTest::qWait(200); // longer than a button's pressed look
     EXPECT_EQ(state.currentStep(), InstallationStep::systemCheck);
+    // "Back" to the dashboard is a plain bordered button, without the chevron of a step back.
+    EXPECT_EQ(button("backButton")->leadingSymbol(), QString());
     click("backButton");
     EXPECT_EQ(state.currentStep(), InstallationStep::home);
     EXPECT_TRUE(state.requirements().isEmpty());
