@@ -66,6 +66,7 @@ RemovalSheet::RemovalSheet(const QString& name, const LogBook& logs, std::functi
     auto* iconContent = vstack(m_icon, 0);
     m_spinner = new ActivityIndicator(22, Tint(Role::secondary));
     m_symbol = new SymbolView(QStringLiteral("trash"), 26, Tint(Role::red));
+    m_symbol->setObjectName(QStringLiteral("sheetSymbol"));
     iconContent->addWidget(m_spinner, 0, Qt::AlignCenter);
     iconContent->addWidget(m_symbol, 0, Qt::AlignCenter);
     header->addWidget(m_icon, 0, Qt::AlignHCenter);
@@ -212,7 +213,11 @@ void RemovalSheet::render()
 {
     const bool confirming = !m_isUninstalling && !m_uninstallComplete;
 
-    m_icon->setFill(m_uninstallComplete ? Tint(Role::green, 0.15) : Tint(Role::red, 0.12));
+    // Only a removal looks like one: a sheet with just a note is information.
+    const bool removal = hasCommand();
+    m_icon->setFill(m_uninstallComplete ? Tint(Role::green, 0.15)
+                    : removal           ? Tint(Role::red, 0.12)
+                                        : Tint(Role::blue, 0.12));
     m_spinner->setVisible(m_isUninstalling);
     m_symbol->setVisible(!m_isUninstalling);
     if (m_uninstallComplete) {
@@ -220,11 +225,16 @@ void RemovalSheet::render()
         m_symbol->setPointSize(28);
         m_symbol->setWeight(SymbolWeight::bold);
         m_symbol->setTint(Tint(Role::green));
-    } else {
+    } else if (removal) {
         m_symbol->setName(QStringLiteral("trash"));
         m_symbol->setPointSize(26);
         m_symbol->setWeight(SymbolWeight::regular);
         m_symbol->setTint(Tint(Role::red));
+    } else {
+        m_symbol->setName(QStringLiteral("info.circle"));
+        m_symbol->setPointSize(26);
+        m_symbol->setWeight(SymbolWeight::regular);
+        m_symbol->setTint(Tint(Role::blue));
     }
     m_title->setText(m_uninstallComplete ? tr("Uninstall Complete") : tr("Uninstall %1?").arg(m_name));
     m_description->setText(description());
@@ -244,7 +254,8 @@ void RemovalSheet::render()
     m_cancel->setVisible(!m_isUninstalling || canLeaveWhileRunning());
     m_uninstall->setVisible(hasCommand() && confirming);
     m_done->setVisible(m_uninstallComplete);
-    m_ok->setVisible(!hasCommand() && confirming);
+    // "OK" acknowledges a note; with nothing to say there is nothing to acknowledge.
+    m_ok->setVisible(!hasCommand() && confirming && !description().isEmpty());
 
     // The sheet keeps its size unless its content needs more room; nothing is ever cut off.
     layout()->activate();

@@ -3,6 +3,7 @@
 #include "Diagnosis.h"
 #include "LogFile.h"
 #include "LogView.h"
+#include "Symbol.h"
 #include "TestMachine.h"
 #include "TestSupport.h"
 #include "UninstallSheets.h"
@@ -213,8 +214,19 @@ TEST_F(SheetTest, AnItemWithOnlyANoteOffersOK)
     EXPECT_TRUE(offered(sheet, "okButton"));
     EXPECT_TRUE(offered(sheet, "cancelButton"));
     EXPECT_FALSE(offered(sheet, "uninstallButton"));
+    // Information, not a removal: no trash can in red.
+    EXPECT_EQ(test::child<ui::SymbolView>(sheet, QStringLiteral("sheetSymbol"))->name(), QStringLiteral("info.circle"));
     button(sheet, "okButton")->click();
     EXPECT_EQ(reloads, 0);
+
+    // With neither a command nor a note there is nothing to acknowledge: only "Cancel".
+    SystemTool silent = item(SystemToolID::homebrew);
+    silent.uninstallCommand.reset();
+    silent.uninstallNote.reset();
+    SystemToolUninstallSheet* empty = systemSheet(silent);
+    EXPECT_FALSE(offered(empty, "okButton"));
+    EXPECT_TRUE(offered(empty, "cancelButton"));
+    empty->close();
 }
 
 TEST_F(SheetTest, HomebrewIsUninstalledOnlyOnceItIsGone)
