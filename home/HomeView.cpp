@@ -1,5 +1,7 @@
 #include "HomeView.h"
 
+#include "TerminalFallback.h"
+
 #include "DashboardLoad.h"
 #include "FirstTimeWelcomeCard.h"
 #include "InstallationState.h"
@@ -110,13 +112,19 @@ HomeView::HomeView(InstallationState& state, Services& services, QWidget* parent
     welcomeRow->addWidget(m_welcome);
     lists->addLayout(welcomeRow);
 
+    // What to do instead when an item's action could not run.
+    m_fallbackRow = hstack(0, QMargins(28, 0, 28, 0));
+    lists->addLayout(m_fallbackRow);
+
     // One card per supporting item of the catalogue; a load fills in what it finds.
     auto* systemCards = vstack(8);
     for (const SystemTool& tool : systemToolCatalogue(services.platform)) {
         auto* card = new SystemToolCard(
             tool,
             [this](const SystemTool& item) {
-                handleSystemToolAction(item, m_services.platform, [this] { loadData(); });
+                handleSystemToolAction(
+                    item, m_services.platform, [this] { loadData(); },
+                    [this](const ActionFallback& fallback) { showActionFallback(fallback); });
             },
             [this](const SystemTool& item) {
                 m_systemToolToUninstall = item;
@@ -278,6 +286,14 @@ void HomeView::renderSheets()
                                                      reload, flags, window());
         present(m_systemSheet, m_systemToolToUninstall);
     }
+}
+
+void HomeView::showActionFallback(const ActionFallback& fallback)
+{
+    delete m_fallback;
+    m_fallback = new TerminalFallbackRow(fallback.title, fallback.hint, fallback.copyText, {});
+    m_fallbackRow->addWidget(m_fallback);
+    m_fallback->show();
 }
 
 } // namespace qf

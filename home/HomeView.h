@@ -57,6 +57,9 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    // Shows, above the items, what to do when an item's action could not run.
+    void showActionFallback(const ActionFallback& fallback);
+
     void render();
     void appear();
     void renderSheets();
@@ -85,6 +88,8 @@ private:
     QList<SectionHeader*> m_sectionHeaders;
     QPointer<RemovalSheet> m_aiSheet;
     QPointer<RemovalSheet> m_systemSheet;
+    QHBoxLayout* m_fallbackRow = nullptr;
+    QPointer<QWidget> m_fallback;
 };
 
 } // namespace qf

@@ -162,23 +162,38 @@ QCoro::Task<QList<SystemTool>> detectSystemTools(QList<SystemTool> tools, ShellR
     co_return detected;
 }
 
-void handleSystemToolAction(const SystemTool& tool, Platform& platform, const std::function<void()>& reload)
+void handleSystemToolAction(const SystemTool& tool, Platform& platform, const std::function<void()>& reload,
+                            const std::function<void(const ActionFallback&)>& fallback)
 {
+    const auto showFolder = [&platform, &fallback] {
+        const QString path = developerFolderPath();
+        if (!platform.revealFolder(path) && fallback) {
+            fallback({trText("The folder could not be shown"),
+                      trText("No file manager answered. Your projects folder is here:"), path});
+        }
+    };
     switch (tool.id) {
     case SystemToolID::developerFolder:
         if (tool.isInstalled) {
-            platform.revealFolder(developerFolderPath());
+            showFolder();
             return;
         }
         // A folder that cannot be created simply stays missing; the reload shows that.
         static_cast<void>(makeDeveloperFolder());
-        platform.revealFolder(developerFolderPath());
+        showFolder();
         if (reload)
             reload();
         return;
     case SystemToolID::developerTools:
-        if (!tool.isInstalled)
-            platform.startDeveloperToolsInstaller();
+        if (!tool.isInstalled) {
+            const DeveloperToolsItem item = platform.developerToolsItem();
+            platform.startDeveloperToolsInstaller([fallback, item](bool started) {
+                if (!started && fallback && !item.installLine.isEmpty()) {
+                    fallback({trText("The installer could not be started"),
+                              trText("Open a terminal yourself and type this line:"), item.installLine});
+                }
+            });
+        }
         return;
     case SystemToolID::homebrew:
     case SystemToolID::node: return; // they come with the setup, not from here

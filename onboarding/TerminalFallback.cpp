@@ -33,13 +33,19 @@ void ToolLaunch::open()
 QString ToolLaunch::typedLine() const { return TerminalLauncher::typedLine(m_command); }
 
 TerminalFallbackRow::TerminalFallbackRow(const QString& line, std::function<void()> onCopy, QWidget* parent)
+    : TerminalFallbackRow(tr("No terminal window could be opened"), tr("Open a terminal yourself and type this line:"),
+                          line, std::move(onCopy), parent)
+{
+}
+
+TerminalFallbackRow::TerminalFallbackRow(const QString& title, const QString& hintText, const QString& line,
+                                         std::function<void()> onCopy, QWidget* parent)
     : RoundedCard(parent)
 {
     setObjectName(QStringLiteral("terminalFallback"));
     setCornerRadius(10);
     setFill(Tint(Role::orange, 0.08));
     setStroke(Tint(Role::orange, 0.3), 1);
-    const QString title = tr("No terminal window could be opened");
     setAccessibleName(title);
     setAccessibleDescription(line);
 
@@ -48,7 +54,7 @@ TerminalFallbackRow::TerminalFallbackRow(const QString& line, std::function<void
                    Qt::AlignTop);
     auto* column = vstack(6);
     column->addWidget(new Label(title, Theme::font(12, QFont::DemiBold)));
-    auto* hint = new Label(tr("Open a terminal yourself and type this line:"), Theme::caption(), Tint(Role::secondary));
+    auto* hint = new Label(hintText, Theme::caption(), Tint(Role::secondary));
     hint->setWrapping(true);
     column->addWidget(hint);
 

@@ -43,6 +43,9 @@ class TerminalFallbackRow : public ui::RoundedCard {
 
 public:
     TerminalFallbackRow(const QString& line, std::function<void()> onCopy, QWidget* parent = nullptr);
+    // The same for any action that could not run: what happened, what to do, what to copy.
+    TerminalFallbackRow(const QString& title, const QString& hint, const QString& line, std::function<void()> onCopy,
+                        QWidget* parent = nullptr);
 };
 
 } // namespace qf

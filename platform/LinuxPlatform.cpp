@@ -368,7 +368,12 @@ QString LinuxPlatform::terminalDescription() const
     return QFileInfo(*emulator).fileName() + QStringLiteral(" (") + *emulator + QLatin1Char(')');
 }
 
-DeveloperToolsItem LinuxPlatform::developerToolsItem() const { return gitToolsItem(); }
+DeveloperToolsItem LinuxPlatform::developerToolsItem() const
+{
+    DeveloperToolsItem item = gitToolsItem();
+    item.installLine = packageInstallLine(m_osRelease);
+    return item;
+}
 
 DeveloperToolsItem LinuxPlatform::gitToolsItem()
 {
@@ -393,9 +398,9 @@ QString LinuxPlatform::administratorLine(const QString& command)
                           ">&2; exit 1; fi");
 }
 
-void LinuxPlatform::startDeveloperToolsInstaller()
+void LinuxPlatform::startDeveloperToolsInstaller(TerminalOutcome outcome)
 {
-    openTerminal(packageInstallLine(m_osRelease), QStringLiteral("~"), {});
+    openTerminal(packageInstallLine(m_osRelease), QStringLiteral("~"), std::move(outcome));
 }
 
 QStringList LinuxPlatform::terminalShellInvocation(const QString& line) const

@@ -197,6 +197,7 @@ DeveloperToolsItem MacPlatform::commandLineToolsItem()
         .uninstallCommand = administratorLine(QStringLiteral("rm -rf /Library/Developer/CommandLineTools")),
         .uninstallNote = std::nullopt,
         .uninstallShownAs = QStringLiteral("rm -rf /Library/Developer/CommandLineTools (as administrator)"),
+        .installLine = QStringLiteral("xcode-select --install"),
     };
 }
 
@@ -215,10 +216,12 @@ QString MacPlatform::administratorLine(const QString& command)
                .arg(kAdministratorDeclined);
 }
 
-void MacPlatform::startDeveloperToolsInstaller()
+void MacPlatform::startDeveloperToolsInstaller(TerminalOutcome outcome)
 {
-    // The system shows its own installer dialog; a launch failure is not reported.
-    QProcess::startDetached(kXcodeSelect, {QStringLiteral("--install")});
+    // The system shows its own installer dialog.
+    const bool started = QProcess::startDetached(kXcodeSelect, {QStringLiteral("--install")});
+    if (outcome)
+        outcome(started);
     QTimer::singleShot(kInstallerFrontDelayMs, QCoreApplication::instance(),
                        [] { runAppleScript(systemEventsScript(), false); });
 }

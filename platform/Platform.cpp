@@ -17,7 +17,7 @@ DiskSpace Platform::availableDiskSpace(const QString& path) const
     return {volume.bytesAvailable(), QString()};
 }
 
-void Platform::revealFolder(const QString& path) { QDesktopServices::openUrl(QUrl::fromLocalFile(path)); }
+bool Platform::revealFolder(const QString& path) { return QDesktopServices::openUrl(QUrl::fromLocalFile(path)); }
 
 void Platform::revealFile(const QString& path) { revealFolder(QFileInfo(path).absolutePath()); }
 

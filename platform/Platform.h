@@ -60,6 +60,8 @@ struct DeveloperToolsItem {
     std::optional<QString> uninstallNote;
     // How the removal's log names the command, when the line itself would only confuse.
     std::optional<QString> uninstallShownAs;
+    // The line a user can type to install them, when the installer cannot be started.
+    QString installLine;
 };
 
 // How the application looks on this system.
@@ -150,8 +152,8 @@ public:
     // ~/.bash_profile instead of ~/.bashrc).
     virtual bool terminalStartsLoginShell() const = 0;
 
-    // Shows a folder to the user in the file manager.
-    virtual void revealFolder(const QString& path);
+    // Shows a folder to the user in the file manager; false when none could be asked to.
+    virtual bool revealFolder(const QString& path);
     // Shows a file to the user in the file manager, selected where the file manager can do
     // that; otherwise its folder.
     virtual void revealFile(const QString& path);
@@ -166,7 +168,8 @@ public:
     // does not, the dashboard does not list it.
     virtual bool setupIncludesHomebrew() const = 0;
     // Starts the system's installer for the developer tools; errors are swallowed.
-    virtual void startDeveloperToolsInstaller() = 0;
+    // `outcome` (when given) learns whether the installer could be started.
+    virtual void startDeveloperToolsInstaller(TerminalOutcome outcome = {}) = 0;
 
     // A shell line that runs `command` with administrator rights, asking for them through the
     // system's own password dialog. When the user cancels the dialog the line ends with

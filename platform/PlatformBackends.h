@@ -27,7 +27,7 @@ public:
     void openTerminal(const QString& command, const QString& directory, TerminalOutcome outcome) override;
     QString terminalDescription() const override;
     DeveloperToolsItem developerToolsItem() const override;
-    void startDeveloperToolsInstaller() override;
+    void startDeveloperToolsInstaller(TerminalOutcome outcome) override;
     bool setupIncludesHomebrew() const override { return true; }
     QStringList terminalShellInvocation(const QString& line) const override;
     QString loginShell() const override;
@@ -79,7 +79,7 @@ public:
     void openTerminal(const QString& command, const QString& directory, TerminalOutcome outcome) override;
     QString terminalDescription() const override;
     DeveloperToolsItem developerToolsItem() const override;
-    void startDeveloperToolsInstaller() override;
+    void startDeveloperToolsInstaller(TerminalOutcome outcome) override;
     // Homebrew is no part of the setup here: Node.js comes from its release archive (unless a
     // Homebrew the user installed is already there).
     bool setupIncludesHomebrew() const override { return false; }

@@ -50,12 +50,21 @@ public:
     }
     QString terminalDescription() const override { return QStringLiteral("fake terminal"); }
     bool hasApplicationMenu() const override { return applicationMenu; }
-    void revealFolder(const QString& path) override { revealed.append(path); }
+    bool revealFolder(const QString& path) override
+    {
+        revealed.append(path);
+        return fileManagerAnswers;
+    }
     void revealFile(const QString& path) override { revealedFiles.append(path); }
     QString logFolder() const override { return logs; }
     void openURL(const QUrl& url) override { openedURLs.append(url); }
     DeveloperToolsItem developerToolsItem() const override { return developerTools; }
-    void startDeveloperToolsInstaller() override { ++installersStarted; }
+    void startDeveloperToolsInstaller(TerminalOutcome outcome) override
+    {
+        ++installersStarted;
+        if (outcome)
+            outcome(terminalOpens);
+    }
     bool setupIncludesHomebrew() const override { return homebrew; }
     QStringList terminalShellInvocation(const QString& line) const override
     {
@@ -100,6 +109,8 @@ public:
 
     int windowsConfigured = 0;
     int installersStarted = 0;
+    // Whether a file manager shows a folder when asked.
+    bool fileManagerAnswers = true;
     QList<QPair<QString, QString>> terminals;
     QList<QPair<TerminalOutcome, bool>> heldOutcomes;
     QStringList revealed;

@@ -325,6 +325,28 @@ TEST_F(HomeTest, CreatingTheProjectsFolderShowsItAndReloads)
     EXPECT_EQ(card(*view, "developer")->actionButton()->title(), QStringLiteral("Open"));
 }
 
+TEST_F(HomeTest, AnActionThatCannotRunSaysSoWithWhatToDoInstead)
+{
+    auto view = showHome();
+    EXPECT_EQ(view->findChild<QWidget*>(QStringLiteral("terminalFallback")), nullptr);
+    // No terminal for the developer tools' installer: the line to type, with a copy button.
+    platform.terminalOpens = false;
+    card(*view, "xcode")->actionButton()->click();
+    EXPECT_EQ(platform.installersStarted, 1);
+    ASSERT_TRUE(shows(test::child(view.get(), QStringLiteral("terminalFallback"))));
+    EXPECT_EQ(test::child<QLabel>(view.get(), QStringLiteral("terminalFallbackLine"))->text(),
+              QStringLiteral("xcode-select --install"));
+    EXPECT_NE(view->findChild<QAbstractButton*>(QStringLiteral("copyButton")), nullptr);
+
+    // No file manager for the projects folder: its path, replacing the notice before.
+    platform.fileManagerAnswers = false;
+    card(*view, "developer")->actionButton()->click();
+    test::settle();
+    EXPECT_EQ(view->findChildren<QWidget*>(QStringLiteral("terminalFallback")).size(), 1);
+    EXPECT_EQ(test::child<QLabel>(view.get(), QStringLiteral("terminalFallbackLine"))->text(),
+              sandbox.path(QStringLiteral("Developer")));
+}
+
 TEST_F(HomeTest, TheNewestLoadWins)
 {
     // The first load sees Claude Code and answers quickly; the second, started while the first
