@@ -5,6 +5,7 @@
 
 #include "ActivityIndicator.h"
 #include "Expander.h"
+#include "FocusOrder.h"
 #include "Label.h"
 #include "Layout.h"
 #include "Symbol.h"
@@ -43,7 +44,7 @@ QCoro::Task<SystemCheck> checkSystem(CLITool tool, ShellRunner& shell, SystemDet
 
 RequirementRow::RequirementRow(const RequirementStatus& status, const SystemWording& wording, const QString& note,
                                QWidget* parent)
-    : RoundedCard(parent)
+    : RoundedCard(parent), m_isMet(status.isMet)
 {
     const QString title = status.requirement.title(wording);
     setObjectName(QStringLiteral("requirementRow.") + status.id());
@@ -213,6 +214,7 @@ void SystemCheckView::startCheck()
         }
         m_isChecking = false;
         render();
+        focusMainControl();
         Q_EMIT checkFinished();
     });
 }
@@ -228,6 +230,20 @@ void SystemCheckView::rebuildRequirementRows()
                                                                                      : QString();
         m_requirementList->layout()->addWidget(new RequirementRow(status, wording, note));
     }
+    // The rows come after the bottom bar was made; Tab still reads them first.
+    orderTabChain(this);
+}
+
+QWidget* SystemCheckView::mainControl() const
+{
+    if (m_main->isEnabled() || m_isChecking)
+        return m_main;
+    const QList<RequirementRow*> rows = requirementRows();
+    for (RequirementRow* row : rows) {
+        if (!row->isMet())
+            return row->helpButton();
+    }
+    return rows.isEmpty() ? nullptr : rows.first()->helpButton();
 }
 
 void SystemCheckView::render()

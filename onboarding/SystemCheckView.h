@@ -27,12 +27,14 @@ public:
                    QWidget* parent = nullptr);
 
     bool showsHelp() const { return m_showHelp; }
+    bool isMet() const { return m_isMet; }
     ui::Button* helpButton() const { return m_help; }
 
 private:
     void render(bool animated);
 
     bool m_showHelp = false;
+    bool m_isMet;
     ui::Button* m_help;
     ui::Expander* m_helpArea;
 };
@@ -57,6 +59,9 @@ Q_SIGNALS:
 
 protected:
     void appeared() override { startCheck(); }
+    // The main button once the check allows it; when requirements are not met, the help of the
+    // first one that is not.
+    QWidget* mainControl() const override;
 
 private:
     void startCheck();
