@@ -6,6 +6,7 @@
 #include "SharedComponents.h"
 
 #include "Button.h"
+#include "FocusRing.h"
 #include "ImageView.h"
 #include "Label.h"
 #include "Layout.h"
@@ -25,6 +26,7 @@ AboutDialog::AboutDialog(Platform& platform, QWidget* parent)
     setWindowModality(Qt::WindowModal);
     setWindowTitle(tr("About Quillforge"));
     setFixedWidth(380);
+    ui::FocusRing::attach(this);
 
     auto* column = vstack(this, 6, QMargins(32, 28, 32, 24));
     auto* logo = new ImageView(QStringLiteral("QuillforgeLogo"), 72);

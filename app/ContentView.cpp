@@ -1,5 +1,6 @@
 #include "ContentView.h"
 
+#include "FocusOrder.h"
 #include "InstallationState.h"
 #include "Motion.h"
 
@@ -69,6 +70,8 @@ void ContentView::showStep(InstallationStep step)
     m_screen = m_factory(step, m_state);
     m_screen->setParent(this);
     m_screen->setGeometry(rect());
+    // Tab reads the new screen as it is laid out: top to bottom, its bottom bar last.
+    ui::orderTabChain(m_screen);
     m_screen->show();
 
     if (previous.isNull())

@@ -1,6 +1,7 @@
 #include "MainWindow.h"
 
 #include "AboutDialog.h"
+#include "FocusRing.h"
 #include "HomeView.h"
 #include "InstallationState.h"
 #include "Services.h"
@@ -25,6 +26,7 @@ MainWindow::MainWindow(InstallationState& state, Services& services, ScreenFacto
     setMinimumSize(minimumWidth, minimumHeight);
     setAutoFillBackground(true);
     setBackgroundRole(QPalette::Window);
+    ui::FocusRing::attach(this);
 
     // Start at the size the window will open with, so the first screen is laid out once.
     if (QScreen* screen = QGuiApplication::primaryScreen()) {

@@ -12,6 +12,7 @@
 
 #include "ActivityIndicator.h"
 #include "Button.h"
+#include "FocusOrder.h"
 #include "ImageView.h"
 #include "Label.h"
 #include "Layout.h"
@@ -22,6 +23,7 @@
 #include <QCoro/QCoroTask>
 
 #include <algorithm>
+#include <utility>
 
 namespace qf {
 
@@ -165,6 +167,8 @@ void HomeView::showEvent(QShowEvent* event)
         return;
     m_appeared = true;
     loadData();
+    // The dashboard holds the focus until its first action shows.
+    focusUnlessTaken(this, mainControl());
 }
 
 void HomeView::loadData()
@@ -182,6 +186,9 @@ void HomeView::loadData()
                        m_isLoading = false;
                        render();
                        appear();
+                       if (std::exchange(m_returnFocusAfterLoad, false))
+                           returnFocus();
+                       focusUnlessTaken(this, mainControl());
                        Q_EMIT loadFinished();
                    });
 }
@@ -258,15 +265,54 @@ void HomeView::installTool(CLITool tool)
     m_state.setCurrentStep(InstallationStep::accountSetup);
 }
 
+void HomeView::returnFocus()
+{
+    const auto canTake = [](const QWidget* control) {
+        return control && control->isVisible() && control->isEnabled() && (control->focusPolicy() & Qt::TabFocus);
+    };
+    QWidget* target = m_sheetOpener;
+    if (!canTake(target) && m_sheetCard) {
+        target = nullptr;
+        for (QWidget* control : controlsInReadingOrder(m_sheetCard)) {
+            if (canTake(control)) {
+                target = control;
+                break;
+            }
+        }
+    }
+    if (canTake(target))
+        target->setFocus(Qt::OtherFocusReason);
+}
+
+QWidget* HomeView::mainControl() const
+{
+    if (m_isLoading)
+        return nullptr;
+    for (QWidget* control : controlsInReadingOrder(m_scroll->content())) {
+        if (qobject_cast<ActionButton*>(control) && control->isVisible() && control->isEnabled())
+            return control;
+    }
+    return nullptr;
+}
+
 RemovalSheet* HomeView::sheet() const { return m_aiSheet ? m_aiSheet.data() : m_systemSheet.data(); }
 
 void HomeView::renderSheets()
 {
     // A sheet shows while its field holds an item; closing it, by any means, clears the field.
     const auto present = [this](RemovalSheet* sheet, auto& field) {
-        connect(sheet, &QDialog::finished, this, [sheet, &field] {
+        m_sheetOpener = window()->focusWidget();
+        m_sheetCard = nullptr;
+        for (QWidget* up = m_sheetOpener; up && !m_sheetCard; up = up->parentWidget())
+            m_sheetCard = qobject_cast<DashboardCard*>(up);
+        connect(sheet, &QDialog::finished, this, [this, sheet, &field] {
             field.reset();
             sheet->deleteLater();
+            // "Done" has started a reload, which hides the cards for a moment.
+            if (m_isLoading)
+                m_returnFocusAfterLoad = true;
+            else
+                returnFocus();
         });
         sheet->open();
     };

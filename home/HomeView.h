@@ -13,6 +13,7 @@
 namespace qf {
 
 class AIToolCard;
+class DashboardCard;
 class FirstTimeWelcomeCard;
 class InstallationState;
 class RemovalSheet;
@@ -66,6 +67,12 @@ private:
     void hoverChanged(const QString& key, bool inside);
     void openTool(CLITool tool);
     void installTool(CLITool tool);
+    // The focus goes back to what opened a sheet once it closed (after the reload "Done" asks
+    // for): to that control, or to its card's first control when the removal took it away.
+    void returnFocus();
+
+    // The first thing a visit offers: the first action of the lists.
+    QWidget* mainControl() const;
 
     InstallationState& m_state;
     Services& m_services;
@@ -90,6 +97,9 @@ private:
     QPointer<RemovalSheet> m_systemSheet;
     QHBoxLayout* m_fallbackRow = nullptr;
     QPointer<QWidget> m_fallback;
+    QPointer<QWidget> m_sheetOpener;
+    QPointer<DashboardCard> m_sheetCard;
+    bool m_returnFocusAfterLoad = false;
 };
 
 } // namespace qf

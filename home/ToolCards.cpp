@@ -54,14 +54,11 @@ DashboardCard::DashboardCard(QWidget* parent)
     : RoundedCard(parent),
       m_hover(this, kHoverMs, motion::easeInOut(), [this](qreal progress) { renderHover(progress); }),
       m_removeOpacity(this, kHoverMs, motion::easeInOut(), [this](qreal opacity) {
-          if (!m_remove)
-              return;
-          m_remove->setOpacity(opacity);
-          if (opacity <= 0.0 && m_removeOpacity.target() <= 0.0)
-              m_remove->hide();
+          if (m_remove)
+              m_remove->setOpacity(opacity);
       })
 {
-    setFocusPolicy(Qt::TabFocus);
+    // The card is no stop of its own: Tab goes to its buttons.
     setAttribute(Qt::WA_Hover);
     m_focusWatch = connect(qApp, &QApplication::focusChanged, this, [this] { focusMoved(); });
 }
@@ -82,7 +79,7 @@ void DashboardCard::setHovered(bool hovered)
     renderRemoveButton();
 }
 
-ui::Button* DashboardCard::removeButton() const { return m_remove && m_remove->isVisible() ? m_remove : nullptr; }
+ui::Button* DashboardCard::removeButton() const { return m_remove && m_removeShown ? m_remove : nullptr; }
 
 ui::Button* DashboardCard::makeRemoveButton(const QString& itemName, std::function<void()> onUninstall)
 {
@@ -109,11 +106,16 @@ void DashboardCard::renderRemoveButton()
 {
     if (!m_remove)
         return;
-    const bool show = canRemove() && (m_hovered || m_focusWithin);
-    if (show && !m_remove->isVisible()) {
+    // Wherever removal is offered the button is there for the keyboard and screen readers; it
+    // shows (fades in) while the card is hovered or the focus is on it or beside it.
+    const bool offered = canRemove();
+    const bool show = offered && (m_hovered || m_focusWithin);
+    if (offered && !m_remove->isVisible()) {
         m_remove->setOpacity(0.0);
-        m_remove->show();
+        m_removeOpacity.setTarget(0.0, false);
     }
+    m_remove->setVisible(offered);
+    m_removeShown = show;
     m_removeOpacity.setTarget(show ? 1.0 : 0.0);
 }
 

@@ -43,8 +43,9 @@ private:
 
 // What the cards of the dashboard share: the rounded surface, hover reported to the dashboard
 // (which decides which card counts as hovered and says so back with `setHovered`), and the
-// remove button that shows while the card is hovered or has keyboard focus, fading in and out
-// in a place kept for it at the end of the card.
+// remove button that shows while the card is hovered or the focus is within it, fading in and
+// out. The card itself takes no focus; its buttons do, the remove button included whenever the
+// card offers removal (unseen until the focus reaches it), so Tab and screen readers find it.
 class DashboardCard : public ui::RoundedCard {
     Q_OBJECT
 
@@ -57,7 +58,7 @@ public:
     bool isHovered() const { return m_hovered; }
     void setHovered(bool hovered);
     bool hasFocusWithin() const { return m_focusWithin; }
-    // The remove button, when the card offers one now (null otherwise).
+    // The remove button, when the card shows one now (null otherwise).
     ui::Button* removeButton() const;
 
 protected:
@@ -81,6 +82,7 @@ private:
 
     bool m_hovered = false;
     bool m_focusWithin = false;
+    bool m_removeShown = false;
     QMetaObject::Connection m_focusWatch;
     ui::Button* m_remove = nullptr;
     ui::motion::Transition m_hover;

@@ -7,6 +7,8 @@
 
 #include "ActivityIndicator.h"
 #include "Button.h"
+#include "FocusOrder.h"
+#include "FocusRing.h"
 #include "Label.h"
 #include "Layout.h"
 #include "LogView.h"
@@ -54,6 +56,7 @@ RemovalSheet::RemovalSheet(const QString& name, const LogBook& logs, std::functi
 {
     setWindowModality(Qt::WindowModal);
     setWindowTitle(tr("Uninstall %1").arg(name));
+    FocusRing::attach(this);
     setFixedSize(kSheetWidth, height);
 
     auto* column = vstack(this, 24, QMargins(0, 24, 0, 24));
@@ -131,9 +134,19 @@ RemovalSheet::RemovalSheet(const QString& name, const LogBook& logs, std::functi
     buttons->addStretch(1);
     column->addLayout(buttons);
     column->addStretch(1);
+    orderTabChain(this);
 }
 
 QString RemovalSheet::output() const { return m_log->text(); }
+
+ui::Button* RemovalSheet::mainButton() const
+{
+    for (Button* button : {m_done, m_uninstall, m_ok, m_cancel}) {
+        if (button->isVisibleTo(this))
+            return button;
+    }
+    return nullptr;
+}
 
 void RemovalSheet::setDetailsShown(bool shown)
 {
@@ -212,6 +225,11 @@ void RemovalSheet::finish(const std::optional<QString>& error)
 void RemovalSheet::render()
 {
     const bool confirming = !m_isUninstalling && !m_uninstallComplete;
+    // The focus moves on with the main button of each state, unless it is on the log or its
+    // "Details".
+    const QWidget* focused = focusWidget();
+    const bool focusOnMain = !focused || focused == m_uninstall || focused == m_done || focused == m_ok ||
+                             focused == m_cancel;
 
     // Only a removal looks like one: a sheet with just a note is information.
     const bool removal = hasCommand();
@@ -256,6 +274,8 @@ void RemovalSheet::render()
     m_done->setVisible(m_uninstallComplete);
     // "OK" acknowledges a note; with nothing to say there is nothing to acknowledge.
     m_ok->setVisible(!hasCommand() && confirming && !description().isEmpty());
+    if (Button* main = mainButton(); main && (focusOnMain || !focusWidget() || !focusWidget()->isVisibleTo(this)))
+        main->setFocus(Qt::OtherFocusReason);
 
     // The sheet keeps its size unless its content needs more room; nothing is ever cut off.
     layout()->activate();

@@ -42,6 +42,10 @@ public:
     bool uninstallComplete() const { return m_uninstallComplete; }
     const std::optional<QString>& errorMessage() const { return m_errorMessage; }
     QString output() const;
+    // The button of the state the sheet is in, which has the focus as the state begins:
+    // "Uninstall" (or "OK", or "Uninstall" again after a failure), "Done" once complete,
+    // "Cancel" while a removal that may be left runs.
+    ui::Button* mainButton() const;
 
     void reject() override;
 

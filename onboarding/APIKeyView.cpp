@@ -145,10 +145,11 @@ void APIKeyView::buildContent(CLITool tool, Platform& platform, const QString& p
     column->addLayout(cards);
 }
 
-void APIKeyView::appeared()
+QWidget* APIKeyView::mainControl() const
 {
     if (m_field)
-        m_field->setFocus(Qt::OtherFocusReason);
+        return m_field;
+    return defaultButton();
 }
 
 void APIKeyView::save()

@@ -33,8 +33,8 @@ public:
     ui::TextField* keyField() const { return m_field; }
 
 protected:
-    // The field is ready for the paste.
-    void appeared() override;
+    // The key field, where a visit starts: ready for the paste.
+    QWidget* mainControl() const override;
 
 private:
     void buildContent(CLITool tool, Platform& platform, const QString& profile, QVBoxLayout* column);

@@ -5,6 +5,7 @@
 #include "Services.h"
 #include "TerminalFallback.h"
 
+#include "FocusOrder.h"
 #include "Label.h"
 #include "Layout.h"
 #include "Surface.h"
@@ -12,6 +13,8 @@
 
 #include <QPainter>
 #include <QScrollBar>
+
+#include <utility>
 
 namespace qf {
 
@@ -163,6 +166,7 @@ CompletionView::CompletionView(InstallationState& state, Services& services, QWi
     });
     barRow->addWidget(home);
     barRow->addStretch(1);
+    m_main = home;
     if (tool) {
         m_launch = new ToolLaunch(services.terminal, tool->commandName(), this);
         auto* open = new Button(tr("Open in Terminal"), Button::Style::prominent, Button::Size::large);
@@ -173,6 +177,7 @@ CompletionView::CompletionView(InstallationState& state, Services& services, QWi
         open->setMinimumLabelWidth(160);
         connect(open, &QAbstractButton::clicked, m_launch, &ToolLaunch::open);
         barRow->addWidget(open);
+        m_main = open;
     }
     barColumn->addWidget(barHolder);
     barColumn->addWidget(divider());
@@ -271,6 +276,13 @@ void CompletionView::render()
 {
     if (m_fallback)
         m_fallback->setVisible(m_launch->failed());
+}
+
+void CompletionView::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    if (!std::exchange(m_appeared, true))
+        focusUnlessTaken(this, m_main);
 }
 
 void CompletionView::paintEvent(QPaintEvent*) { QPainter(this).fillRect(rect(), Theme::color(Role::windowBackground)); }

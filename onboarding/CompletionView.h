@@ -86,6 +86,7 @@ public:
     ToolLaunch* launch() const { return m_launch; }
 
 protected:
+    void showEvent(QShowEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
@@ -93,6 +94,9 @@ private:
     void render();
 
     InstallationState& m_state;
+    // Where a visit starts: "Open in Terminal", or "Home" without a tool.
+    QWidget* m_main = nullptr;
+    bool m_appeared = false;
     ToolLaunch* m_launch = nullptr;
     ui::ScrollView* m_scroll = nullptr;
     TerminalFallbackRow* m_fallback = nullptr;

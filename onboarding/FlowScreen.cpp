@@ -1,5 +1,6 @@
 #include "FlowScreen.h"
 
+#include "FocusOrder.h"
 #include "ImageView.h"
 #include "InstallationState.h"
 #include "Label.h"
@@ -70,8 +71,11 @@ void FlowScreen::showEvent(QShowEvent* event)
     if (!m_appeared) {
         m_appeared = true;
         appeared();
+        focusMainControl();
     }
 }
+
+void FlowScreen::focusMainControl() { ui::focusUnlessTaken(this, mainControl()); }
 
 void FlowScreen::paintEvent(QPaintEvent*)
 {

@@ -22,7 +22,9 @@ class ScrollView;
 
 // The frame the screens of the install flow share: on the window background, content that
 // scrolls above a bottom bar that stays where it is, however small the window. Return presses
-// the screen's main button while it is shown and enabled, wherever the focus is.
+// the screen's main button while it is shown and enabled, wherever the focus is. The screen
+// starts with the focus on its main control, and gives it the focus as soon as it can take it
+// while no other control of the screen has it.
 class FlowScreen : public QWidget {
     Q_OBJECT
 
@@ -46,6 +48,11 @@ protected:
     ui::Button* addBackToHome(InstallationState& state);
     // Called once, when the screen is first shown: where a screen starts its work.
     virtual void appeared() {}
+    // The control a visit starts on: the main button by default.
+    virtual QWidget* mainControl() const { return m_default; }
+    // Gives the main control the focus, unless another control of the screen has it. Screens
+    // call it when their main control may have become available.
+    void focusMainControl();
 
     void showEvent(QShowEvent* event) override;
     void paintEvent(QPaintEvent* event) override;

@@ -300,6 +300,7 @@ void InstallationView::render()
     m_showLogFile->setVisible(error.has_value() && !installing && !logFilePath().isEmpty());
     m_main->setVisible(complete || error.has_value());
     m_main->setTitle(complete ? tr("Continue") : tr("Try Again"));
+    focusMainControl();
 }
 
 void InstallationView::syncLog()

@@ -5,6 +5,7 @@
 #include "Preferences.h"
 
 #include "Button.h"
+#include "FocusOrder.h"
 #include "ImageView.h"
 #include "Label.h"
 #include "Layout.h"
@@ -99,6 +100,7 @@ OnboardingView::OnboardingView(InstallationState& state, QWidget* parent) : QWid
     button->setLabelWidth(160);
     buttonLayout->addWidget(button, 0, Qt::AlignHCenter);
     connect(button, &Button::clicked, this, &OnboardingView::getStarted);
+    m_getStarted = button;
     stack->addWidget(m_buttonRow);
     stack->addStretch(1);
 
@@ -121,6 +123,8 @@ void OnboardingView::showEvent(QShowEvent* event)
     if (m_animateIn)
         return;
     m_animateIn = true;
+    // Return and Space press "Get Started" from the first moment.
+    ui::focusUnlessTaken(this, m_getStarted);
     m_entrance = ui::motion::animate(
         this, entranceDurationMs, ui::motion::easeOut(), [this](qreal progress) { render(progress); }, entranceDelayMs);
 }

@@ -43,6 +43,7 @@ private:
     QWidget* m_titleBlock = nullptr;
     QList<QWidget*> m_rows;
     QWidget* m_buttonRow = nullptr;
+    ui::Button* m_getStarted = nullptr;
 };
 
 } // namespace qf

@@ -5,6 +5,7 @@
 
 #include "ActivityIndicator.h"
 #include "Expander.h"
+#include "FocusOrder.h"
 #include "Label.h"
 #include "Layout.h"
 #include "Symbol.h"
@@ -59,7 +60,7 @@ QString RequirementRow::statusWord(const RequirementStatus& status)
 
 RequirementRow::RequirementRow(const RequirementStatus& status, const SystemWording& wording, const QString& note,
                                std::function<void()> fix, QWidget* parent)
-    : RoundedCard(parent)
+    : RoundedCard(parent), m_isMet(status.isMet)
 {
     const QString title = status.requirement.title(wording);
     setObjectName(QStringLiteral("requirementRow.") + status.id());
@@ -257,6 +258,7 @@ void SystemCheckView::startCheck()
         }
         m_isChecking = false;
         render();
+        focusMainControl();
         Q_EMIT checkFinished();
     });
 }
@@ -276,6 +278,20 @@ void SystemCheckView::rebuildRequirementRows()
             fix = [this] { m_services.platform.startDeveloperToolsInstaller(); };
         m_requirementList->layout()->addWidget(new RequirementRow(status, wording, note, std::move(fix)));
     }
+    // The rows come after the bottom bar was made; Tab still reads them first.
+    orderTabChain(this);
+}
+
+QWidget* SystemCheckView::mainControl() const
+{
+    if (m_main->isEnabled() || m_isChecking)
+        return m_main;
+    const QList<RequirementRow*> rows = requirementRows();
+    for (RequirementRow* row : rows) {
+        if (!row->isMet())
+            return row->helpButton();
+    }
+    return rows.isEmpty() ? nullptr : rows.first()->helpButton();
 }
 
 void SystemCheckView::render()

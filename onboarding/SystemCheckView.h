@@ -34,12 +34,14 @@ public:
     static QString statusWord(const RequirementStatus& status);
 
     bool showsHelp() const { return m_showHelp; }
+    bool isMet() const { return m_isMet; }
     ui::Button* helpButton() const { return m_help; }
 
 private:
     void render(bool animated);
 
     bool m_showHelp = false;
+    bool m_isMet;
     ui::Button* m_help;
     ui::Expander* m_helpArea;
 };
@@ -64,6 +66,9 @@ Q_SIGNALS:
 
 protected:
     void appeared() override { startCheck(); }
+    // The main button once the check allows it; when requirements are not met, the help of the
+    // first one that is not.
+    QWidget* mainControl() const override;
 
 private:
     void startCheck();

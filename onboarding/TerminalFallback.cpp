@@ -68,8 +68,9 @@ TerminalFallbackRow::TerminalFallbackRow(const QString& title, const QString& hi
     hstack(code, 0, QMargins(8, 4, 8, 4))->addWidget(text);
     code->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
     codeRow->addWidget(code, 1);
-    codeRow->addWidget(new CopyButton(line, CopyButton::CopyButtonStyle::regular, std::move(onCopy)), 0,
-                       Qt::AlignVCenter);
+    auto* copy = new CopyButton(line, CopyButton::CopyButtonStyle::regular, std::move(onCopy));
+    copy->setAccessibleName(tr("Copy the line to type"));
+    codeRow->addWidget(copy, 0, Qt::AlignVCenter);
     codeRow->addStretch(0);
     column->addLayout(codeRow);
     row->addLayout(column, 1);

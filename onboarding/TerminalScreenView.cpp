@@ -6,6 +6,7 @@
 #include "SharedComponents.h"
 #include "TerminalFallback.h"
 
+#include "FocusOrder.h"
 #include "Label.h"
 #include "Layout.h"
 #include "Symbol.h"
@@ -140,6 +141,10 @@ TerminalScreenView::TerminalScreenView(InstallationState& state, Services& servi
 void TerminalScreenView::showEvent(QShowEvent* event)
 {
     QWidget::showEvent(event);
+    if (!m_appeared) {
+        m_appeared = true;
+        focusUnlessTaken(this, findChild<QWidget*>(QStringLiteral("backToHomeButton")));
+    }
     if (m_launch && !m_hasLaunched) {
         m_hasLaunched = true;
         m_launch->open();

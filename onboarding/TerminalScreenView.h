@@ -59,6 +59,7 @@ protected:
 private:
     ToolLaunch* m_launch = nullptr;
     bool m_hasLaunched = false;
+    bool m_appeared = false;
 };
 
 } // namespace qf

@@ -9,8 +9,9 @@
 #include "Layout.h"
 #include "Symbol.h"
 
+#include <QAccessible>
+#include <QAccessibleWidget>
 #include <QKeyEvent>
-
 #include <QMouseEvent>
 
 namespace qf {
@@ -21,6 +22,46 @@ namespace {
 
 // Selection and the explainer open and close with the design's spring.
 Expander* springExpander(QWidget* content) { return new Expander(content, motion::springDurationMs, motion::spring()); }
+
+// A tool card as screen readers meet it: one radio button of the tool choice.
+class ToolCardAccessible : public QAccessibleWidget {
+public:
+    explicit ToolCardAccessible(ToolCard* card) : QAccessibleWidget(card, QAccessible::RadioButton) {}
+
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.checkable = true;
+        state.checked = card()->isSelected();
+        return state;
+    }
+
+    QStringList actionNames() const override
+    {
+        QStringList names = QAccessibleWidget::actionNames();
+        names.prepend(pressAction());
+        return names;
+    }
+
+    void doAction(const QString& action) override
+    {
+        if (action == pressAction() || action == toggleAction()) {
+            card()->choose();
+            return;
+        }
+        QAccessibleWidget::doAction(action);
+    }
+
+private:
+    ToolCard* card() const { return static_cast<ToolCard*>(widget()); }
+};
+
+QAccessibleInterface* toolCardAccessible(const QString& className, QObject* object)
+{
+    if (className == QLatin1String(ToolCard::staticMetaObject.className()) && qobject_cast<ToolCard*>(object))
+        return new ToolCardAccessible(static_cast<ToolCard*>(object));
+    return nullptr;
+}
 
 } // namespace
 
@@ -90,8 +131,14 @@ ToolCard::ToolCard(CLITool tool, Platform& platform, QWidget* parent)
       m_stroke(this, motion::springDurationMs, motion::spring(),
                [this](qreal value) { setStroke(Tint(m_tool.brandColor(), value), 2); })
 {
+    static const bool accessible = [] {
+        QAccessible::installFactory(toolCardAccessible);
+        return true;
+    }();
+    Q_UNUSED(accessible);
     setObjectName(QStringLiteral("toolCard.") + tool.rawValue());
     setAccessibleName(tool.displayName());
+    setAccessibleDescription(tool.toolDescription());
     setCornerRadius(12);
     setFill(Tint(Role::controlBackground));
     setFocusPolicy(Qt::StrongFocus);
@@ -155,11 +202,17 @@ ToolCard::ToolCard(CLITool tool, Platform& platform, QWidget* parent)
 
 void ToolCard::setSelected(bool selected, bool animated)
 {
+    const bool changed = selected != m_selected;
     m_selected = selected;
     m_check->setVisible(selected);
     m_details->setExpanded(selected, animated);
     m_stroke.setTarget(selected ? 1.0 : 0.0, animated);
-    setAccessibleDescription(selected ? tr("Selected") : QString());
+    if (changed && QAccessible::isActive()) {
+        QAccessible::State checked;
+        checked.checked = true;
+        QAccessibleStateChangeEvent event(this, checked);
+        QAccessible::updateAccessibility(&event);
+    }
 }
 
 void ToolCard::mousePressEvent(QMouseEvent* event)
@@ -179,9 +232,15 @@ void ToolCard::mouseReleaseEvent(QMouseEvent* event)
 
 void ToolCard::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Space && event->modifiers() == Qt::NoModifier) {
-        Q_EMIT tapped();
-        return;
+    if (event->modifiers() == Qt::NoModifier || event->modifiers() == Qt::KeypadModifier) {
+        switch (event->key()) {
+        case Qt::Key_Space: Q_EMIT tapped(); return;
+        case Qt::Key_Up:
+        case Qt::Key_Left: Q_EMIT stepRequested(-1); return;
+        case Qt::Key_Down:
+        case Qt::Key_Right: Q_EMIT stepRequested(1); return;
+        default: break;
+        }
     }
     RoundedCard::keyPressEvent(event);
 }
@@ -216,6 +275,16 @@ WelcomeView::WelcomeView(InstallationState& state, Platform& platform, QWidget* 
         auto* card = new ToolCard(tool, platform);
         // Tapping the chosen card again keeps it chosen.
         connect(card, &ToolCard::tapped, this, [this, tool] { m_state.setSelectedTool(tool); });
+        // As in a group of radio buttons, an arrow key moves to the next choice and makes it.
+        connect(card, &ToolCard::stepRequested, this, [this, card](int step) {
+            const qsizetype index = m_cards.indexOf(card) + step;
+            if (index < 0 || index >= m_cards.size())
+                return;
+            // Moved by keyboard: the focus ring shows where the focus went.
+            window()->setAttribute(Qt::WA_KeyboardFocusChange);
+            m_cards[index]->setFocus(Qt::OtherFocusReason);
+            m_cards[index]->choose();
+        });
         list->addWidget(card);
         m_cards << card;
     }
@@ -231,6 +300,15 @@ WelcomeView::WelcomeView(InstallationState& state, Platform& platform, QWidget* 
 
     connect(&m_state, &InstallationState::selectedToolChanged, this, [this] { render(true); });
     render(false);
+}
+
+QWidget* WelcomeView::mainControl() const
+{
+    for (ToolCard* card : m_cards) {
+        if (card->isSelected())
+            return card;
+    }
+    return m_cards.value(0);
 }
 
 void WelcomeView::render(bool animated)

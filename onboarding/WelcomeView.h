@@ -38,7 +38,9 @@ public:
 
 // A tool to choose: logo, name, vendor and description; selected, it shows a check mark, a
 // stroke in the tool's colour and, below a divider, the tool's features and "Learn more".
-// The whole card is one control: a click or Space chooses it.
+// The whole card is one control: a click or Space chooses it, the arrow keys go to the card
+// before or after it. Screen readers meet it as a radio button, checked while its tool is the
+// chosen one, that their press action chooses.
 class ToolCard : public ui::RoundedCard {
     Q_OBJECT
 
@@ -48,9 +50,13 @@ public:
     CLITool tool() const { return m_tool; }
     bool isSelected() const { return m_selected; }
     void setSelected(bool selected, bool animated = true);
+    // As a click does: asks for this card's tool to be the chosen one.
+    void choose() { Q_EMIT tapped(); }
 
 Q_SIGNALS:
     void tapped();
+    // An arrow key asks for the card `step` places before (-1) or after (+1) this one.
+    void stepRequested(int step);
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
@@ -76,6 +82,10 @@ public:
 
     bool showsWhatIsAI() const { return m_showWhatIsAI; }
     const QList<ToolCard*>& toolCards() const { return m_cards; }
+
+protected:
+    // The chosen tool's card, or the first card while none is chosen.
+    QWidget* mainControl() const override;
 
 private:
     void render(bool animated);

@@ -1,6 +1,7 @@
 #include "Button.h"
 
 #include "ActivityIndicator.h"
+#include "FocusRing.h"
 #include "Surface.h"
 
 #include <QBoxLayout>
@@ -11,6 +12,13 @@
 #include <algorithm>
 
 namespace qf::ui {
+
+namespace {
+
+// The tinted style's fill under the pointer; its title is shaded for this, its strongest fill.
+constexpr qreal kTintedHoverFill = 0.18;
+
+} // namespace
 
 Button::Button(const QString& title, Style style, Size size, QWidget* parent)
     : QAbstractButton(parent),
@@ -30,6 +38,7 @@ Button::Button(const QString& title, Style style, Size size, QWidget* parent)
     } else if (style == Style::plain || style == Style::borderless) {
         m_tint = Tint(Role::primary);
     }
+    setFocusRingRadius(this, cornerRadius());
 }
 
 void Button::setTitle(const QString& title)
@@ -101,6 +110,7 @@ void Button::setContentPadding(int horizontal, int vertical)
 void Button::setCornerRadius(qreal radius)
 {
     m_cornerRadius = radius;
+    setFocusRingRadius(this, cornerRadius());
     update();
 }
 
@@ -180,12 +190,25 @@ int Button::controlHeight() const
     return content;
 }
 
-QSize Button::sizeHint() const { return {contentWidth() + 2 * horizontalPadding(), controlHeight()}; }
+QSize Button::sizeHint() const
+{
+    return {std::max(contentWidth() + 2 * horizontalPadding(), minimumTarget),
+            std::max(controlHeight(), minimumTarget)};
+}
 
 QColor Button::contentColor() const
 {
+    // A title is text: it takes its colour's text shade, on the fill it lies on.
+    const bool titled = !text().isEmpty();
+    const auto readable = [this, titled](const QColor& color) {
+        if (!titled)
+            return color;
+        if (m_style == Style::tinted)
+            return Theme::textColor(color, m_tint.withOpacity(m_tint.opacity * kTintedHoverFill).resolve());
+        return Theme::textColor(color);
+    };
     if (m_contentTint) {
-        QColor c = m_contentTint->resolve();
+        QColor c = readable(m_contentTint->resolve());
         if (!isEnabled())
             c.setAlphaF(c.alphaF() * 0.4f);
         return c;
@@ -198,7 +221,7 @@ QColor Button::contentColor() const
     case Style::tinted:
     case Style::plain:
     case Style::borderless:
-    case Style::link: return m_tint.resolve();
+    case Style::link: return readable(m_tint.resolve());
     }
     return Theme::color(Role::primary);
 }
@@ -208,13 +231,15 @@ QColor Button::backgroundColor() const
     const bool dark = Theme::isDark();
     QColor fill;
     if (m_style == Style::prominent) {
-        fill = isEnabled() ? m_tint.resolve() : Tint(Role::secondary, 0.22).resolve();
+        // White content: the fill is as dark as white text needs, and darkens under the pointer
+        // and when pressed.
+        fill = isEnabled() ? Theme::fillBehindWhiteText(m_tint.resolve()) : Tint(Role::secondary, 0.22).resolve();
         if (isEnabled() && isDown())
             fill = fill.darker(118);
         else if (isEnabled() && underMouse())
-            fill = fill.lighter(dark ? 115 : 106);
+            fill = fill.darker(108);
     } else if (m_style == Style::tinted) {
-        fill = m_tint.withOpacity(m_tint.opacity * (0.10 + 0.08 * m_hover.value())).resolve();
+        fill = m_tint.withOpacity(m_tint.opacity * (0.10 + (kTintedHoverFill - 0.10) * m_hover.value())).resolve();
         if (isDown())
             fill = m_tint.withOpacity(m_tint.opacity * 0.26).resolve();
     } else if (m_style == Style::bordered) {
@@ -246,18 +271,6 @@ void Button::paintEvent(QPaintEvent*)
         } else {
             painter.fillPath(path, backgroundColor());
         }
-        if (m_style == Style::prominent && isEnabled()) {
-            // A soft top highlight gives the fill some depth.
-            QLinearGradient sheen(bounds.topLeft(), bounds.bottomLeft());
-            sheen.setColorAt(0, QColor(255, 255, 255, 26));
-            sheen.setColorAt(1, QColor(255, 255, 255, 0));
-            painter.fillPath(path, sheen);
-        }
-    }
-
-    if (showsFocusRing(this)) {
-        const qreal in = focusRingInset;
-        drawFocusRing(painter, continuousRoundedRect(bounds.adjusted(in, in, -in, -in), isFilled() ? radius - 1 : 4));
     }
 
     if (showsActivity())
@@ -355,6 +368,7 @@ RowButton::RowButton(QWidget* parent) : QAbstractButton(parent), m_row(new QHBox
     m_row->setSpacing(6);
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::PointingHandCursor);
+    setMinimumHeight(Button::minimumTarget);
 }
 
 void RowButton::addWidget(QWidget* widget, int stretch, Qt::Alignment alignment)
@@ -368,18 +382,13 @@ void RowButton::addStretch(int stretch) { m_row->addStretch(stretch); }
 
 void RowButton::setPadding(QMargins padding) { m_row->setContentsMargins(padding); }
 
-QSize RowButton::sizeHint() const { return m_row->sizeHint(); }
+QSize RowButton::sizeHint() const { return m_row->sizeHint().expandedTo(QSize(0, Button::minimumTarget)); }
 
-QSize RowButton::minimumSizeHint() const { return m_row->minimumSize(); }
+QSize RowButton::minimumSizeHint() const { return m_row->minimumSize().expandedTo(QSize(0, Button::minimumTarget)); }
 
 void RowButton::paintEvent(QPaintEvent*)
 {
-    if (!showsFocusRing(this))
-        return;
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    const qreal in = focusRingInset;
-    drawFocusRing(painter, continuousRoundedRect(QRectF(rect()).adjusted(in, in, -in, -in), 4));
+    // The widgets of the row draw themselves; the window's focus ring goes around the row.
 }
 
 } // namespace qf::ui

@@ -18,13 +18,18 @@ class ActivityIndicator;
 //  - bordered: a light raised surface with primary content;
 //  - plain / borderless: content only, in the tint;
 //  - link: accent-coloured content with a pointing-hand cursor.
-// Content is an optional leading symbol, the title and an optional trailing symbol.
+// Content is an optional leading symbol, the title and an optional trailing symbol. A title is
+// written in the text shade of its colour (`Theme::textColor`), and a prominent fill is dark
+// enough for white text; a symbol alone keeps the bright colour. Whatever its content, a button
+// is at least `minimumTarget` points wide and high, so that it is easy to hit.
 class Button : public QAbstractButton {
     Q_OBJECT
 
 public:
     enum class Style { prominent, tinted, bordered, plain, borderless, link };
     enum class Size { regular, large };
+
+    static constexpr int minimumTarget = 24;
 
     Button(const QString& title, Style style, Size size = Size::regular, QWidget* parent = nullptr);
 
@@ -59,6 +64,11 @@ public:
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
 
+    // The colours the content and the fill are drawn in now (the fill is clear for the plain,
+    // borderless and link styles).
+    QColor contentColor() const;
+    QColor backgroundColor() const;
+
 protected:
     void paintEvent(QPaintEvent* event) override;
     bool event(QEvent* event) override;
@@ -76,8 +86,6 @@ private:
     int contentWidth() const;
     int controlHeight() const;
     int horizontalPadding() const;
-    QColor contentColor() const;
-    QColor backgroundColor() const;
     qreal cornerRadius() const;
     bool isFilled() const
     {
@@ -109,7 +117,7 @@ namespace qf::ui {
 
 // A plain button whose content is a row of widgets (symbols, labels, space) laid out by the
 // caller, for headers that open and close something: the whole row takes the click and the
-// keyboard, the widgets in it only show.
+// keyboard, the widgets in it only show. Like every button it is at least 24 points high.
 class RowButton : public QAbstractButton {
     Q_OBJECT
 

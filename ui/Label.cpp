@@ -26,7 +26,7 @@ void Label::applyTint()
         return;
     m_applying = true;
     QPalette p = palette();
-    const QColor color = m_tint.resolve();
+    const QColor color = Theme::textColor(m_tint.resolve());
     if (p.color(QPalette::WindowText) != color || p.color(QPalette::Text) != color) {
         p.setColor(QPalette::WindowText, color);
         p.setColor(QPalette::Text, color);

@@ -7,8 +7,9 @@
 
 namespace qf::ui {
 
-// Text in one of the design's fonts and colour roles. Wrapping text may be limited to a number
-// of lines; the last visible line then ends in an ellipsis.
+// Text in one of the design's fonts and colour roles, written in the role's text shade (see
+// `Theme::textColor`). Wrapping text may be limited to a number of lines; the last visible line
+// then ends in an ellipsis.
 class Label : public QLabel {
     Q_OBJECT
 

@@ -75,6 +75,8 @@ void makeSlim(QScrollBar* bar)
 ScrollView::ScrollView(QWidget* parent) : QScrollArea(parent), m_content(new QWidget)
 {
     setFrameShape(QFrame::NoFrame);
+    // The controls inside take the keyboard; the view itself is no stop on the way.
+    setFocusPolicy(Qt::NoFocus);
     setWidgetResizable(true);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);

@@ -72,7 +72,8 @@ QWidget* divider(int padding = 0);
 void makeSlim(QScrollBar* bar);
 
 // A vertical scroll view with a transparent background, no frame and the content as wide as
-// the view. The content widget is created here; lay children into it.
+// the view. The content widget is created here; lay children into it. The view takes no
+// keyboard focus: Tab goes from control to control inside it, and brings each into view.
 class ScrollView : public QScrollArea {
     Q_OBJECT
 

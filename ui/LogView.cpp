@@ -1,5 +1,6 @@
 #include "LogView.h"
 
+#include "FocusRing.h"
 #include "Layout.h"
 
 #include <QAbstractTextDocumentLayout>
@@ -26,6 +27,7 @@ LogView::LogView(QWidget* parent) : RoundedCard(parent), m_text(new QPlainTextEd
     m_text->setLineWrapMode(QPlainTextEdit::WidgetWidth);
     m_text->setFont(Theme::font(11, QFont::Normal, FontDesign::monospaced));
     m_text->setAccessibleName(tr("Log"));
+    setFocusRingTarget(m_text, this);
     m_text->setUndoRedoEnabled(false);
     m_text->viewport()->setAutoFillBackground(false);
     m_text->setAutoFillBackground(false);
@@ -52,14 +54,15 @@ void LogView::applyColors()
 {
     QPalette palette = m_text->palette();
     palette.setColor(QPalette::Base, Qt::transparent);
-    palette.setColor(QPalette::Text, Theme::color(Role::secondary));
+    palette.setColor(QPalette::Text, Theme::textColor(Theme::color(Role::secondary)));
     m_text->setPalette(palette);
 }
 
 void LogView::changeEvent(QEvent* event)
 {
     RoundedCard::changeEvent(event);
-    if (event->type() == QEvent::ApplicationPaletteChange)
+    // A new application palette reaches a widget as a change of its own palette.
+    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::ApplicationPaletteChange)
         applyColors();
 }
 

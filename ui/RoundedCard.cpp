@@ -1,6 +1,7 @@
 #include "RoundedCard.h"
 
 #include "ActivityIndicator.h"
+#include "FocusRing.h"
 
 #include "Symbol.h"
 
@@ -29,7 +30,16 @@ QBrush Paint::brush(const QRectF& bounds) const
     return gradient;
 }
 
-RoundedCard::RoundedCard(QWidget* parent) : QWidget(parent) {}
+QColor Paint::strongest() const
+{
+    const QColor start = m_start.resolve();
+    if (!m_end)
+        return start;
+    const QColor end = m_end->resolve();
+    return end.alpha() > start.alpha() ? end : start;
+}
+
+RoundedCard::RoundedCard(QWidget* parent) : QWidget(parent) { setFocusRingRadius(this, m_shape.cornerRadius); }
 
 RoundedCard* roundedCard(const QString& objectName, qreal radius, const Tint& fill)
 {
@@ -43,6 +53,8 @@ RoundedCard* roundedCard(const QString& objectName, qreal radius, const Tint& fi
 void RoundedCard::setShape(const Shape& shape)
 {
     m_shape = shape;
+    // A capsule or circle: a radius larger than any card rounds the ring as much as fits.
+    setFocusRingRadius(this, shape.kind == Shape::roundedRect ? shape.cornerRadius : 1.0e4);
     if (m_shadow)
         SurfaceEffect::of(this)->setShadow(m_shadow, m_shape);
     update();
@@ -110,17 +122,14 @@ void RoundedCard::paintEvent(QPaintEvent*)
         painter.drawImage(area.topLeft() + entry.shadow.offset - QPointF(margin, margin), image);
     }
 
-    // Strokes and the focus ring lie inside the shape, following its corners.
-    const auto inset = [&](qreal by) {
+    // Strokes lie inside the shape, following its corners.
+    if (m_strokeWidth > 0 && !m_stroke.isClear()) {
+        const qreal by = m_strokeWidth / 2.0;
         const Shape shape = m_shape.kind == Shape::roundedRect
                                 ? Shape::rounded(std::max<qreal>(0.0, m_shape.cornerRadius - by))
                                 : m_shape;
-        return shape.path(bounds.adjusted(by, by, -by, -by));
-    };
-    if (m_strokeWidth > 0 && !m_stroke.isClear())
-        painter.strokePath(inset(m_strokeWidth / 2.0), QPen(m_stroke.brush(bounds), m_strokeWidth));
-    if (showsFocusRing(this))
-        drawFocusRing(painter, inset(focusRingInset));
+        painter.strokePath(shape.path(bounds.adjusted(by, by, -by, -by)), QPen(m_stroke.brush(bounds), m_strokeWidth));
+    }
 }
 
 // MARK: IconTile
@@ -218,10 +227,12 @@ void IconTile::paintEvent(QPaintEvent*)
         painter.drawPixmap(QPointF((width() - logical.width()) / 2.0, (height() - logical.height()) / 2.0), icon);
     } else if (!m_text.isEmpty()) {
         painter.setFont(m_font);
-        painter.setPen(m_contentTint.resolve());
+        painter.setPen(textColor());
         painter.drawText(bounds, Qt::AlignCenter, m_text);
     }
 }
+
+QColor IconTile::textColor() const { return Theme::textColor(m_contentTint.resolve(), m_fill.strongest()); }
 
 // MARK: Badge
 
@@ -266,8 +277,10 @@ void Badge::paintEvent(QPaintEvent*)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.fillPath(Shape::pill().path(QRectF(rect())), m_fill.resolve());
     painter.setFont(m_font);
-    painter.setPen(m_textTint.resolve());
+    painter.setPen(textColor());
     painter.drawText(rect(), Qt::AlignCenter, m_text);
 }
+
+QColor Badge::textColor() const { return Theme::textColor(m_textTint.resolve(), m_fill.resolve()); }
 
 } // namespace qf::ui

@@ -24,6 +24,8 @@ public:
 
     bool isClear() const { return !m_end && m_start.isClear(); }
     QBrush brush(const QRectF& bounds) const;
+    // The one colour, or the more opaque end of a gradient.
+    QColor strongest() const;
 
 private:
     Tint m_start;
@@ -34,7 +36,7 @@ private:
 
 // A filled shape behind content: cards, bars, tiles, toasts. Fill, stroke and shadow are
 // colour roles resolved at paint time. Children are laid out by the caller's layout. A card
-// that takes keyboard focus shows the focus ring while it has it.
+// that takes keyboard focus has the window's focus ring follow its corners.
 class RoundedCard : public QWidget {
     Q_OBJECT
 
@@ -102,6 +104,8 @@ public:
 
     QString symbolName() const { return m_symbol; }
     QString text() const { return m_text; }
+    // The colour the text is written in: the content tint's text shade on the fill.
+    QColor textColor() const;
     QSize sizeHint() const override { return m_size; }
     QSize minimumSizeHint() const override { return m_size; }
 
@@ -124,7 +128,8 @@ private:
     ActivityIndicator* m_activity = nullptr;
 };
 
-// A small capsule with a text on the text's colour at low opacity: status badges and pills.
+// A small capsule with a text on the text's colour at low opacity: status badges and pills. The
+// text is written in the shade of its colour that reads on the capsule.
 class Badge : public QWidget {
     Q_OBJECT
 
@@ -135,6 +140,8 @@ public:
     QString text() const { return m_text; }
     void setFont(const QFont& font);
     void setPadding(int horizontal, int vertical);
+    // The colour the text is written in: the text tint's text shade on the fill.
+    QColor textColor() const;
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }

@@ -144,16 +144,6 @@ ShadowStyle mix(const ShadowStyle& a, const ShadowStyle& b, qreal t)
     return {ui::mix(a.color, b.color, t), a.radius + (b.radius - a.radius) * t, a.offset + (b.offset - a.offset) * t};
 }
 
-bool showsFocusRing(const QWidget* widget)
-{
-    return widget->hasFocus() && widget->window() && widget->window()->testAttribute(Qt::WA_KeyboardFocusChange);
-}
-
-void drawFocusRing(QPainter& painter, const QPainterPath& path)
-{
-    painter.strokePath(path, QPen(Tint(Role::accent, 0.55).resolve(), 2.5));
-}
-
 int shadowMargin(qreal blurRadius) { return static_cast<int>(std::ceil(std::max<qreal>(0.0, blurRadius) * 1.5)); }
 
 namespace {

@@ -49,12 +49,6 @@ ShadowStyle mix(const ShadowStyle& a, const ShadowStyle& b, qreal t);
 // A blurred silhouette of `shape` at `size` in `color`, `margin()` logical pixels larger than
 // the shape on every side. Cached by every input, so painting a shadow is one image blit.
 QImage shadowImage(const QSizeF& size, const Shape& shape, qreal blurRadius, const QColor& color, qreal dpr);
-// The keyboard focus ring: drawn along `path` (which lies `focusRingInset` inside the control's
-// edge) while `widget` has the focus and the window was last moved through by keyboard.
-inline constexpr qreal focusRingInset = 1.25;
-bool showsFocusRing(const QWidget* widget);
-void drawFocusRing(QPainter& painter, const QPainterPath& path);
-
 // How far a shadow of `blurRadius` reaches beyond its shape.
 int shadowMargin(qreal blurRadius);
 

@@ -1,5 +1,6 @@
 #include "TextField.h"
 
+#include "FocusRing.h"
 #include "Surface.h"
 #include "Theme.h"
 
@@ -22,6 +23,7 @@ TextField::TextField(const QString& placeholder, QWidget* parent) : QLineEdit(pa
     setFont(Theme::body());
     setTextMargins(8, 0, 8, 0);
     setAttribute(Qt::WA_MacShowFocusRect, false);
+    setFocusRingRadius(this, kRadius);
     applyColours();
 }
 
@@ -48,10 +50,6 @@ void TextField::paintEvent(QPaintEvent* event)
         const QPainterPath shape = continuousRoundedRect(bounds, kRadius);
         painter.fillPath(shape, Theme::color(Role::textBackground));
         painter.strokePath(shape, QPen(Tint(Role::separator).resolve(), 1));
-        if (hasFocus()) {
-            const qreal in = focusRingInset;
-            drawFocusRing(painter, continuousRoundedRect(QRectF(rect()).adjusted(in, in, -in, -in), kRadius - 1));
-        }
     }
     QLineEdit::paintEvent(event);
 }
@@ -72,7 +70,7 @@ void TextField::applyColours()
     // The field paints its own background; the style draws only the text.
     colours.setColor(QPalette::Base, Qt::transparent);
     colours.setColor(QPalette::Text, Theme::color(Role::primary));
-    colours.setColor(QPalette::PlaceholderText, Theme::color(Role::tertiary));
+    colours.setColor(QPalette::PlaceholderText, Theme::textColor(Theme::color(Role::tertiary)));
     setPalette(colours);
 }
 

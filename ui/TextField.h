@@ -5,7 +5,7 @@
 namespace qf::ui {
 
 // A one-line text field with a rounded border, drawn the same on every platform: the text
-// background inside a hairline edge, and the accent ring while it has the focus. A secure
+// background inside a hairline edge, and the window's focus ring while it has the focus. A secure
 // field masks what it holds and keeps it out of the clipboard, the input method's memory and
 // the accessibility tree; switching between secure and clear keeps the text.
 class TextField : public QLineEdit {

@@ -1,10 +1,13 @@
 #include "Theme.h"
 
 #include <algorithm>
+#include <array>
+#include <cmath>
 
 #include <QApplication>
 #include <QFontDatabase>
 #include <QGuiApplication>
+#include <QHash>
 #include <QStyleFactory>
 
 namespace qf::ui {
@@ -222,6 +225,168 @@ void applyApplicationLook(QApplication& app, const ApplicationLook& look)
     base.setFamilies(families);
     base.setPixelSize(13);
     app.setFont(base);
+}
+
+namespace {
+
+qreal linear(qreal channel) { return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4); }
+
+QColor opaque(QColor color)
+{
+    color.setAlpha(255);
+    return color;
+}
+
+QColor translucent(QColor color, qreal alpha)
+{
+    color.setAlphaF(float(color.alphaF() * alpha));
+    return color;
+}
+
+QColor towards(const QColor& from, const QColor& to, qreal t)
+{
+    const auto channel = [t](int a, int b) { return qRound(a + (b - a) * t); };
+    return QColor(channel(from.red(), to.red()), channel(from.green(), to.green()), channel(from.blue(), to.blue()));
+}
+
+// As dark as any tinted surface of the design (up to 10% of a bright colour) makes a light page,
+// or as light as it makes a dark one: the bright colours lighten a dark page more than they
+// darken a light one.
+QColor anyTintOver(bool dark) { return dark ? QColor(255, 255, 255, 26) : QColor(0, 0, 0, 16); }
+
+// What text and the focus ring are measured against in the current appearance.
+std::array<QColor, 3> pageBackgrounds()
+{
+    const QPalette palette = QGuiApplication::palette();
+    return {opaque(palette.color(QPalette::Window)), opaque(palette.color(QPalette::Base)),
+            opaque(palette.color(QPalette::AlternateBase))};
+}
+
+// Shades are asked for on every paint: each is worked out once per colour, fill and palette.
+struct ShadeKey {
+    int kind;
+    QRgb color;
+    QRgb fill;
+    QRgb window;
+    QRgb base;
+    QRgb alternate;
+    friend bool operator==(const ShadeKey&, const ShadeKey&) = default;
+};
+
+size_t qHash(const ShadeKey& key, size_t seed = 0)
+{
+    return qHashMulti(seed, key.kind, key.color, key.fill, key.window, key.base, key.alternate);
+}
+
+template <typename Make>
+QColor cachedShade(int kind, const QColor& color, const QColor& fill, Make&& make)
+{
+    static QHash<ShadeKey, QColor> cache;
+    const auto pages = pageBackgrounds();
+    const ShadeKey key{kind, color.rgba(), fill.rgba(), pages[0].rgba(), pages[1].rgba(), pages[2].rgba()};
+    if (const auto found = cache.constFind(key); found != cache.constEnd())
+        return found.value();
+    if (cache.size() > 4096)
+        cache.clear();
+    const QColor shade = make(pages);
+    cache.insert(key, shade);
+    return shade;
+}
+
+} // namespace
+
+qreal relativeLuminance(const QColor& color)
+{
+    const QColor rgb = color.toRgb();
+    return 0.2126 * linear(rgb.redF()) + 0.7152 * linear(rgb.greenF()) + 0.0722 * linear(rgb.blueF());
+}
+
+QColor composite(const QColor& over, const QColor& under)
+{
+    const qreal alpha = over.alphaF();
+    const auto channel = [alpha](int top, int bottom) { return qRound(top * alpha + bottom * (1.0 - alpha)); };
+    return QColor(channel(over.red(), under.red()), channel(over.green(), under.green()),
+                  channel(over.blue(), under.blue()));
+}
+
+qreal contrastRatio(const QColor& foreground, const QColor& background)
+{
+    const QColor under = opaque(background);
+    const qreal a = relativeLuminance(composite(foreground, under));
+    const qreal b = relativeLuminance(under);
+    return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
+}
+
+QColor shadeReaching(const QColor& color, const QColor& background, qreal ratio, bool lighter)
+{
+    const auto reaches = [&](const QColor& candidate) { return contrastRatio(candidate, background) >= ratio; };
+    if (reaches(color))
+        return color;
+    QColor shade = color;
+    for (int alpha = color.alpha() + 1; alpha <= 255; ++alpha) {
+        shade.setAlpha(alpha);
+        if (reaches(shade))
+            return shade;
+    }
+    const QColor end = lighter ? QColor(Qt::white) : QColor(Qt::black);
+    for (int step = 1; step < 100; ++step) {
+        const QColor candidate = towards(shade, end, step / 100.0);
+        if (reaches(candidate))
+            return candidate;
+    }
+    return end;
+}
+
+QColor textColor(const QColor& color)
+{
+    return cachedShade(0, color, QColor(), [&color](const std::array<QColor, 3>& pages) {
+        const bool lighter = isDark();
+        // A pill of the text's own colour, and any tinted surface of the design.
+        const QColor ownTint = translucent(color, 0.12);
+        const QColor anyTint = anyTintOver(lighter);
+        QColor shade = color;
+        for (const QColor& page : pages) {
+            for (const QColor& behind : {page, composite(ownTint, page), composite(anyTint, page)})
+                shade = shadeReaching(shade, behind, smallTextContrast, lighter);
+        }
+        return shade;
+    });
+}
+
+QColor textColor(const QColor& color, const QColor& fill)
+{
+    return cachedShade(1, color, fill, [&color, &fill](const std::array<QColor, 3>& pages) {
+        const bool lighter = isDark();
+        // The fill may lie on a tinted surface too (a numbered badge on the tips card).
+        const QColor anyTint = anyTintOver(lighter);
+        QColor shade = color;
+        for (const QColor& page : pages) {
+            for (const QColor& under : {page, composite(anyTint, page)})
+                shade = shadeReaching(shade, composite(fill, under), smallTextContrast, lighter);
+        }
+        return shade;
+    });
+}
+
+QColor fillBehindWhiteText(const QColor& color)
+{
+    return shadeReaching(opaque(color), QColor(Qt::white), smallTextContrast, false);
+}
+
+QColor focusRingColor()
+{
+    const QColor accent = opaque(QGuiApplication::palette().color(QPalette::Highlight));
+    return cachedShade(2, accent, QColor(), [&accent](const std::array<QColor, 3>& pages) {
+        const bool lighter = isDark();
+        // Prominent fills are as light as white text on them allows, or a little darker.
+        const QColor lightestFill = QColor(118, 118, 118);
+        const QColor darkerFill = QColor(108, 108, 108);
+        QColor ring = accent;
+        for (const QColor& behind :
+             {pages[0], pages[1], pages[2], fillBehindWhiteText(accent), lightestFill, darkerFill})
+            ring = shadeReaching(ring, behind, nonTextContrast, lighter);
+        return ring;
+    });
 }
 
 } // namespace Theme

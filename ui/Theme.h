@@ -91,5 +91,36 @@ void applyApplicationLook(QApplication& app, const ApplicationLook& look);
 QPalette lightPalette();
 QPalette darkPalette();
 
+// Contrast as WCAG 2 measures it. A colour with some transparency counts as what it shows over
+// `background`.
+qreal relativeLuminance(const QColor& color);
+qreal contrastRatio(const QColor& foreground, const QColor& background);
+QColor composite(const QColor& over, const QColor& under);
+
+// Text below 18 points stands 4.5:1 from what lies behind it; larger text, symbols, control
+// edges and the focus ring 3:1.
+inline constexpr qreal smallTextContrast = 4.5;
+inline constexpr qreal largeTextContrast = 3.0;
+inline constexpr qreal nonTextContrast = 3.0;
+
+// The shade of `color` that stands `ratio` from `background`: `color` itself when it does, else
+// the same hue made more opaque, then darker (or lighter, with `lighter`) step by step.
+QColor shadeReaching(const QColor& color, const QColor& background, qreal ratio, bool lighter);
+
+// The shade of `color` in which text is written: darker in the light appearance, lighter in the
+// dark one, until it stands 4.5:1 from every background text lies on (the window, the cards, the
+// code boxes), from those under a pill of the text's own colour (12%) and from those under a
+// tinted surface of any colour up to 10%. Bright colours stay for symbols and fills; text asks
+// for its shade here.
+QColor textColor(const QColor& color);
+// The same for text on `fill` (which may be translucent) laid over those backgrounds.
+QColor textColor(const QColor& color, const QColor& fill);
+// The fill behind white text (a prominent button): `color`, or a darker shade where white on it
+// would not stand 4.5:1 from it.
+QColor fillBehindWhiteText(const QColor& color);
+// The keyboard focus ring: the accent's hue, dark in the light appearance and light in the dark
+// one, standing 3:1 from the backgrounds and from the fill of a prominent button.
+QColor focusRingColor();
+
 } // namespace Theme
 } // namespace qf::ui

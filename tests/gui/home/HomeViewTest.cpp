@@ -130,18 +130,21 @@ TEST_F(HomeTest, RemoveButtonsShowWhileHoveredOrFocused)
     AIToolCard* codex = card(*view, CLITool::codex);
     auto* remove = test::child<ui::Button>(claude, QStringLiteral("removeButton"));
     EXPECT_EQ(remove->accessibleName(), QStringLiteral("Remove Claude Code"));
-    EXPECT_FALSE(remove->isVisible());
+    EXPECT_EQ(claude->removeButton(), nullptr);
+    EXPECT_EQ(remove->opacity(), 0.0);
 
     hover(claude, true);
     EXPECT_EQ(view->hoveredKey(), QStringLiteral("claudeCode"));
     EXPECT_TRUE(claude->isHovered());
-    EXPECT_TRUE(remove->isVisible());
+    EXPECT_EQ(claude->removeButton(), remove);
+    EXPECT_EQ(remove->opacity(), 1.0);
     // The pointer moves on to the next card: only one card is hovered at a time.
     hover(claude, false);
     hover(codex, true);
     EXPECT_EQ(view->hoveredKey(), QStringLiteral("codex"));
     EXPECT_FALSE(claude->isHovered());
-    EXPECT_FALSE(remove->isVisible());
+    EXPECT_EQ(claude->removeButton(), nullptr);
+    EXPECT_EQ(remove->opacity(), 0.0);
     // A missing tool offers no removal, hovered or not.
     EXPECT_FALSE(shows(test::child(codex, QStringLiteral("removeButton"))));
     hover(codex, false);
@@ -158,25 +161,29 @@ TEST_F(HomeTest, RemoveButtonsShowWhileHoveredOrFocused)
     EXPECT_EQ(folder->removeButton(), nullptr);
     hover(folder, false);
 
-    // Keyboard users: focus on the card or on one of its buttons shows the remove button,
-    // which Tab then reaches.
+    // Keyboard users: the cards are no stops of their own. Focus on a card's button shows its
+    // remove button, which Tab then reaches; a card with nothing else to do is reached by its
+    // remove button alone.
     view->activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(view.get()));
+    for (DashboardCard* any : view->findChildren<DashboardCard*>())
+        EXPECT_EQ(any->focusPolicy() & Qt::TabFocus, 0) << any->objectName().toStdString();
     test::child<QWidget>(claude, QStringLiteral("openButton"))->setFocus(Qt::TabFocusReason);
     EXPECT_TRUE(claude->hasFocusWithin());
-    EXPECT_TRUE(remove->isVisible());
-    EXPECT_EQ(remove->focusPolicy() & Qt::TabFocus, Qt::TabFocus);
+    EXPECT_EQ(claude->removeButton(), remove);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     EXPECT_EQ(QApplication::focusWidget(), remove);
-    codex->setFocus(Qt::TabFocusReason);
-    EXPECT_FALSE(remove->isVisible());
-    homebrew->setFocus(Qt::TabFocusReason);
-    EXPECT_TRUE(shows(homebrew->removeButton()));
-
-    // Tab follows the order on screen: from the last supporting item on to the first AI tool.
-    card(*view, "node")->setFocus(Qt::TabFocusReason);
+    // Tab follows the order on screen: from Claude Code's remove button on to Gemini CLI.
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-    EXPECT_EQ(QApplication::focusWidget(), claude);
+    EXPECT_EQ(QApplication::focusWidget(),
+              test::child<QWidget>(card(*view, CLITool::geminiCLI), QStringLiteral("installButton")));
+    EXPECT_EQ(claude->removeButton(), nullptr);
+    // Homebrew offers nothing but its removal: Tab from the projects folder's "Create" reaches it.
+    ASSERT_EQ(homebrew->actionButton(), nullptr);
+    folder->actionButton()->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), test::child<QWidget>(homebrew, QStringLiteral("removeButton")));
+    EXPECT_TRUE(shows(homebrew->removeButton()));
 }
 
 TEST_F(HomeTest, HoveringACardMovesNothingOnIt)

@@ -54,7 +54,11 @@ TEST(CopyButton, StylesDifferInSizeAndChrome)
     CopyButton small(QStringLiteral("x"), Style::small);
     CopyButton bordered(QStringLiteral("x"), Style::bordered);
     EXPECT_LT(CopyButton::symbolSize(Style::small), CopyButton::symbolSize(Style::regular));
-    EXPECT_LT(small.sizeHint().width(), regular.sizeHint().width());
+    // A smaller glyph, never a smaller target.
+    for (CopyButton* button : {&regular, &small, &bordered}) {
+        EXPECT_GE(button->sizeHint().width(), ui::Button::minimumTarget);
+        EXPECT_GE(button->sizeHint().height(), ui::Button::minimumTarget);
+    }
     EXPECT_EQ(regular.leadingSymbol(), QStringLiteral("doc.on.clipboard"));
     EXPECT_EQ(regular.accessibleName(), QStringLiteral("Copy"));
 
