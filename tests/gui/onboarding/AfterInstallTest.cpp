@@ -376,7 +376,7 @@ TEST_F(AfterInstallTest, SkippingWhileAKeyIsSavedGoesOnOnceAndKeepsTheKey)
     EXPECT_EQ(state.currentStep(), InstallationStep::completion);
     ::close(folder);
     // The save still ends, stores the key and does not move the flow a second time.
-    ASSERT_TRUE(QTest::qWaitFor([this] { return qgetenv("OPENAI_API_KEY") == kKey.toUtf8(); }, 10000));
+    ASSERT_TRUE(QTest::qWaitFor([] { return qgetenv("OPENAI_API_KEY") == kKey.toUtf8(); }, 10000));
     test::settle();
     EXPECT_EQ(state.currentStep(), InstallationStep::completion);
     EXPECT_TRUE(profileText("/.zshrc").contains(kKey));
