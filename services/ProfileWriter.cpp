@@ -1,5 +1,7 @@
 #include "ProfileWriter.h"
 
+#include "FileDescriptor.h"
+
 #include "ShellQuote.h"
 
 #include <QDir>
@@ -58,29 +60,6 @@ qsizetype writeAllAt(int fd, const QByteArray& bytes, off_t offset)
     return done;
 }
 
-// A file descriptor closed when it goes out of scope.
-class Descriptor {
-public:
-    explicit Descriptor(int fd) : m_fd(fd) {}
-    ~Descriptor()
-    {
-        if (m_fd >= 0)
-            ::close(m_fd);
-    }
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-    int get() const { return m_fd; }
-    // Closes now, reporting a failure (some file systems only report a failed write here).
-    bool close()
-    {
-        const int fd = std::exchange(m_fd, -1);
-        return ::close(fd) == 0;
-    }
-
-private:
-    int m_fd;
-};
-
 // The file a profile path names: the path itself, or where its links lead (also when the
 // file there does not exist yet).
 QString resolvedTarget(const QString& path)
@@ -117,7 +96,7 @@ public:
     bool failed() const { return m_failed; }
 
 private:
-    Descriptor m_fd;
+    FileDescriptor m_fd;
     bool m_failed = false;
 };
 
@@ -141,7 +120,7 @@ Current readCurrent(const QString& target)
     // would let a copy be renamed over it or not. Reading it is still fine.
     const bool readOnly = (status.st_mode & S_IWUSR) == 0 ||
                           (::geteuid() != 0 && ::access(name.constData(), W_OK) != 0);
-    Descriptor file(::open(name.constData(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK));
+    FileDescriptor file(::open(name.constData(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK));
     if (file.get() < 0)
         return {errno, std::nullopt};
     QByteArray bytes;
@@ -164,7 +143,7 @@ Current readCurrent(const QString& target)
 // put back, so the file is as before.
 int rewriteInPlace(const QByteArray& name, const QByteArray& bytes, const QByteArray& before)
 {
-    Descriptor file(::open(name.constData(), O_WRONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK));
+    FileDescriptor file(::open(name.constData(), O_WRONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK));
     if (file.get() < 0)
         return errno;
     const qsizetype written = writeAllAt(file.get(), bytes, 0);
@@ -175,7 +154,7 @@ int rewriteInPlace(const QByteArray& name, const QByteArray& bytes, const QByteA
         (void)::ftruncate(file.get(), static_cast<off_t>(before.size()));
         return error;
     }
-    return file.close() ? 0 : errno;
+    return file.close();
 }
 
 // Writes the whole new text of a profile: in one step by renaming a finished copy over it, or in
@@ -191,7 +170,7 @@ int writeWhole(const QString& target, const QByteArray& bytes, const std::option
     const QFileInfo info(target);
     QByteArray temporary =
         QFile::encodeName(info.absolutePath() + QStringLiteral("/.") + info.fileName() + QStringLiteral(".XXXXXX"));
-    Descriptor copy(::mkstemp(temporary.data()));
+    FileDescriptor copy(::mkstemp(temporary.data()));
     if (copy.get() < 0)
         return errno;
     const auto abandon = [&temporary](int error) {
@@ -207,7 +186,7 @@ int writeWhole(const QString& target, const QByteArray& bytes, const std::option
             return abandon(errno);
     }
     // A new profile may hold a key: it is the user's alone (mkstemp made it 0600).
-    if (writeAllAt(copy.get(), bytes, 0) < bytes.size() || ::fsync(copy.get()) != 0 || !copy.close())
+    if (writeAllAt(copy.get(), bytes, 0) < bytes.size() || ::fsync(copy.get()) != 0 || copy.close() != 0)
         return abandon(errno);
     if (::rename(temporary.constData(), name.constData()) != 0)
         return abandon(errno);

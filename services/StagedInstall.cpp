@@ -1,5 +1,7 @@
 #include "StagedInstall.h"
 
+#include "FileDescriptor.h"
+
 #include <QFile>
 #include <QObject>
 
@@ -192,32 +194,12 @@ int makeFolder(const std::string& path, mode_t mode, std::vector<std::string>& m
     return 0;
 }
 
-// A file descriptor closed when it goes out of scope.
-class Descriptor {
-public:
-    explicit Descriptor(int fd) : m_fd(fd) {}
-    ~Descriptor()
-    {
-        if (m_fd >= 0)
-            ::close(m_fd);
-    }
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-
-    int get() const { return m_fd; }
-    // Closing is the system's last chance to say that not everything could be written.
-    int close() { return ::close(std::exchange(m_fd, -1)) == 0 ? 0 : errno; }
-
-private:
-    int m_fd;
-};
-
 int copyFile(const std::string& from, const std::string& to, mode_t permissions)
 {
-    const Descriptor source(::open(from.c_str(), O_RDONLY | O_CLOEXEC));
+    const FileDescriptor source(::open(from.c_str(), O_RDONLY | O_CLOEXEC));
     if (source.get() < 0)
         return errno;
-    Descriptor copy(::open(to.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
+    FileDescriptor copy(::open(to.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
     if (copy.get() < 0)
         return errno;
     std::vector<char> buffer(std::size_t{64} * 1024);
