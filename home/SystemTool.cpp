@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFileInfo>
 
 #include <vector>
 
@@ -167,6 +168,13 @@ void handleSystemToolAction(const SystemTool& tool, Platform& platform, const st
 {
     const auto showFolder = [&platform, &fallback] {
         const QString path = developerFolderPath();
+        // Something that is not a folder (a plain file named Developer) is selected in the file
+        // manager rather than opened with whatever application handles it.
+        const QFileInfo entry(path);
+        if (entry.exists() && !entry.isDir()) {
+            platform.revealFile(path);
+            return;
+        }
         if (!platform.revealFolder(path) && fallback) {
             fallback({trText("The folder could not be shown"),
                       trText("No file manager answered. Your projects folder is here:"), path});

@@ -172,7 +172,8 @@ ToolCard::ToolCard(CLITool tool, Platform& platform, QWidget* parent)
     auto* details = new QWidget;
     details->setObjectName(QStringLiteral("toolDetails"));
     auto* detailsColumn = vstack(details, 8);
-    detailsColumn->addWidget(divider(12 - 8)); // the stack's spacing makes up the rest of the 12
+    // 12 points on both sides of the line; below it the stack's own spacing makes up part.
+    detailsColumn->addWidget(divider(12, 12 - 8));
     for (const QString& feature : tool.features()) {
         auto* row = hstack(8);
         row->addWidget(new SymbolView(QStringLiteral("checkmark.circle.fill"), 10, Tint(Role::green)), 0,

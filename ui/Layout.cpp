@@ -6,10 +6,12 @@
 
 namespace qf::ui {
 
-QWidget* divider(int padding)
+QWidget* divider(int padding) { return divider(padding, padding); }
+
+QWidget* divider(int above, int below)
 {
     auto* holder = new QWidget;
-    auto* layout = vstack(holder, 0, QMargins(0, padding, 0, padding));
+    auto* layout = vstack(holder, 0, QMargins(0, above, 0, below));
     auto* line = new RoundedCard;
     line->setCornerRadius(0);
     line->setFill(Tint(Role::separator));

@@ -67,6 +67,8 @@ CentredRow* centredRow(QWidget* owner, QWidget* centredOn, int spacing, QMargins
 
 // A one-point line in the separator colour, `padding` points of room above and below it.
 QWidget* divider(int padding = 0);
+// The same line with its own room above and below.
+QWidget* divider(int above, int below);
 
 // A slim bar in the spirit of macOS's scroll indicators instead of a bar with arrows.
 void makeSlim(QScrollBar* bar);

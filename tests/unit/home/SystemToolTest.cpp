@@ -176,6 +176,15 @@ TEST_F(SystemToolTest, AFolderThatCannotBeMadeIsStillShownAndReloaded)
     EXPECT_FALSE(catalogue()[1].isInstalled);
 }
 
+TEST_F(SystemToolTest, APlainFileNamedDeveloperIsSelectedNotOpened)
+{
+    sandbox.writeFile(QStringLiteral("Developer"), "notes");
+    act(catalogue()[1]);
+    EXPECT_EQ(platform.revealedFiles, QStringList{sandbox.path(QStringLiteral("Developer"))});
+    EXPECT_TRUE(platform.revealed.isEmpty());
+    EXPECT_EQ(reloads, 0);
+}
+
 TEST_F(SystemToolTest, TerminalLaunchesGoToThePlatformEveryTime)
 {
     services.terminal.openInTerminal(QStringLiteral("codex"), QStringLiteral("~/Developer"));
