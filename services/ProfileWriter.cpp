@@ -37,10 +37,33 @@ QString reasonText(int error)
     return QString::fromLocal8Bit(std::strerror(error));
 }
 
+// What a person can do about it. Whatever failed, the file was left as it was.
+QString adviceText(int error)
+{
+    switch (error) {
+    case notAnOrdinaryFile:
+        return ProfileWriter::tr("Move it aside so an ordinary file can take its place, then try again.");
+    case anotherWriterBusy: return QString();
+    case EACCES:
+    case EPERM: return ProfileWriter::tr("Make sure the file belongs to you and may be changed, then try again.");
+    case ENOSPC:
+    case EDQUOT: return ProfileWriter::tr("Your disk is full: free up some space, then try again.");
+    case EROFS: return ProfileWriter::tr("The disk it is on cannot be changed right now.");
+    default: return ProfileWriter::tr("The file was left as it was; try again.");
+    }
+}
+
+// "<what failed>: <why>. <what to do>"
+QString failureText(const QString& what, int error)
+{
+    const QString advice = adviceText(error);
+    return advice.isEmpty() ? QStringLiteral("%1: %2.").arg(what, reasonText(error))
+                            : QStringLiteral("%1: %2. %3").arg(what, reasonText(error), advice);
+}
+
 ServiceError saveFailed(const QString& path, int error)
 {
-    return ServiceError::message(
-        ProfileWriter::tr("Could not save the API key to %1: %2").arg(path, reasonText(error)));
+    return ServiceError::message(failureText(ProfileWriter::tr("Could not save the API key to %1").arg(path), error));
 }
 
 // Writes all of `bytes` at `offset`; the number of bytes written before a failure, with errno set.
@@ -500,7 +523,7 @@ Result<bool> ProfileWriter::addSearchPathBlock(const QString& path, ShellFamily 
     });
     if (error != 0)
         return ServiceError::message(
-            tr("Could not add ~/.local/bin to the search path in %1: %2").arg(path, reasonText(error)));
+            failureText(tr("Could not add ~/.local/bin to the search path in %1").arg(path), error));
     return added;
 }
 

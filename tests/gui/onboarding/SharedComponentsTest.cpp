@@ -1,7 +1,7 @@
 #include "FakePlatform.h"
 #include "SharedComponents.h"
-#include "WelcomeView.h"
 #include "TestSupport.h"
+#include "WelcomeView.h"
 
 #include "Label.h"
 #include "RoundedCard.h"

@@ -459,7 +459,8 @@ TEST_F(ApiKeyTest, AProfileThatCannotBeAppendedToIsAClearError)
     const Result<QString> result = save(QStringLiteral("sk-1"), CLITool::claudeCode);
     ASSERT_FALSE(result.ok());
     EXPECT_EQ(result.error().errorDescription(),
-              QStringLiteral("Could not save the API key to %1: it is not an ordinary file")
+              QStringLiteral("Could not save the API key to %1: it is not an ordinary file. Move it aside so an "
+                             "ordinary file can take its place, then try again.")
                   .arg(sandbox.path(QStringLiteral(".zshrc"))));
     EXPECT_TRUE(QDir(sandbox.path(QStringLiteral(".zshrc"))).isEmpty());
     EXPECT_FALSE(qEnvironmentVariableIsSet("ANTHROPIC_API_KEY"));

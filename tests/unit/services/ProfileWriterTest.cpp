@@ -175,13 +175,16 @@ TEST(ProfileWriterFiles, AFullDiskIsNamedAndBreaksNothing)
                                                line);
     ASSERT_FALSE(appended.ok());
     EXPECT_EQ(appended.error().errorDescription(),
-              QStringLiteral("Could not save the API key to %1: No space left on device").arg(profile));
+              QStringLiteral("Could not save the API key to %1: No space left on device. Your disk is full: free up "
+                             "some space, then try again.")
+                  .arg(profile));
     const auto rewritten = saveKey(profile, QStringLiteral("ANTHROPIC_API_KEY"), QStringLiteral("Claude Code"),
                                    QStringLiteral("sk-ant-a-much-longer-key"));
     ASSERT_FALSE(rewritten.ok());
     const auto block = ProfileWriter::addSearchPathBlock(profile);
     ASSERT_FALSE(block.ok());
-    EXPECT_TRUE(block.error().errorDescription().endsWith(QStringLiteral("No space left on device")));
+    EXPECT_TRUE(
+        block.error().errorDescription().contains(QStringLiteral("No space left on device. Your disk is full")));
     EXPECT_EQ(read(profile), before);
 
     // Once there is room again, the next save and the block go in whole.
@@ -208,15 +211,19 @@ TEST(ProfileWriterFiles, AReadOnlyProfileIsRefusedWhateverTheChange)
                                    QStringLiteral("new"));
     ASSERT_FALSE(rewritten.ok());
     EXPECT_EQ(rewritten.error().errorDescription(),
-              QStringLiteral("Could not save the API key to %1: Permission denied").arg(profile));
+              QStringLiteral("Could not save the API key to %1: Permission denied. Make sure the file belongs to you "
+                             "and may be changed, then try again.")
+                  .arg(profile));
     const auto appended = saveKey(profile, QStringLiteral("GEMINI_API_KEY"), QStringLiteral("Gemini CLI"),
                                   QStringLiteral("new"));
     ASSERT_FALSE(appended.ok());
-    EXPECT_TRUE(appended.error().errorDescription().endsWith(QStringLiteral("Permission denied")));
+    EXPECT_TRUE(appended.error().errorDescription().contains(QStringLiteral(": Permission denied. Make sure")));
     const auto block = ProfileWriter::addSearchPathBlock(profile);
     ASSERT_FALSE(block.ok());
     EXPECT_EQ(block.error().errorDescription(),
-              QStringLiteral("Could not add ~/.local/bin to the search path in %1: Permission denied").arg(profile));
+              QStringLiteral("Could not add ~/.local/bin to the search path in %1: Permission denied. Make sure the "
+                             "file belongs to you and may be changed, then try again.")
+                  .arg(profile));
     EXPECT_EQ(read(profile), before);
     EXPECT_EQ(QFileInfo(profile).permissions() & QFile::WriteOwner, 0);
 
@@ -267,7 +274,9 @@ TEST(ProfileWriterFiles, OnlyOrdinaryFilesAreWrittenAndLinksAreFollowed)
                                                  line);
         ASSERT_FALSE(stored.ok());
         EXPECT_EQ(stored.error().errorDescription(),
-                  QStringLiteral("Could not save the API key to %1: it is not an ordinary file").arg(device));
+                  QStringLiteral("Could not save the API key to %1: it is not an ordinary file. Move it aside so an "
+                                 "ordinary file can take its place, then try again.")
+                      .arg(device));
         EXPECT_EQ(entries(QStringLiteral("/dev")), devBefore);
     }
 }
