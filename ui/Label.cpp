@@ -99,11 +99,14 @@ int Label::heightForWidth(int width) const
 
 QSize Label::sizeHint() const
 {
-    if (m_maximumLines == 0)
+    // A wrapping plain text prefers one line too: Qt's own guess for wrapped text is a narrow
+    // block, which breaks a short line that sits centred between stretches.
+    if (m_maximumLines == 0 && (!wordWrap() || textFormat() == Qt::RichText || Qt::mightBeRichText(text())))
         return QLabel::sizeHint();
     const QFontMetrics metrics(font());
     // Prefer one line, as wide as the text wants, and let the layout narrow it.
-    const int wide = metrics.horizontalAdvance(text()) + 1;
+    const QMargins m = contentsMargins();
+    const int wide = metrics.horizontalAdvance(text()) + 1 + m.left() + m.right();
     return {wide, heightForWidth(wide)};
 }
 

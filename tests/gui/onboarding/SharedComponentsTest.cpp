@@ -5,8 +5,10 @@
 
 #include "Label.h"
 #include "RoundedCard.h"
+#include "Theme.h"
 
 #include <QClipboard>
+#include <QHBoxLayout>
 #include <QTest>
 
 #include <algorithm>
@@ -139,4 +141,26 @@ TEST(ToolCard, TheChosenCardsDividerHasTwelvePointsOnBothSides)
     for (auto* label : details->findChildren<ui::Label*>())
         firstFeatureTop = std::min(firstFeatureTop, label->mapTo(&card, QPoint()).y());
     EXPECT_EQ(firstFeatureTop - (lineRect.bottom() + 1), 12);
+}
+
+TEST(Label, AShortWrappingTextCentredBetweenStretchesStaysOnOneLine)
+{
+    QWidget row;
+    auto* layout = new QHBoxLayout(&row);
+    layout->addStretch(1);
+    auto* label = new ui::Label(QStringLiteral("Free tier available, Pro plan for more usage"), ui::Theme::caption());
+    label->setWrapping(true);
+    layout->addWidget(label);
+    layout->addStretch(1);
+    row.resize(900, 200);
+    row.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&row));
+    const int lineSpacing = QFontMetrics(label->font()).lineSpacing();
+    EXPECT_LT(label->heightForWidth(label->width()), 2 * lineSpacing) << "one line";
+    EXPECT_GE(label->width(), QFontMetrics(label->font()).horizontalAdvance(label->text()));
+
+    // Narrowed, it wraps rather than running out of its row.
+    row.resize(140, 200);
+    QTRY_VERIFY(label->width() <= 140);
+    EXPECT_GE(label->heightForWidth(label->width()), 2 * lineSpacing);
 }
