@@ -199,7 +199,15 @@ bool showsFocusRing(const QWidget* widget)
     // A screen that holds the focus until its main control can take it is no control.
     if (!widget->hasFocus() || !widget->window() || widget->focusPolicy() == Qt::NoFocus)
         return false;
-    return widget->window()->testAttribute(Qt::WA_KeyboardFocusChange) || qobject_cast<const QLineEdit*>(widget);
+    if (qobject_cast<const QLineEdit*>(widget))
+        return true;
+    // A sheet opened from a window that is being moved through by keyboard is too.
+    for (const QWidget* window = widget->window(); window;
+         window = window->parentWidget() ? window->parentWidget()->window() : nullptr) {
+        if (window->testAttribute(Qt::WA_KeyboardFocusChange))
+            return true;
+    }
+    return false;
 }
 
 void setFocusRingRadius(QWidget* control, qreal radius) { control->setProperty(kRadiusProperty, radius); }

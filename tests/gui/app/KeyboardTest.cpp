@@ -1,6 +1,7 @@
 #include "ScreenTour.h"
 
 #include "Button.h"
+#include "FocusRing.h"
 #include "HomeView.h"
 #include "Theme.h"
 #include "ToolCards.h"
@@ -201,6 +202,8 @@ TEST_F(KeyboardTest, ARemovalSheetStartsOnItsMainButtonAndGivesTheFocusBack)
     RemovalSheet* sheet = waitForSheet(home);
     ASSERT_NE(sheet, nullptr);
     EXPECT_EQ(QApplication::focusWidget(), test::child<QWidget>(sheet, QStringLiteral("uninstallButton")));
+    // Opened by keyboard, it shows where the focus is before any Tab.
+    EXPECT_TRUE(ui::showsFocusRing(QApplication::focusWidget()));
     sweep(sheet);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
     test::settle();
