@@ -524,8 +524,11 @@ QCoro::Task<Result<QString>> ToolInstaller::saveAPIKey(QString key, CLITool tool
         return ProfileWriter::store(profile.path, variable, displayName, line, profile.family);
     });
     const Result<ProfileWriter::ProfileChange> stored = co_await storing;
-    if (!stored)
-        co_return stored.error();
+    if (!stored) {
+        // Named as the screen's caption names it.
+        QString reason = stored.error().errorDescription();
+        co_return ServiceError::message(reason.replace(profile.path, displayedPath(profile.path)));
+    }
     qputenv(variable.toUtf8().constData(), key.toUtf8());
     if (stored.value().afterComputedValue)
         co_return computedValueNotice(variable, displayedPath(profile.path));

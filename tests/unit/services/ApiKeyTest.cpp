@@ -461,7 +461,7 @@ TEST_F(ApiKeyTest, AProfileThatCannotBeAppendedToIsAClearError)
     EXPECT_EQ(result.error().errorDescription(),
               QStringLiteral("Could not save the API key to %1: it is not an ordinary file. Move it aside so an "
                              "ordinary file can take its place, then try again.")
-                  .arg(sandbox.path(QStringLiteral(".zshrc"))));
+                  .arg(QStringLiteral("~/.zshrc")));
     EXPECT_TRUE(QDir(sandbox.path(QStringLiteral(".zshrc"))).isEmpty());
     EXPECT_FALSE(qEnvironmentVariableIsSet("ANTHROPIC_API_KEY"));
 }
