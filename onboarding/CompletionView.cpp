@@ -253,13 +253,19 @@ void CompletionView::buildContent(CLITool tool, QVBoxLayout* column)
     auto* signIn = roundedCard(QStringLiteral("signInRow"), 8, Tint(brand, 0.1));
     auto* signInRow = hstack(signIn, 8, QMargins(12, 12, 12, 12));
     signInRow->addWidget(new SymbolView(QStringLiteral("person.circle.fill"), 13, Tint(brand)), 0, Qt::AlignTop);
-    auto* note = new Label(tool.signInNote(), Theme::callout(), Tint(Role::secondary));
+    // Once a key is saved, that is how the tool signs in.
+    const bool keySaved = !m_state.apiKey().isEmpty();
+    auto* note = new Label(keySaved ? tr("Your API key is saved: new terminal windows give it to %1 as %2.")
+                                          .arg(tool.displayName(), tool.apiKeyEnvVar())
+                                    : tool.signInNote(),
+                           Theme::callout(), Tint(Role::secondary));
+    note->setObjectName(QStringLiteral("signInNote"));
     note->setWrapping(true);
     signInRow->addWidget(note, 1);
     quick->addWidget(signIn);
 
     // Where a key is stored instead of signing in.
-    auto* useKey = new Button(tr("Use an API Key Instead"), Button::Style::link);
+    auto* useKey = new Button(keySaved ? tr("Change API Key") : tr("Use an API Key Instead"), Button::Style::link);
     useKey->setObjectName(QStringLiteral("useAPIKeyButton"));
     useKey->setTitleFont(Theme::callout());
     useKey->setTrailingSymbol(QStringLiteral("chevron.right"), 9, SymbolWeight::semibold);

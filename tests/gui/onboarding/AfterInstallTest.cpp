@@ -206,6 +206,16 @@ TEST_F(AfterInstallTest, TheAPIKeyDetourReturnsToTheSameCompletion)
     EXPECT_FALSE(QFile::exists(QDir::homePath() + QStringLiteral("/.zshrc")));
     EXPECT_FALSE(qEnvironmentVariableIsSet("ANTHROPIC_API_KEY"));
     EXPECT_TRUE(state.apiKey().isEmpty());
+    EXPECT_EQ(text("signInNote"), CLITool(CLITool::claudeCode).signInNote());
+
+    // With a key saved, the screen no longer asks to sign in, and the link changes the key.
+    state.setApiKey(QStringLiteral("sk-ant-1"));
+    open(InstallationStep::completion, CLITool::claudeCode);
+    EXPECT_EQ(
+        text("signInNote"),
+        QStringLiteral("Your API key is saved: new terminal windows give it to Claude Code as ANTHROPIC_API_KEY."));
+    EXPECT_EQ(test::child<QAbstractButton>(screen(), QStringLiteral("useAPIKeyButton"))->text(),
+              QStringLiteral("Change API Key"));
 }
 
 TEST_F(AfterInstallTest, TheTerminalScreenLaunchesOncePerArrival)
