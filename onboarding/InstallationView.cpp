@@ -14,6 +14,8 @@
 #include <QClipboard>
 #include <QCoro/QCoroTask>
 #include <QGuiApplication>
+#include <QLayout>
+#include <QTimer>
 
 namespace qf {
 
@@ -290,9 +292,28 @@ void InstallationView::render()
     m_detailsToggle->setAccessibleDescription(m_showDetails ? tr("Expanded") : tr("Collapsed"));
     m_log->setVisible(m_showDetails);
 
+    // What went wrong, or what to know about a result, may lie below what a small window shows:
+    // it is brought into view when it appears.
+    QWidget* appearing = nullptr;
+    if (error.has_value() && m_errorCard->isHidden())
+        appearing = m_errorCard;
     m_errorCard->setVisible(error.has_value());
-    if (m_caveats)
-        m_caveats->setVisible(complete && !m_state.caveats().isEmpty());
+    if (m_caveats) {
+        const bool caveats = complete && !m_state.caveats().isEmpty();
+        if (caveats && m_caveats->isHidden())
+            appearing = m_caveats;
+        m_caveats->setVisible(caveats);
+    }
+    if (appearing) {
+        QTimer::singleShot(0, appearing, [this, appearing] {
+            if (!appearing->isVisible())
+                return;
+            // Laid out first, so that the place scrolled to is its final one.
+            if (QLayout* layout = scrollView()->content()->layout())
+                layout->activate();
+            scrollView()->ensureWidgetVisible(appearing, 0, 24);
+        });
+    }
     m_errorText->setText(error.value_or(QString()));
     m_errorCard->setAccessibleDescription(error.value_or(QString()));
 

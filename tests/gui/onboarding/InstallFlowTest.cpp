@@ -6,6 +6,7 @@
 #include "InstallationState.h"
 #include "InstallationView.h"
 #include "Label.h"
+#include "Layout.h"
 #include "LogFile.h"
 #include "LogView.h"
 #include "MainWindow.h"
@@ -267,13 +268,20 @@ TEST_F(InstallFlowTest, FailingCommandsEndInTheErrorCard)
 {
     sandbox.installFakes({"git", "npm", "node"});
     sandbox.setEnv("FAKE_NPM_FAIL", "1");
-    open(InstallationStep::installation, CLITool::geminiCLI);
+    // The smallest window: the card lies below the steps.
+    open(InstallationStep::installation, CLITool::geminiCLI, QSize(550, 450));
     waitForInstallation();
     EXPECT_EQ(step(SetupStepType::installNode).status, SetupStepStatus(SetupStepStatus::skipped));
     EXPECT_EQ(step(SetupStepType::installTool).status.kind(), SetupStepStatus::failed);
-    // The command's own words are in the log; the card says that it failed.
+    // The command's own words are in the log; the card says that it failed, and is scrolled
+    // into view.
     EXPECT_TRUE(state.installationOutput().contains(QStringLiteral("404 Not Found")));
     EXPECT_EQ(text("errorMessage"), failureSentence(FailureCause::notFound));
+    const QWidget* viewport = screenAs<InstallationView>()->scrollView()->viewport();
+    const QWidget* sentence = test::child(screen(), QStringLiteral("errorMessage"));
+    EXPECT_TRUE(QTest::qWaitFor([viewport, sentence] {
+        return viewport->rect().contains(QRect(sentence->mapTo(viewport, QPoint()), sentence->size()));
+    })) << "the error is out of sight";
 
     // npm reports success but the command never appears.
     sandbox.setEnv("FAKE_NPM_FAIL", "");
