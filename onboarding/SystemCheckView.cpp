@@ -2,6 +2,7 @@
 
 #include "InstallationState.h"
 #include "Services.h"
+#include "TerminalFallback.h"
 
 #include "ActivityIndicator.h"
 #include "Expander.h"
@@ -12,6 +13,7 @@
 
 #include <QCoro/QCoroTask>
 #include <QLocale>
+#include <QPointer>
 
 namespace qf {
 
@@ -103,11 +105,11 @@ RequirementRow::RequirementRow(const RequirementStatus& status, const SystemWord
     word->setObjectName(QStringLiteral("requirementStatus"));
     row->addWidget(word, 0, Qt::AlignVCenter);
     if (blocking && fix) {
-        auto* fixButton = new Button(tr("Install"), Button::Style::bordered);
-        fixButton->setObjectName(QStringLiteral("requirementFixButton"));
-        fixButton->setAccessibleName(tr("Install %1").arg(title));
-        connect(fixButton, &QAbstractButton::clicked, this, std::move(fix));
-        row->addWidget(fixButton, 0, Qt::AlignVCenter);
+        m_fix = new Button(tr("Install"), Button::Style::bordered);
+        m_fix->setObjectName(QStringLiteral("requirementFixButton"));
+        m_fix->setAccessibleName(tr("Install %1").arg(title));
+        connect(m_fix, &QAbstractButton::clicked, this, std::move(fix));
+        row->addWidget(m_fix, 0, Qt::AlignVCenter);
     }
     column->addLayout(row);
     setAccessibleDescription(status.details + QStringLiteral(", ") + word->text());
@@ -215,6 +217,8 @@ SystemCheckView::SystemCheckView(InstallationState& state, Services& services, Q
     connect(again, &QAbstractButton::clicked, this, &SystemCheckView::startCheck);
     blocked->addWidget(again, 0, Qt::AlignTop);
     column->addWidget(m_blocked);
+    m_installerSlot = vstack(0, QMargins(24, 0, 24, 0));
+    column->addLayout(m_installerSlot);
     column->addStretch(1);
 
     addBackToHome(m_state);
@@ -247,6 +251,9 @@ void SystemCheckView::startCheck()
     if (!tool)
         return;
     m_isChecking = true;
+    // A new look replaces what the last one offered.
+    delete m_installerFallback;
+    m_installerFallback = nullptr;
     render();
     QCoro::connect(checkSystem(*tool, m_services.runner, m_services.detector), this, [this](const SystemCheck& check) {
         if (check.toolInstalled) {
@@ -275,21 +282,39 @@ void SystemCheckView::rebuildRequirementRows()
         // Git comes with the system's developer tools, whose installer the row offers.
         std::function<void()> fix;
         if (status.requirement == SystemRequirement::git)
-            fix = [this] { m_services.platform.startDeveloperToolsInstaller(); };
+            fix = [this] { startDeveloperToolsInstaller(); };
         m_requirementList->layout()->addWidget(new RequirementRow(status, wording, note, std::move(fix)));
     }
     // The rows come after the bottom bar was made; Tab still reads them first.
     orderTabChain(this);
 }
 
+void SystemCheckView::startDeveloperToolsInstaller()
+{
+    delete m_installerFallback;
+    m_installerFallback = nullptr;
+    const QString line = m_services.platform.developerToolsItem().installLine;
+    m_services.platform.startDeveloperToolsInstaller([screen = QPointer(this), line](bool started) {
+        if (!screen || started || line.isEmpty())
+            return;
+        delete screen->m_installerFallback;
+        screen->m_installerFallback = new TerminalFallbackRow(
+            tr("The installer could not be started"), tr("Open a terminal yourself and type this line:"), line, {});
+        screen->m_installerFallback->setObjectName(QStringLiteral("installerFallback"));
+        screen->m_installerSlot->addWidget(screen->m_installerFallback);
+        screen->m_installerFallback->show();
+    });
+}
+
 QWidget* SystemCheckView::mainControl() const
 {
     if (m_main->isEnabled() || m_isChecking)
         return m_main;
+    // Blocked: the first thing to do is the fix a row offers, else reading why.
     const QList<RequirementRow*> rows = requirementRows();
     for (RequirementRow* row : rows) {
         if (!row->isMet())
-            return row->helpButton();
+            return row->fixButton() ? static_cast<QWidget*>(row->fixButton()) : row->helpButton();
     }
     return rows.isEmpty() ? nullptr : rows.first()->helpButton();
 }

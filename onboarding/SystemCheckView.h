@@ -5,6 +5,8 @@
 #include "FlowScreen.h"
 #include "SetupModel.h"
 
+#include <QVBoxLayout>
+
 #include <optional>
 
 namespace qf {
@@ -36,6 +38,8 @@ public:
     bool showsHelp() const { return m_showHelp; }
     bool isMet() const { return m_isMet; }
     ui::Button* helpButton() const { return m_help; }
+    // The button that fixes the requirement, when the row offers one.
+    ui::Button* fixButton() const { return m_fix; }
 
 private:
     void render(bool animated);
@@ -43,6 +47,7 @@ private:
     bool m_showHelp = false;
     bool m_isMet;
     ui::Button* m_help;
+    ui::Button* m_fix = nullptr;
     ui::Expander* m_helpArea;
 };
 
@@ -72,6 +77,9 @@ protected:
 
 private:
     void startCheck();
+    // Starts the system's installer for the developer tools (which bring git); where it cannot
+    // start, the screen shows the line to type instead.
+    void startDeveloperToolsInstaller();
     void render();
     void rebuildRequirementRows();
 
@@ -88,6 +96,9 @@ private:
     QWidget* m_requirementList;
     QWidget* m_blocked;
     ui::Label* m_blockedText;
+    // Where the developer tools' installer could not be started: the line to type instead.
+    QWidget* m_installerFallback = nullptr;
+    QVBoxLayout* m_installerSlot = nullptr;
     ui::Button* m_main;
 };
 

@@ -189,10 +189,23 @@ TEST_F(InstallFlowTest, MissingGitBlocksTheInstallationAndOffersItsInstaller)
     EXPECT_FALSE(button("mainButton")->isEnabled());
     EXPECT_EQ(text("blockedReason"),
               QStringLiteral("Install is not available until this is fixed: Git (Not installed)."));
-    // The row offers the system's installer, as the dashboard does; once git is there, a
-    // second look lets the installation start.
-    test::child<QAbstractButton>(gitRow, QStringLiteral("requirementFixButton"))->click();
+    // The row offers the system's installer, as the dashboard does, and the screen starts there.
+    auto* fix = test::child<QAbstractButton>(gitRow, QStringLiteral("requirementFixButton"));
+    EXPECT_EQ(QApplication::focusWidget(), fix);
+    // Where it cannot start, the screen says so with the line to type.
+    platform.terminalOpens = false;
+    fix->click();
     EXPECT_EQ(platform.installersStarted, 1);
+    const QWidget* fallback = test::child(screen(), QStringLiteral("installerFallback"));
+    ASSERT_TRUE(shows(fallback));
+    bool namesTheLine = false;
+    for (const QLabel* label : fallback->findChildren<QLabel*>())
+        namesTheLine = namesTheLine || label->text() == platform.developerToolsItem().installLine;
+    EXPECT_TRUE(namesTheLine);
+    // Once git is there, a second look lets the installation start, and the advice goes.
+    platform.terminalOpens = true;
+    fix->click();
+    EXPECT_EQ(screen()->findChild<QWidget*>(QStringLiteral("installerFallback")), nullptr);
     sandbox.installFake(QStringLiteral("git"));
     click("checkAgainButton");
     waitForCheck();
