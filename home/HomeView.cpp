@@ -340,6 +340,8 @@ void HomeView::showActionFallback(const ActionFallback& fallback)
     m_fallback = new TerminalFallbackRow(fallback.title, fallback.hint, fallback.copyText, {});
     m_fallbackRow->addWidget(m_fallback);
     m_fallback->show();
+    // Its copy button is read where it shows, before the cards below it.
+    ui::orderTabChain(this);
 }
 
 } // namespace qf

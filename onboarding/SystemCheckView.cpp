@@ -303,6 +303,7 @@ void SystemCheckView::startDeveloperToolsInstaller()
         screen->m_installerFallback->setObjectName(QStringLiteral("installerFallback"));
         screen->m_installerSlot->addWidget(screen->m_installerFallback);
         screen->m_installerFallback->show();
+        orderTabChain(screen);
     });
 }
 

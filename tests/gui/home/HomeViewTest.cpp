@@ -343,7 +343,13 @@ TEST_F(HomeTest, AnActionThatCannotRunSaysSoWithWhatToDoInstead)
     ASSERT_TRUE(shows(test::child(view.get(), QStringLiteral("terminalFallback"))));
     EXPECT_EQ(test::child<QLabel>(view.get(), QStringLiteral("terminalFallbackLine"))->text(),
               QStringLiteral("xcode-select --install"));
-    EXPECT_NE(view->findChild<QAbstractButton*>(QStringLiteral("copyButton")), nullptr);
+    auto* copy = view->findChild<QAbstractButton*>(QStringLiteral("copyButton"));
+    ASSERT_NE(copy, nullptr);
+    // Tab reads it where it shows: from its copy button on to the cards below it.
+    QApplication::setActiveWindow(view->window());
+    copy->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(copy, Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), card(*view, "xcode")->actionButton());
 
     // No file manager for the projects folder: its path, replacing the notice before.
     platform.fileManagerAnswers = false;
