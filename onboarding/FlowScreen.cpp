@@ -10,6 +10,8 @@
 #include "Symbol.h"
 #include "Theme.h"
 
+#include <QAbstractButton>
+#include <QApplication>
 #include <QPainter>
 #include <QShortcut>
 
@@ -61,8 +63,15 @@ ui::Button* FlowScreen::addBackToHome(InstallationState& state)
 
 void FlowScreen::pressDefaultButton()
 {
-    if (m_default && m_default->isVisible() && m_default->isEnabled())
+    if (m_default && m_default->isVisible() && m_default->isEnabled()) {
         m_default->animateClick();
+        return;
+    }
+    // With the main button unavailable (a blocked check), Return presses the focused button:
+    // the fix the screen starts on.
+    auto* focused = qobject_cast<QAbstractButton*>(QApplication::focusWidget());
+    if (focused && isAncestorOf(focused) && focused->isEnabled())
+        focused->animateClick();
 }
 
 void FlowScreen::showEvent(QShowEvent* event)
