@@ -14,6 +14,7 @@
 #include <QCoro/QCoroTask>
 #include <QLocale>
 #include <QPointer>
+#include <QTimer>
 
 namespace qf {
 
@@ -304,6 +305,11 @@ void SystemCheckView::startDeveloperToolsInstaller()
         screen->m_installerSlot->addWidget(screen->m_installerFallback);
         screen->m_installerFallback->show();
         orderTabChain(screen);
+        // Below the requirements a small window may not show it: bring it into view once laid out.
+        QTimer::singleShot(0, screen->m_installerFallback, [screen] {
+            if (screen && screen->m_installerFallback)
+                screen->scrollView()->ensureWidgetVisible(screen->m_installerFallback, 0, 24);
+        });
     });
 }
 
