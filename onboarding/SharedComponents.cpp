@@ -81,6 +81,12 @@ CopiedToastPresenter::CopiedToastPresenter(QWidget* host, int bottomPadding)
 {
     m_toast->hide();
     host->installEventFilter(this);
+    m_hide.setSingleShot(true);
+    m_hide.setInterval(visibleMs);
+    connect(&m_hide, &QTimer::timeout, this, [this] {
+        m_showing = false;
+        m_presence.setTarget(0.0);
+    });
 }
 
 void CopiedToastPresenter::present()
@@ -91,10 +97,7 @@ void CopiedToastPresenter::present()
     place();
     m_toast->raise();
     m_presence.setTarget(1.0);
-    QTimer::singleShot(visibleMs, this, [this] {
-        m_showing = false;
-        m_presence.setTarget(0.0);
-    });
+    m_hide.start();
 }
 
 void CopiedToastPresenter::apply(qreal shown)

@@ -3,6 +3,7 @@
 #include "Button.h"
 #include "RoundedCard.h"
 
+#include <QTimer>
 #include <functional>
 
 class QEasingCurve;
@@ -56,9 +57,12 @@ class CopiedToastPresenter : public QObject {
 public:
     CopiedToastPresenter(QWidget* host, int bottomPadding);
 
+    // Shows the toast for `visibleMs`; while it shows, another copy changes nothing.
     void present();
     bool isShowing() const { return m_showing; }
     CopiedToast* toast() const { return m_toast; }
+    // Runs while the toast shows and hides it when it fires.
+    const QTimer& hideTimer() const { return m_hide; }
 
     static constexpr int visibleMs = 1500;
 
@@ -73,6 +77,7 @@ private:
     int m_bottomPadding;
     CopiedToast* m_toast;
     bool m_showing = false;
+    QTimer m_hide;
     ui::motion::Transition m_presence;
 };
 
