@@ -67,7 +67,7 @@ void APIKeyView::buildContent(CLITool tool, Platform& platform, const QString& p
     auto* title = flow::centredText(tr("Set Up API Key"), Theme::font(22, QFont::Bold));
     title->setObjectName(QStringLiteral("apiKeyTitle"));
     header->addWidget(title);
-    header->addWidget(flow::centredText(tr("Get your API key to start using ") + tool.displayName(), Theme::body(),
+    header->addWidget(flow::centredText(tr("Get your API key to start using %1").arg(tool.displayName()), Theme::body(),
                                         Tint(Role::secondary)));
     column->addLayout(header);
 

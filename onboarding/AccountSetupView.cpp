@@ -99,7 +99,7 @@ void AccountSetupView::buildContent(CLITool tool, Platform& platform, QVBoxLayou
     auto* header = vstack(16, QMargins(24, 0, 24, 0));
     header->addWidget(flow::toolLogo(tool, 64, 14, 10, 5), 0, Qt::AlignHCenter);
     auto* titles = vstack(8);
-    auto* title = flow::centredText(tr("Before you install ") + tool.displayName(), Theme::font(17, QFont::Bold));
+    auto* title = flow::centredText(tr("Before you install %1").arg(tool.displayName()), Theme::font(17, QFont::Bold));
     title->setObjectName(QStringLiteral("accountTitle"));
     titles->addWidget(title);
     auto* requirement = flow::centredText(tool.accountRequirement(), Theme::subheadline(), Tint(Role::secondary));

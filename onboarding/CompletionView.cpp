@@ -221,7 +221,7 @@ void CompletionView::buildContent(CLITool tool, QVBoxLayout* column)
     title->setObjectName(QStringLiteral("completionTitle"));
     titles->addWidget(title);
     auto* subtitle = flow::centredText(opened ? tr("Ready to use")
-                                              : tool.displayName() + tr(" is installed and ready to use"),
+                                              : tr("%1 is installed and ready to use").arg(tool.displayName()),
                                        Theme::body(), Tint(Role::secondary));
     subtitle->setObjectName(QStringLiteral("completionSubtitle"));
     titles->addWidget(subtitle);

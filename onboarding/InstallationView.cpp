@@ -281,7 +281,7 @@ void InstallationView::render()
         m_tile->present(*tool, installing ? ToolTile::Content::spinner
                                : complete ? ToolTile::Content::checkmark
                                           : ToolTile::Content::symbol);
-        m_title->setText(complete ? tr("Installation Complete!") : tr("Setting up ") + tool->displayName());
+        m_title->setText(complete ? tr("Installation Complete!") : tr("Setting up %1").arg(tool->displayName()));
         m_subtitle->setVisible(installing);
     }
 

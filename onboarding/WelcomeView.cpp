@@ -155,7 +155,7 @@ ToolCard::ToolCard(CLITool tool, Platform& platform, QWidget* parent)
     auto* name = new Label(tool.displayName(), Theme::headline());
     name->setObjectName(QStringLiteral("toolName"));
     nameRow->addWidget(name, 0, Qt::AlignBaseline);
-    nameRow->addWidget(new Label(tr("by ") + tool.provider(), Theme::caption(), Tint(Role::secondary)), 0,
+    nameRow->addWidget(new Label(tr("by %1").arg(tool.provider()), Theme::caption(), Tint(Role::secondary)), 0,
                        Qt::AlignBaseline);
     nameRow->addStretch(1);
     text->addLayout(nameRow);

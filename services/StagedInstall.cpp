@@ -2,6 +2,7 @@
 
 #include "FileDescriptor.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QObject>
 
@@ -24,6 +25,9 @@ namespace qf::stagedInstall {
 
 namespace {
 
+// The staged install's own sentences, in their own translation context.
+QString trText(const char* text) { return QCoreApplication::translate("StagedInstall", text); }
+
 // Why an entry could not be installed, besides the system's error codes.
 constexpr int fileInTheWay = -1;   // a file, or a link to one, where a folder belongs
 constexpr int folderInTheWay = -2; // a folder, or a link to one, where a file belongs
@@ -39,9 +43,9 @@ struct Failure {
 QString reasonText(int error)
 {
     if (error == fileInTheWay)
-        return QObject::tr("a file is where a folder belongs");
+        return trText("a file is where a folder belongs");
     if (error == folderInTheWay)
-        return QObject::tr("a folder is where a file belongs");
+        return trText("a folder is where a file belongs");
     return QString::fromLocal8Bit(std::strerror(error));
 }
 
@@ -517,15 +521,14 @@ Result<Staging> begin(const QString& destination)
         staging.madeFolders.append(pathText(path));
     if (error) {
         abandon(staging);
-        return ServiceError::message(
-            QObject::tr("Could not make the folder %1: %2").arg(destination, reasonText(error)));
+        return ServiceError::message(trText("Could not make the folder %1: %2").arg(destination, reasonText(error)));
     }
     std::string name = joined(folder, ".quillforge-staging-XXXXXX");
     if (!::mkdtemp(name.data())) {
         const int failed = errno;
         abandon(staging);
         return ServiceError::message(
-            QObject::tr("Could not prepare %1 for the installation: %2").arg(destination, reasonText(failed)));
+            trText("Could not prepare %1 for the installation: %2").arg(destination, reasonText(failed)));
     }
     staging.folder = pathText(name);
     return staging;
@@ -541,7 +544,7 @@ Result<void> complete(const Staging& staging, const QString& destination, const 
         merge.undo();
         abandon(staging);
         return ServiceError::message(
-            QObject::tr("Could not install %1: %2").arg(pathText(failure->path), reasonText(failure->error)));
+            trText("Could not install %1: %2").arg(pathText(failure->path), reasonText(failure->error)));
     }
     merge.finish();
     removeTree(pathBytes(staging.folder));
