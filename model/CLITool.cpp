@@ -106,18 +106,21 @@ const std::array<ToolTexts, 3> kTools = {{
 
 const ToolTexts& texts(CLITool tool) { return kTools[static_cast<size_t>(tool.index())]; }
 
-QString trText(const char* source) { return QCoreApplication::translate("CLITool", source); }
+// Sentences of this file, in their own translation context.
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(CLITool)
+};
 
 // The list properties are built once, on first use, and shared by every caller.
 const std::array<QStringList, 3>& featureTable()
 {
     static const std::array<QStringList, 3> table = {{
-        {trText("Works directly in your project folder"), trText("Can read, edit, and create files"),
-         trText("Runs commands and tests for you"), trText("Understands your entire codebase")},
-        {trText("Powered by Google's Gemini models"), trText("Great for code generation"),
-         trText("Helpful for technical explanations"), trText("Integrates with Google services")},
-        {trText("Built on OpenAI's GPT models"), trText("Strong at code completion"), trText("Wide language support"),
-         trText("Great for quick code generation")},
+        {Text::tr("Works directly in your project folder"), Text::tr("Can read, edit, and create files"),
+         Text::tr("Runs commands and tests for you"), Text::tr("Understands your entire codebase")},
+        {Text::tr("Powered by Google's Gemini models"), Text::tr("Great for code generation"),
+         Text::tr("Helpful for technical explanations"), Text::tr("Integrates with Google services")},
+        {Text::tr("Built on OpenAI's GPT models"), Text::tr("Strong at code completion"),
+         Text::tr("Wide language support"), Text::tr("Great for quick code generation")},
     }};
     return table;
 }
@@ -126,26 +129,26 @@ using AccountStepTable = std::array<QList<AccountSetupStep>, 3>;
 
 AccountStepTable buildAccountStepTable(const QString& installStep)
 {
-    const QString firstLaunch = trText("On first launch, your browser will open to authenticate.");
+    const QString firstLaunch = Text::tr("On first launch, your browser will open to authenticate.");
     return {{
         {
-            {trText("Create an Anthropic account"),
-             trText("Visit %1 and sign up with your email or Google account.").arg(QStringLiteral("claude.ai"))},
-            {trText("Choose a plan"), trText("Start with the free tier or upgrade to Pro for more usage.")},
-            {trText("Install Claude Code"), installStep},
-            {trText("Sign in from Terminal"), firstLaunch},
+            {Text::tr("Create an Anthropic account"),
+             Text::tr("Visit %1 and sign up with your email or Google account.").arg(QStringLiteral("claude.ai"))},
+            {Text::tr("Choose a plan"), Text::tr("Start with the free tier or upgrade to Pro for more usage.")},
+            {Text::tr("Install Claude Code"), installStep},
+            {Text::tr("Sign in from Terminal"), firstLaunch},
         },
         {
-            {trText("Use your Google account"), trText("If you have Gmail, you already have an account!")},
-            {trText("Install Gemini CLI"), installStep},
-            {trText("Sign in with Google"), firstLaunch},
+            {Text::tr("Use your Google account"), Text::tr("If you have Gmail, you already have an account!")},
+            {Text::tr("Install Gemini CLI"), installStep},
+            {Text::tr("Sign in with Google"), firstLaunch},
         },
         {
-            {trText("Create an OpenAI account"),
-             trText("Visit %1 and sign up.").arg(QStringLiteral("platform.openai.com"))},
-            {trText("Add payment method"), trText("OpenAI requires a payment method for API usage.")},
-            {trText("Install Codex"), installStep},
-            {trText("Sign in from Terminal"), firstLaunch},
+            {Text::tr("Create an OpenAI account"),
+             Text::tr("Visit %1 and sign up.").arg(QStringLiteral("platform.openai.com"))},
+            {Text::tr("Add payment method"), Text::tr("OpenAI requires a payment method for API usage.")},
+            {Text::tr("Install Codex"), installStep},
+            {Text::tr("Sign in from Terminal"), firstLaunch},
         },
     }};
 }
@@ -163,23 +166,23 @@ const AccountStepTable& accountStepTable(const QString& installStep)
 const std::array<QList<ExampleCommand>, 3>& exampleCommandTable()
 {
     static const std::array<QList<ExampleCommand>, 3> table = [] {
-        const QString interactive = trText("Start interactive session");
-        const QString help = trText("Show all options");
+        const QString interactive = Text::tr("Start interactive session");
+        const QString help = Text::tr("Show all options");
         return std::array<QList<ExampleCommand>, 3>{{
             {
                 {QStringLiteral("claude"), interactive},
-                {QStringLiteral("claude \"fix the bug in auth.ts\""), trText("Quick task mode")},
+                {QStringLiteral("claude \"fix the bug in auth.ts\""), Text::tr("Quick task mode")},
                 {QStringLiteral("claude --help"), help},
-                {QStringLiteral("claude /init"), trText("Initialize project settings")},
+                {QStringLiteral("claude /init"), Text::tr("Initialize project settings")},
             },
             {
                 {QStringLiteral("gemini"), interactive},
-                {QStringLiteral("gemini \"explain this function\""), trText("Quick question")},
+                {QStringLiteral("gemini \"explain this function\""), Text::tr("Quick question")},
                 {QStringLiteral("gemini --help"), help},
             },
             {
                 {QStringLiteral("codex"), interactive},
-                {QStringLiteral("codex \"write a unit test\""), trText("Quick task")},
+                {QStringLiteral("codex \"write a unit test\""), Text::tr("Quick task")},
                 {QStringLiteral("codex --help"), help},
             },
         }};

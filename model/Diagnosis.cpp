@@ -10,7 +10,10 @@ namespace qf {
 
 namespace {
 
-QString trText(const char* text) { return QCoreApplication::translate("Diagnosis", text); }
+// Sentences of this file, in their own translation context.
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(Diagnosis)
+};
 
 // npm's own name for an error ("npm ERR! code EACCES", "npm error code E404").
 std::optional<FailureCause> npmCode(const QString& output)
@@ -117,23 +120,23 @@ QString failureSentence(FailureCause cause)
 {
     switch (cause) {
     case FailureCause::offline:
-        return trText("Your computer could not reach the internet. Check that you are online, then try again.");
+        return Text::tr("Your computer could not reach the internet. Check that you are online, then try again.");
     case FailureCause::unreachable:
-        return trText("The server could not be reached. Check that you are online, then try again.");
+        return Text::tr("The server could not be reached. Check that you are online, then try again.");
     case FailureCause::timedOut:
-        return trText("The connection timed out. Your internet may be slow or down: try again in a moment.");
+        return Text::tr("The connection timed out. Your internet may be slow or down: try again in a moment.");
     case FailureCause::secureConnection:
-        return trText("No secure connection to the server could be made. A proxy or security software on this "
-                      "network may be in the way: try another network, or ask whoever runs this one.");
+        return Text::tr("No secure connection to the server could be made. A proxy or security software on this "
+                        "network may be in the way: try another network, or ask whoever runs this one.");
     case FailureCause::permissionDenied:
-        return trText("Your user may not change a folder the installation needs. The log names it: make sure it "
-                      "belongs to you, then try again.");
-    case FailureCause::diskFull: return trText("Your disk is full. Free up some space, then try again.");
-    case FailureCause::notFound: return trText("What was asked for is not on the server right now. Try again later.");
+        return Text::tr("Your user may not change a folder the installation needs. The log names it: make sure it "
+                        "belongs to you, then try again.");
+    case FailureCause::diskFull: return Text::tr("Your disk is full. Free up some space, then try again.");
+    case FailureCause::notFound: return Text::tr("What was asked for is not on the server right now. Try again later.");
     case FailureCause::nodeTooOld:
-        return trText("Your Node.js is too old for this tool. Update Node.js (or remove the old one so a new one is "
-                      "installed), then try again.");
-    case FailureCause::cutOff: return trText("The download was cut off before it was complete. Try again.");
+        return Text::tr("Your Node.js is too old for this tool. Update Node.js (or remove the old one so a new one is "
+                        "installed), then try again.");
+    case FailureCause::cutOff: return Text::tr("The download was cut off before it was complete. Try again.");
     }
     return {};
 }
@@ -158,9 +161,9 @@ QString plainFailure(const QString& output)
         return failureSentence(*cause);
     const QString line = lastMeaningfulLine(output);
     if (line.isEmpty() || line == QLatin1String("Command failed"))
-        return trText("Something went wrong. The log has the details.");
+        return Text::tr("Something went wrong. The log has the details.");
     constexpr qsizetype shown = 300;
-    return trText("Something went wrong. The last message was: \u201c%1\u201d. The log has the details.")
+    return Text::tr("Something went wrong. The last message was: \u201c%1\u201d. The log has the details.")
         .arg(line.size() > shown ? line.left(shown) + QStringLiteral("\u2026") : line);
 }
 

@@ -4,7 +4,6 @@
 
 #include <QCoreApplication>
 #include <QFile>
-#include <QObject>
 
 #include <algorithm>
 #include <cerrno>
@@ -25,8 +24,10 @@ namespace qf::stagedInstall {
 
 namespace {
 
-// The staged install's own sentences, in their own translation context.
-QString trText(const char* text) { return QCoreApplication::translate("StagedInstall", text); }
+// Sentences of this file, in their own translation context.
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(StagedInstall)
+};
 
 // Why an entry could not be installed, besides the system's error codes.
 constexpr int fileInTheWay = -1;   // a file, or a link to one, where a folder belongs
@@ -43,9 +44,9 @@ struct Failure {
 QString reasonText(int error)
 {
     if (error == fileInTheWay)
-        return trText("a file is where a folder belongs");
+        return Text::tr("a file is where a folder belongs");
     if (error == folderInTheWay)
-        return trText("a folder is where a file belongs");
+        return Text::tr("a folder is where a file belongs");
     return QString::fromLocal8Bit(std::strerror(error));
 }
 
@@ -521,14 +522,14 @@ Result<Staging> begin(const QString& destination)
         staging.madeFolders.append(pathText(path));
     if (error) {
         abandon(staging);
-        return ServiceError::message(trText("Could not make the folder %1: %2").arg(destination, reasonText(error)));
+        return ServiceError::message(Text::tr("Could not make the folder %1: %2").arg(destination, reasonText(error)));
     }
     std::string name = joined(folder, ".quillforge-staging-XXXXXX");
     if (!::mkdtemp(name.data())) {
         const int failed = errno;
         abandon(staging);
         return ServiceError::message(
-            trText("Could not prepare %1 for the installation: %2").arg(destination, reasonText(failed)));
+            Text::tr("Could not prepare %1 for the installation: %2").arg(destination, reasonText(failed)));
     }
     staging.folder = pathText(name);
     return staging;
@@ -544,7 +545,7 @@ Result<void> complete(const Staging& staging, const QString& destination, const 
         merge.undo();
         abandon(staging);
         return ServiceError::message(
-            trText("Could not install %1: %2").arg(pathText(failure->path), reasonText(failure->error)));
+            Text::tr("Could not install %1: %2").arg(pathText(failure->path), reasonText(failure->error)));
     }
     merge.finish();
     removeTree(pathBytes(staging.folder));
