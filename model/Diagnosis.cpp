@@ -3,6 +3,7 @@
 #include <QRegularExpression>
 #include <QStringList>
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -146,13 +147,12 @@ QString lastMeaningfulLine(const QString& output)
     static const QRegularExpression marker(QStringLiteral("^(?:npm (?:ERR!|error|warn|WARN)|>+|[-=*#]+)\\s*$"));
     static const QRegularExpression stackFrame(QStringLiteral("^at\\s|^\\s*\\^+\\s*$"));
     const QStringList lines = output.split(QLatin1Char('\n'));
-    for (auto line = lines.crbegin(); line != lines.crend(); ++line) {
-        const QString text = line->trimmed();
-        if (text.isEmpty() || marker.match(text).hasMatch() || stackFrame.match(text).hasMatch())
-            continue;
-        return text;
-    }
-    return {};
+    // The last line that says something.
+    const auto said = std::find_if(lines.crbegin(), lines.crend(), [](const QString& line) {
+        const QString text = line.trimmed();
+        return !text.isEmpty() && !marker.match(text).hasMatch() && !stackFrame.match(text).hasMatch();
+    });
+    return said == lines.crend() ? QString() : said->trimmed();
 }
 
 QString plainFailure(const QString& output)
