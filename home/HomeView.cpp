@@ -176,7 +176,7 @@ void HomeView::loadData()
     m_isLoading = true;
     render();
     const int generation = ++m_loadGeneration;
-    QCoro::connect(loadDashboard(m_services.runner, m_services.platform), this,
+    QCoro::connect(loadDashboard(m_services.detector, m_services.runner, m_services.platform), this,
                    [this, generation](DashboardSnapshot snapshot) {
                        if (generation != m_loadGeneration)
                            return; // a newer load is on its way and will say what is there
