@@ -1,15 +1,15 @@
 #include "DashboardLoad.h"
 
+#include "SupportTools.h"
 #include "SystemDetector.h"
 
 namespace qf {
 
-QCoro::Task<DashboardSnapshot> loadDashboard(SystemDetector& detector, ShellRunner& shell, const Platform& platform)
+QCoro::Task<DashboardSnapshot> loadDashboard(SystemDetector& detector, SupportTools& supportTools)
 {
-    // Every check starts before the first one is awaited.
+    // Both start before the first one is awaited.
     QCoro::Task<QList<CLITool>> tools = detector.findInstalledTools();
-    QCoro::Task<QList<SystemTool>> items = detectSystemTools(systemToolCatalogue(platform), shell,
-                                                             platform.developerToolsItem());
+    QCoro::Task<QList<SystemTool>> items = supportTools.detectAll();
 
     DashboardSnapshot snapshot;
     snapshot.installedTools = co_await tools;

@@ -8,6 +8,7 @@
 
 namespace qf {
 
+class SupportTools;
 class SystemDetector;
 
 // What the dashboard shows after a load: the AI tools found on the search path, in catalogue
@@ -19,6 +20,6 @@ struct DashboardSnapshot {
 
 // Looks for every AI tool and every supporting item. All checks run at the same time; the
 // results are exactly those of checking one after another.
-QCoro::Task<DashboardSnapshot> loadDashboard(SystemDetector& detector, ShellRunner& shell, const Platform& platform);
+QCoro::Task<DashboardSnapshot> loadDashboard(SystemDetector& detector, SupportTools& supportTools);
 
 } // namespace qf
