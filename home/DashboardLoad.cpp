@@ -1,24 +1,18 @@
 #include "DashboardLoad.h"
 
-#include <vector>
+#include "SupportTools.h"
+#include "SystemDetector.h"
 
 namespace qf {
 
-QCoro::Task<DashboardSnapshot> loadDashboard(ShellRunner& shell, const Platform& platform)
+QCoro::Task<DashboardSnapshot> loadDashboard(SystemDetector& detector, SupportTools& supportTools)
 {
-    // Every check starts before the first one is awaited.
-    std::vector<QCoro::Task<Result<QString>>> lookups;
-    for (CLITool tool : CLITool::allCases())
-        lookups.push_back(shell.run(QStringLiteral("which ") + tool.commandName()));
-    QCoro::Task<QList<SystemTool>> items = detectSystemTools(systemToolCatalogue(platform), shell,
-                                                             platform.developerToolsItem());
+    // Both start before the first one is awaited.
+    QCoro::Task<QList<CLITool>> tools = detector.findInstalledTools();
+    QCoro::Task<QList<SystemTool>> items = supportTools.detectAll();
 
     DashboardSnapshot snapshot;
-    for (size_t i = 0; i < lookups.size(); ++i) {
-        const Result<QString> found = co_await lookups[i];
-        if (found)
-            snapshot.installedTools << CLITool::allCases()[i];
-    }
+    snapshot.installedTools = co_await tools;
     snapshot.systemTools = co_await items;
     co_return snapshot;
 }

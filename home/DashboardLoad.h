@@ -8,6 +8,9 @@
 
 namespace qf {
 
+class SupportTools;
+class SystemDetector;
+
 // What the dashboard shows after a load: the AI tools found on the search path, in catalogue
 // order, and the supporting items with their presence and versions.
 struct DashboardSnapshot {
@@ -15,8 +18,8 @@ struct DashboardSnapshot {
     QList<SystemTool> systemTools;
 };
 
-// Looks for every AI tool ("which" its command) and every supporting item. All checks run at
-// the same time; the results are exactly those of checking one after another.
-QCoro::Task<DashboardSnapshot> loadDashboard(ShellRunner& shell, const Platform& platform);
+// Looks for every AI tool and every supporting item. All checks run at the same time; the
+// results are exactly those of checking one after another.
+QCoro::Task<DashboardSnapshot> loadDashboard(SystemDetector& detector, SupportTools& supportTools);
 
 } // namespace qf

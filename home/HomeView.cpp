@@ -120,7 +120,7 @@ HomeView::HomeView(InstallationState& state, Services& services, QWidget* parent
 
     // One card per supporting item of the catalogue; a load fills in what it finds.
     auto* systemCards = vstack(8);
-    for (const SystemTool& tool : systemToolCatalogue(services.platform)) {
+    for (const SystemTool& tool : services.supportTools.catalogue()) {
         auto* card = new SystemToolCard(
             tool,
             [this](const SystemTool& item) {
@@ -176,7 +176,7 @@ void HomeView::loadData()
     m_isLoading = true;
     render();
     const int generation = ++m_loadGeneration;
-    QCoro::connect(loadDashboard(m_services.runner, m_services.platform), this,
+    QCoro::connect(loadDashboard(m_services.detector, m_services.supportTools), this,
                    [this, generation](DashboardSnapshot snapshot) {
                        if (generation != m_loadGeneration)
                            return; // a newer load is on its way and will say what is there
@@ -328,7 +328,7 @@ void HomeView::renderSheets()
         present(m_aiSheet, m_toolToUninstall);
     }
     if (m_systemToolToUninstall && !m_systemSheet) {
-        m_systemSheet = new SystemToolUninstallSheet(*m_systemToolToUninstall, m_services.runner, m_services.logs,
+        m_systemSheet = new SystemToolUninstallSheet(*m_systemToolToUninstall, m_services.supportTools, m_services.logs,
                                                      reload, flags, window());
         present(m_systemSheet, m_systemToolToUninstall);
     }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "CLITool.h"
-#include "SystemTool.h"
+#include "SystemToolAction.h"
 
 #include <QList>
 #include <QPointer>

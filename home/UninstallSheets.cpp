@@ -2,7 +2,7 @@
 
 #include "BoundedLog.h"
 #include "LogFile.h"
-#include "ShellRunner.h"
+#include "SupportTools.h"
 #include "ToolInstaller.h"
 
 #include "ActivityIndicator.h"
@@ -305,10 +305,12 @@ void UninstallSheet::performUninstall()
 
 // MARK: SystemToolUninstallSheet
 
-SystemToolUninstallSheet::SystemToolUninstallSheet(const SystemTool& tool, ShellRunner& shell, const LogBook& logs,
-                                                   std::function<void()> onComplete, Qt::WindowFlags flags,
-                                                   QWidget* parent)
-    : RemovalSheet(tool.name, logs, std::move(onComplete), flags, 340, parent), m_tool(tool), m_shell(shell)
+SystemToolUninstallSheet::SystemToolUninstallSheet(const SystemTool& tool, SupportTools& supportTools,
+                                                   const LogBook& logs, std::function<void()> onComplete,
+                                                   Qt::WindowFlags flags, QWidget* parent)
+    : RemovalSheet(tool.name, logs, std::move(onComplete), flags, 340, parent),
+      m_tool(tool),
+      m_supportTools(supportTools)
 {
     setObjectName(QStringLiteral("systemToolUninstallSheet"));
     render();
@@ -327,46 +329,16 @@ void SystemToolUninstallSheet::performUninstall()
 {
     if (!m_tool.uninstallCommand)
         return;
-    const QString command = *m_tool.uninstallCommand;
-    appendOutput(QStringLiteral("Running: ") + m_tool.uninstallShownAs.value_or(command) + QStringLiteral("\n\n"));
-    // The command may outlive the sheet ("Cancel" stays while it runs): its output then goes
+    // The removal may outlive the sheet ("Cancel" stays while it runs): its output then goes
     // to the log file only, and the next load of the dashboard shows what it did.
-    QCoro::connect(m_shell.runWithStreaming(command, outputSink(), nullptr, tr("The removal of %1").arg(m_tool.name)),
-                   this, [this](const Result<void>& result) {
-                       if (!result) {
-                           const ShellError* error = result.error().shellError();
-                           const bool declined = error && error->kind() == ShellError::commandFailed &&
-                                                 error->exitCode() == kAdministratorDeclined;
-                           finish(declined ? ToolInstaller::administratorDeclinedMessage(m_tool.name)
-                                           : plainFailureFor(result.error()));
-                           return;
-                       }
-                       confirmRemoval();
-                   });
-}
-
-void SystemToolUninstallSheet::confirmRemoval()
-{
-    // Homebrew's own removal script can end well and leave Homebrew in place: only a search
-    // that no longer finds it makes the removal complete.
-    if (m_tool.id != SystemToolID::homebrew) {
-        finishRemoved();
-        return;
-    }
-    QCoro::connect(m_shell.run(QStringLiteral("command -v brew")), this, [this](const Result<QString>& found) {
-        if (found) {
-            finish(tr("%1 is still installed at %2: its removal did not finish. The output above says why.")
-                       .arg(m_tool.name, found.value()));
+    QCoro::connect(m_supportTools.remove(m_tool, outputSink()), this, [this](const Result<void>& result) {
+        if (!result) {
+            finish(plainFailureFor(result.error()));
             return;
         }
-        finishRemoved();
+        finish(std::nullopt);
+        appendOutput(QStringLiteral("\n") + m_tool.name + QStringLiteral(" has been uninstalled.\n"));
     });
-}
-
-void SystemToolUninstallSheet::finishRemoved()
-{
-    finish(std::nullopt);
-    appendOutput(QStringLiteral("\n") + m_tool.name + QStringLiteral(" has been uninstalled.\n"));
 }
 
 } // namespace qf

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CLITool.h"
+#include "Errors.h"
 #include "SystemTool.h"
 
 #include <QDialog>
@@ -13,8 +14,8 @@ namespace qf {
 
 class LogBook;
 class LogFile;
+class SupportTools;
 class ToolInstaller;
-class ShellRunner;
 
 namespace ui {
 class ActivityIndicator;
@@ -123,13 +124,13 @@ private:
     ToolInstaller& m_installer;
 };
 
-// Confirms and follows the removal of one supporting item by its own command, with the log
-// always open; an item without a command shows its note and "OK".
+// Confirms and follows the removal of one supporting item (through the supporting items'
+// `remove`), with the log always open; an item without a command shows its note and "OK".
 class SystemToolUninstallSheet : public RemovalSheet {
     Q_OBJECT
 
 public:
-    SystemToolUninstallSheet(const SystemTool& tool, ShellRunner& shell, const LogBook& logs,
+    SystemToolUninstallSheet(const SystemTool& tool, SupportTools& supportTools, const LogBook& logs,
                              std::function<void()> onComplete, Qt::WindowFlags flags, QWidget* parent);
 
     const SystemTool& tool() const { return m_tool; }
@@ -142,12 +143,8 @@ protected:
     bool isLogCollapsible() const override { return false; }
 
 private:
-    // After the removal command: complete only when the item is really gone.
-    void confirmRemoval();
-    void finishRemoved();
-
     SystemTool m_tool;
-    ShellRunner& m_shell;
+    SupportTools& m_supportTools;
 };
 
 } // namespace qf

@@ -147,4 +147,24 @@ ServiceError ServiceError::message(const QString& text)
     return error;
 }
 
+ServiceError ServiceError::removalDeclined(const QString& name)
+{
+    ServiceError error;
+    error.m_description = QCoreApplication::translate("ServiceError",
+                                                      "The password dialog was cancelled, so %1 was not removed.")
+                              .arg(name);
+    error.m_declined = true;
+    return error;
+}
+
+Result<void> administratorRemovalResult(Result<void> result, const QString& name)
+{
+    if (result)
+        return result;
+    const ShellError* error = result.error().shellError();
+    if (error && error->isAdministratorDeclined())
+        return ServiceError::removalDeclined(name);
+    return result;
+}
+
 } // namespace qf

@@ -38,6 +38,9 @@ public:
 
     Kind kind() const { return m_kind; }
     int exitCode() const { return m_exitCode; }
+    // Whether this is a line run with administrator rights (Platform::administratorCommand)
+    // whose password dialog the user cancelled.
+    bool isAdministratorDeclined() const { return m_kind == commandFailed && m_exitCode == kAdministratorDeclined; }
     const QString& output() const { return m_text; }
     // The message in full: the command's status and what it said. The log keeps it.
     QString errorDescription() const;
@@ -68,14 +71,16 @@ enum class InstallationError {
 // The message of `error`; the ones that name the system's tools come in its wording.
 QString errorDescription(InstallationError error, const SystemWording& wording);
 
-// What a service operation reports when it fails: a shell error, an installation error, or
-// another problem described in words (a file that could not be written, input refused). The
-// message is settled when the error is made.
+// What a service operation reports when it fails: a shell error, an installation error, a
+// removal the user declined, or another problem described in words (a file that could not be
+// written, input refused). The message is settled when the error is made.
 class ServiceError {
 public:
     ServiceError(ShellError error);
     ServiceError(InstallationError error, const SystemWording& wording);
     static ServiceError message(const QString& text);
+    // The user cancelled the password dialog, so `name` was not removed.
+    static ServiceError removalDeclined(const QString& name);
 
     const QString& errorDescription() const { return m_description; }
     // What a person reads: for a failed command, one plain sentence of what happened and what
@@ -88,6 +93,8 @@ public:
             return *error;
         return std::nullopt;
     }
+    // Whether the user said no: nothing failed, nothing happened.
+    bool isDeclined() const { return m_declined; }
 
     friend bool operator==(const ServiceError&, const ServiceError&) = default;
 
@@ -96,6 +103,7 @@ private:
 
     std::variant<std::monostate, ShellError, InstallationError> m_cause;
     QString m_description;
+    bool m_declined = false;
 };
 
 // The outcome of an operation that may fail: a value, or the error that stopped it. Errors
@@ -131,5 +139,9 @@ public:
 private:
     std::optional<ServiceError> m_error;
 };
+
+// The result of removing `name` by a line run with administrator rights: a cancelled password
+// dialog becomes `ServiceError::removalDeclined(name)`; anything else stays as it is.
+Result<void> administratorRemovalResult(Result<void> result, const QString& name);
 
 } // namespace qf

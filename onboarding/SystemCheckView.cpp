@@ -20,32 +20,6 @@ namespace qf {
 
 using namespace ui;
 
-namespace {
-
-struct SystemCheck {
-    bool toolInstalled = false;
-    std::optional<QString> version;
-    QList<RequirementStatus> requirements;
-};
-
-// Looks for the tool on the search path; when it is not there, checks what installing it needs.
-QCoro::Task<SystemCheck> checkSystem(CLITool tool, ShellRunner& shell, SystemDetector& detector)
-{
-    SystemCheck check;
-    const Result<QString> found = co_await shell.run(QStringLiteral("which ") + tool.commandName());
-    if (found) {
-        check.toolInstalled = true;
-        const std::optional<QString> version = co_await detector.getToolVersion(tool);
-        check.version = version;
-    } else {
-        const QList<RequirementStatus> requirements = co_await detector.checkAllRequirements(tool);
-        check.requirements = requirements;
-    }
-    co_return check;
-}
-
-} // namespace
-
 QString RequirementRow::statusWord(const RequirementStatus& status)
 {
     if (status.isMet)
@@ -256,8 +230,8 @@ void SystemCheckView::startCheck()
     delete m_installerFallback;
     m_installerFallback = nullptr;
     render();
-    QCoro::connect(checkSystem(*tool, m_services.runner, m_services.detector), this, [this](const SystemCheck& check) {
-        if (check.toolInstalled) {
+    QCoro::connect(m_services.detector.checkForTool(*tool), this, [this](const ToolCheck& check) {
+        if (check.isInstalled) {
             m_installedVersion = check.version;
             m_toolAlreadyInstalled = true;
             m_state.setToolAlreadyInstalled(true);

@@ -3,6 +3,7 @@
 #include "LogFile.h"
 #include "Platform.h"
 #include "ShellRunner.h"
+#include "SupportTools.h"
 #include "SystemDetector.h"
 #include "TerminalLauncher.h"
 #include "ToolInstaller.h"
@@ -19,6 +20,7 @@ public:
         : platform(platform),
           runner(std::move(shell)),
           detector(runner, platform),
+          supportTools(runner, platform),
           installer(runner, detector, platform),
           terminal(platform),
           logs(platform.logFolder())
@@ -30,6 +32,9 @@ public:
     Platform& platform;
     ShellRunner runner;
     SystemDetector detector;
+    // The supporting items of the dashboard: the developer tools, the projects folder,
+    // Homebrew, Node.js.
+    SupportTools supportTools;
     ToolInstaller installer;
     TerminalLauncher terminal;
     // The whole logs of installations and removals.

@@ -5,6 +5,8 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <vector>
+
 namespace qf {
 
 SystemDetector::SystemDetector(ShellRunner& shell, const Platform& platform) : m_shell(shell), m_platform(platform) {}
@@ -82,6 +84,44 @@ QCoro::Task<std::optional<QString>> SystemDetector::getToolVersion(CLITool tool)
     if (!result)
         co_return std::nullopt;
     co_return result.value().trimmed();
+}
+
+QCoro::Task<std::optional<QString>> SystemDetector::findTool(CLITool tool)
+{
+    const Result<QString> found = co_await m_shell.run(QStringLiteral("which ") + tool.commandName());
+    if (!found)
+        co_return std::nullopt;
+    co_return found.value();
+}
+
+QCoro::Task<QList<CLITool>> SystemDetector::findInstalledTools()
+{
+    // Every search starts before the first one is awaited.
+    std::vector<QCoro::Task<std::optional<QString>>> searches;
+    for (CLITool tool : CLITool::allCases())
+        searches.push_back(findTool(tool));
+    QList<CLITool> installed;
+    for (size_t i = 0; i < searches.size(); ++i) {
+        const std::optional<QString> found = co_await searches[i];
+        if (found)
+            installed << CLITool::allCases()[i];
+    }
+    co_return installed;
+}
+
+QCoro::Task<ToolCheck> SystemDetector::checkForTool(CLITool tool)
+{
+    ToolCheck check;
+    const std::optional<QString> found = co_await findTool(tool);
+    if (found) {
+        check.isInstalled = true;
+        const std::optional<QString> version = co_await getToolVersion(tool);
+        check.version = version;
+    } else {
+        const QList<RequirementStatus> requirements = co_await checkAllRequirements(tool);
+        check.requirements = requirements;
+    }
+    co_return check;
 }
 
 RequirementStatus SystemDetector::checkOperatingSystem() const

@@ -30,6 +30,14 @@ struct NodeInstall {
     friend bool operator==(const NodeInstall&, const NodeInstall&) = default;
 };
 
+// What the system check finds for one tool: the tool itself with its version, or else (when
+// it is not there) what installing it needs.
+struct ToolCheck {
+    bool isInstalled = false;
+    std::optional<QString> version;
+    QList<RequirementStatus> requirements;
+};
+
 // Answers what the setup needs to know about the machine. It only looks, never changes
 // anything, and remembers nothing between calls.
 class SystemDetector {
@@ -50,6 +58,14 @@ public:
     QCoro::Task<QList<NodeInstall>> findNodeInstalls();
     // Whatever `<command> --version` prints, trimmed; nothing when it fails.
     QCoro::Task<std::optional<QString>> getToolVersion(CLITool tool);
+    // Where the tool's command is found on the commands' search path; nothing when it is not
+    // there or the search could not run.
+    QCoro::Task<std::optional<QString>> findTool(CLITool tool);
+    // The AI tools whose commands are found, in catalogue order; all searched at the same time.
+    QCoro::Task<QList<CLITool>> findInstalledTools();
+    // Looks for the tool; found, reads its version; not found, checks every requirement of
+    // installing it.
+    QCoro::Task<ToolCheck> checkForTool(CLITool tool);
 
     RequirementStatus checkOperatingSystem() const;
     // Megabytes free on the volume of the home folder; nothing (and one diagnostic line on

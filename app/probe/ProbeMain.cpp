@@ -12,7 +12,7 @@
 #include "ProfileWriter.h"
 #include "Services.h"
 #include "SetupModel.h"
-#include "SystemTool.h"
+#include "SupportTools.h"
 
 #include "CommandLine.h"
 #include "QuillforgeVersion.h"
@@ -182,8 +182,7 @@ QCoro::Task<void> printAiTools(Services& services)
 QCoro::Task<void> printSupportingItems(Services& services)
 {
     printHeading(QStringLiteral("Supporting items"));
-    const QList<SystemTool> items = co_await detectSystemTools(systemToolCatalogue(services.platform), services.runner,
-                                                               services.platform.developerToolsItem());
+    const QList<SystemTool> items = co_await services.supportTools.detectAll();
 
     Table table({QStringLiteral("#"), QStringLiteral("Item"), QStringLiteral("Status"), QStringLiteral("Version"),
                  QStringLiteral("Optional")});

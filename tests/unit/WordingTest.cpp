@@ -5,7 +5,7 @@
 #include "Errors.h"
 #include "PlatformBackends.h"
 #include "SetupModel.h"
-#include "SystemTool.h"
+#include "SupportTools.h"
 #include "TestMachine.h"
 
 #include <QRegularExpression>

@@ -3,6 +3,7 @@
 #include "Diagnosis.h"
 #include "LogFile.h"
 #include "LogView.h"
+#include "SupportTools.h"
 #include "Symbol.h"
 #include "TestMachine.h"
 #include "TestSupport.h"
@@ -30,14 +31,11 @@ QString readText(const QString& path)
 class SheetTest : public ::testing::Test, protected test::TestMachine {
 protected:
     // The item as the dashboard knows it once it has looked at the machine.
-    SystemTool detected(SystemToolID id)
-    {
-        return *test::await(detectSystemTool(item(id), services.runner, platform.developerTools));
-    }
+    SystemTool detected(SystemToolID id) { return *test::await(services.supportTools.detect(item(id))); }
 
     SystemTool item(SystemToolID id) const
     {
-        for (const SystemTool& tool : systemToolCatalogue(platform))
+        for (const SystemTool& tool : services.supportTools.catalogue())
             if (tool.id == id)
                 return tool;
         return {};
@@ -45,7 +43,7 @@ protected:
     SystemToolUninstallSheet* systemSheet(const SystemTool& tool)
     {
         auto* sheet = new SystemToolUninstallSheet(
-            tool, services.runner, services.logs, [this] { ++reloads; }, Qt::Dialog, nullptr);
+            tool, services.supportTools, services.logs, [this] { ++reloads; }, Qt::Dialog, nullptr);
         sheet->setAttribute(Qt::WA_DeleteOnClose);
         sheet->open();
         return sheet;
@@ -154,7 +152,6 @@ TEST_F(SheetTest, SystemToolSheetRunsTheItemsCommand)
     EXPECT_EQ(sheet->output(), QStringLiteral("Running: brew uninstall node\n\n"
                                               "Uninstalling /opt/homebrew/Cellar/node/21.5.0... (2,000 files, 60MB)\n"
                                               "\nNode.js has been uninstalled.\n"));
-    EXPECT_FALSE(QFile::exists(sandbox.binDirectory() + QStringLiteral("/node")));
     EXPECT_TRUE(test::child(sheet, QStringLiteral("logView"))->isVisible()); // always open
     button(sheet, "doneButton")->click();
     EXPECT_EQ(reloads, 1);
@@ -162,18 +159,10 @@ TEST_F(SheetTest, SystemToolSheetRunsTheItemsCommand)
     EXPECT_TRUE(guard.isNull());
 }
 
-TEST_F(SheetTest, TheCommandLineToolsGoThroughThePasswordDialog)
+TEST_F(SheetTest, ACancelledDialogAndAFailureEachSayWhatHappened)
 {
-    // osascript stands in for the system's dialog: it records the script and answers as told.
-    QFile osascript(sandbox.binDirectory() + QStringLiteral("/osascript"));
-    ASSERT_TRUE(osascript.open(QIODevice::WriteOnly));
-    osascript.write("#!/bin/sh\nprintf '%s\\n' \"$2\" > \"$FAKE_STATE/osascript.log\"\n"
-                    "case \"$FAKE_DIALOG\" in\n"
-                    "cancel) echo '0:76: execution error: User canceled. (-128)' >&2; exit 1 ;;\n"
-                    "fail) echo '0:76: execution error: rm: Operation not permitted (1)' >&2; exit 1 ;;\n"
-                    "esac\n");
-    osascript.close();
-    osascript.setPermissions(QFileDevice::ReadOwner | QFileDevice::ExeOwner);
+    // osascript stands in for the system's password dialog and answers as told.
+    sandbox.installFake(QStringLiteral("osascript"));
     SystemToolUninstallSheet* sheet = systemSheet(item(SystemToolID::developerTools));
 
     // Cancelled: a failed removal with a plain message, and nothing of osascript's.
@@ -185,9 +174,6 @@ TEST_F(SheetTest, TheCommandLineToolsGoThroughThePasswordDialog)
     EXPECT_EQ(sheet->output(),
               QStringLiteral("Running: rm -rf /Library/Developer/CommandLineTools (as administrator)\n\n"))
         << sheet->output().toStdString();
-    EXPECT_EQ(QString::fromUtf8(sandbox.readFile(QStringLiteral("../state/osascript.log"))),
-              QStringLiteral("do shell script \"rm -rf /Library/Developer/CommandLineTools\" with administrator "
-                             "privileges\n"));
     EXPECT_TRUE(offered(sheet, "uninstallButton"));
 
     // Any other failure says plainly what happened; the log has the system's own words.
@@ -227,43 +213,6 @@ TEST_F(SheetTest, AnItemWithOnlyANoteOffersOK)
     EXPECT_FALSE(offered(empty, "okButton"));
     EXPECT_TRUE(offered(empty, "cancelButton"));
     empty->close();
-}
-
-TEST_F(SheetTest, HomebrewIsUninstalledOnlyOnceItIsGone)
-{
-    sandbox.installFakes({"brew", "curl"});
-    const auto removeWith = [this](const SystemTool& homebrew) {
-        SystemToolUninstallSheet* sheet = systemSheet(homebrew);
-        button(sheet, "uninstallButton")->click();
-        waitUntilIdle(sheet);
-        return sheet;
-    };
-
-    // Offline: the removal script never arrives, and the sheet says so with curl's reason.
-    sandbox.setEnv("FAKE_CURL_FAIL", "1");
-    SystemToolUninstallSheet* offline = removeWith(item(SystemToolID::homebrew));
-    EXPECT_FALSE(offline->uninstallComplete());
-    EXPECT_EQ(offline->errorMessage(), failureSentence(FailureCause::notFound));
-    // The command's own words are in the log.
-    EXPECT_TRUE(offline->output().contains(QStringLiteral("curl: (22) The requested URL returned error: 404")));
-    offline->close();
-
-    // A script that ends well but leaves Homebrew in place is no removal.
-    sandbox.setEnv("FAKE_CURL_FAIL", "");
-    SystemTool homebrew = item(SystemToolID::homebrew);
-    homebrew.uninstallCommand = QStringLiteral("echo 'Homebrew uninstalled!'");
-    SystemToolUninstallSheet* kept = removeWith(homebrew);
-    EXPECT_FALSE(kept->uninstallComplete());
-    EXPECT_EQ(kept->errorMessage(), QStringLiteral("Homebrew is still installed at %1: its removal did not finish. The "
-                                                   "output above says why.")
-                                        .arg(sandbox.binDirectory() + QStringLiteral("/brew")));
-    kept->close();
-
-    homebrew.uninstallCommand = QStringLiteral("rm %1/brew").arg(sandbox.binDirectory());
-    SystemToolUninstallSheet* gone = removeWith(homebrew);
-    EXPECT_TRUE(gone->uninstallComplete());
-    EXPECT_TRUE(gone->output().endsWith(QStringLiteral("\nHomebrew has been uninstalled.\n")));
-    gone->close();
 }
 
 TEST_F(SheetTest, ASheetClosedMidRunLeavesTheCommandToFinish)

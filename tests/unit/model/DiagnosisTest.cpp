@@ -85,3 +85,25 @@ TEST(Diagnosis, TheScreenGetsOneSentenceAndTheLogEverything)
     EXPECT_EQ(ServiceError::message(QStringLiteral("Plain already.")).plainDescription(),
               QStringLiteral("Plain already."));
 }
+
+// A cancelled password dialog is the user's answer, not a failure of the command.
+TEST(Diagnosis, ACancelledPasswordDialogIsADeclinedRemoval)
+{
+    const Result<void> cancelled = administratorRemovalResult(ShellError::failed(kAdministratorDeclined, QString()),
+                                                              QStringLiteral("Node.js"));
+    ASSERT_FALSE(cancelled.ok());
+    EXPECT_TRUE(cancelled.error().isDeclined());
+    EXPECT_EQ(cancelled.error().shellError(), nullptr);
+    EXPECT_EQ(cancelled.error().plainDescription(),
+              QStringLiteral("The password dialog was cancelled, so Node.js was not removed."));
+    EXPECT_EQ(cancelled.error().errorDescription(), cancelled.error().plainDescription());
+
+    // Every other result stays as it was.
+    const ShellError failed = ShellError::failed(1, QStringLiteral("rm: Operation not permitted"));
+    const Result<void> other = administratorRemovalResult(failed, QStringLiteral("Node.js"));
+    ASSERT_FALSE(other.ok());
+    EXPECT_FALSE(other.error().isDeclined());
+    EXPECT_EQ(other.error(), ServiceError(failed));
+    EXPECT_FALSE(ServiceError(ShellError::timeout(1)).isDeclined());
+    EXPECT_TRUE(administratorRemovalResult(Result<void>(), QStringLiteral("Node.js")).ok());
+}

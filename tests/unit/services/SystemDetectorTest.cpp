@@ -150,6 +150,51 @@ TEST_F(SystemDetectorTest, ToolVersionsAsPrinted)
     EXPECT_EQ(*await(detector.getToolVersion(CLITool::codex)), std::nullopt);
 }
 
+TEST_F(SystemDetectorTest, AToolCountsOnlyWhenItsCommandIsOnTheSearchPath)
+{
+    EXPECT_EQ(*await(detector.findTool(CLITool::codex)), std::nullopt);
+    EXPECT_TRUE(await(detector.findInstalledTools())->isEmpty());
+
+    // Gemini CLI's package is there, but its command lies in a folder no search looks in.
+    sandbox.writeFile(QStringLiteral(".npm-global/lib/node_modules/@google/gemini-cli/package.json"), "{}");
+    sandbox.installFakeAt(QStringLiteral("gemini"), sandbox.path(QStringLiteral(".npm-global/bin/gemini")));
+    sandbox.installFakes({"codex"});
+    EXPECT_EQ(*await(detector.findTool(CLITool::codex)), sandbox.binDirectory() + QStringLiteral("/codex"));
+    EXPECT_EQ(*await(detector.findTool(CLITool::geminiCLI)), std::nullopt);
+    EXPECT_EQ(*await(detector.findInstalledTools()), QList<CLITool>{CLITool::codex});
+
+    // ~/.local/bin is searched too; the tools come in catalogue order.
+    sandbox.installFakeAt(QStringLiteral("claude"), sandbox.path(QStringLiteral(".local/bin/claude")));
+    EXPECT_EQ(*await(detector.findInstalledTools()), (QList<CLITool>{CLITool::claudeCode, CLITool::codex}));
+}
+
+TEST_F(SystemDetectorTest, TheCheckOfAToolLooksForItBeforeTheRequirements)
+{
+    // Not there: what installing it needs.
+    const ToolCheck missing = *await(detector.checkForTool(CLITool::geminiCLI));
+    EXPECT_FALSE(missing.isInstalled);
+    EXPECT_EQ(missing.version, std::nullopt);
+    QList<SystemRequirement> checked;
+    for (const RequirementStatus& status : missing.requirements)
+        checked << status.requirement;
+    EXPECT_EQ(checked, (QList<SystemRequirement>{SystemRequirement::macOSVersion, SystemRequirement::diskSpace,
+                                                 SystemRequirement::git, SystemRequirement::nodeJS}));
+
+    // There: its version, and no requirements.
+    sandbox.installFake(QStringLiteral("claude"));
+    const ToolCheck found = *await(detector.checkForTool(CLITool::claudeCode));
+    EXPECT_TRUE(found.isInstalled);
+    EXPECT_EQ(found.version, QStringLiteral("1.0.42 (claude)"));
+    EXPECT_TRUE(found.requirements.isEmpty());
+
+    // Without a readable version it is still there.
+    sandbox.setEnv("FAKE_TOOL_VERSION_FAIL", "1");
+    const ToolCheck unread = *await(detector.checkForTool(CLITool::claudeCode));
+    EXPECT_TRUE(unread.isInstalled);
+    EXPECT_EQ(unread.version, std::nullopt);
+    EXPECT_TRUE(unread.requirements.isEmpty());
+}
+
 TEST_F(SystemDetectorTest, ShellProfileChoiceFollowsTheUsersShell)
 {
     const auto choice = [this](const char* shell) {

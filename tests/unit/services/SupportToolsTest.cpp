@@ -1,10 +1,11 @@
 #include "CoroTest.h"
+#include "Diagnosis.h"
 #include "PlatformBackends.h"
-#include "SystemTool.h"
+#include "SupportTools.h"
 #include "TestMachine.h"
 
 #include <QDir>
-#include <QFileInfo>
+#include <QFile>
 #include <QPair>
 #include <QSet>
 
@@ -13,13 +14,10 @@ using qf::test::await;
 
 namespace {
 
-class SystemToolTest : public ::testing::Test, protected test::TestMachine {
+class SupportToolsTest : public ::testing::Test, protected test::TestMachine {
 protected:
-    QList<SystemTool> catalogue() const { return systemToolCatalogue(platform); }
-    QList<SystemTool> detect()
-    {
-        return *await(detectSystemTools(catalogue(), services.runner, platform.developerToolsItem()));
-    }
+    QList<SystemTool> catalogue() const { return services.supportTools.catalogue(); }
+    QList<SystemTool> detect() { return *await(services.supportTools.detectAll()); }
     static const SystemTool& item(const QList<SystemTool>& tools, SystemToolID id)
     {
         for (const SystemTool& tool : tools)
@@ -28,17 +26,21 @@ protected:
         ADD_FAILURE() << "no item " << int(id);
         return tools.first();
     }
-    void act(const SystemTool& tool)
+    SystemTool item(SystemToolID id) const { return item(catalogue(), id); }
+    // Removes `tool`, with what the removal says in `log`.
+    Result<void> remove(const SystemTool& tool)
     {
-        handleSystemToolAction(tool, platform, [this] { ++reloads; });
+        log.clear();
+        const ShellRunner::OutputHandler onOutput = [this](const QString& text) { log += text; };
+        return *await(services.supportTools.remove(tool, onOutput));
     }
 
-    int reloads = 0;
+    QString log;
 };
 
 } // namespace
 
-TEST_F(SystemToolTest, TheCatalogue)
+TEST_F(SupportToolsTest, TheCatalogue)
 {
     const QList<SystemTool> tools = catalogue();
     ASSERT_EQ(tools.size(), 4);
@@ -75,7 +77,7 @@ TEST_F(SystemToolTest, TheCatalogue)
     EXPECT_TRUE(catalogue()[1].isInstalled);
 }
 
-TEST_F(SystemToolTest, HomebrewIsListedOnlyWhereTheSetupUsesIt)
+TEST_F(SupportToolsTest, HomebrewIsListedOnlyWhereTheSetupUsesIt)
 {
     const auto listed = [](const QList<SystemTool>& tools) {
         QList<QPair<SystemToolID, int>> items;
@@ -99,7 +101,7 @@ TEST_F(SystemToolTest, HomebrewIsListedOnlyWhereTheSetupUsesIt)
     EXPECT_EQ(listed(systemToolCatalogue(LinuxPlatform())), withoutHomebrew);
 }
 
-TEST_F(SystemToolTest, NothingInstalled)
+TEST_F(SupportToolsTest, NothingInstalled)
 {
     for (const SystemTool& tool : detect()) {
         EXPECT_FALSE(tool.isInstalled) << tool.key.toStdString();
@@ -107,7 +109,7 @@ TEST_F(SystemToolTest, NothingInstalled)
     }
 }
 
-TEST_F(SystemToolTest, VersionsAsTheyAreShown)
+TEST_F(SupportToolsTest, VersionsAsTheyAreShown)
 {
     sandbox.installFakes({"xcode-select", "xcodebuild", "brew", "node"});
     QDir().mkpath(sandbox.path(QStringLiteral("Developer")));
@@ -131,69 +133,7 @@ TEST_F(SystemToolTest, VersionsAsTheyAreShown)
     EXPECT_EQ(item(detect(), SystemToolID::developerTools).version, QStringLiteral("2.39.5"));
 }
 
-TEST_F(SystemToolTest, ButtonActions)
-{
-    const QList<SystemTool> tools = catalogue();
-
-    // A missing projects folder is created, with any missing parents, shown, and reloaded.
-    sandbox.setEnv("HOME", sandbox.path(QStringLiteral("not/yet/here")).toUtf8());
-    act(catalogue()[1]);
-    const QString folder = sandbox.path(QStringLiteral("not/yet/here/Developer"));
-    EXPECT_TRUE(QFileInfo(folder).isDir());
-    EXPECT_EQ(platform.revealed, QStringList{folder});
-    EXPECT_EQ(reloads, 1);
-    EXPECT_TRUE(catalogue()[1].isInstalled);
-
-    // An existing one is only shown.
-    act(catalogue()[1]);
-    EXPECT_EQ(platform.revealed.size(), 2);
-    EXPECT_EQ(reloads, 1);
-
-    // Missing developer tools start their installer; installed ones do nothing.
-    act(tools[0]);
-    EXPECT_EQ(platform.installersStarted, 1);
-    SystemTool installed = tools[0];
-    installed.isInstalled = true;
-    act(installed);
-    EXPECT_EQ(platform.installersStarted, 1);
-
-    // Homebrew and Node.js come with the setup, not from here.
-    act(tools[2]);
-    act(tools[3]);
-    EXPECT_EQ(platform.installersStarted, 1);
-    EXPECT_EQ(platform.revealed.size(), 2);
-    EXPECT_EQ(reloads, 1);
-}
-
-TEST_F(SystemToolTest, AFolderThatCannotBeMadeIsStillShownAndReloaded)
-{
-    // HOME is an ordinary file: nothing can be created under it.
-    sandbox.writeFile(QStringLiteral("plain-file"), "");
-    sandbox.setEnv("HOME", sandbox.path(QStringLiteral("plain-file")).toUtf8());
-    act(catalogue()[1]);
-    EXPECT_EQ(platform.revealed, QStringList{sandbox.path(QStringLiteral("plain-file/Developer"))});
-    EXPECT_EQ(reloads, 1);
-    EXPECT_FALSE(catalogue()[1].isInstalled);
-}
-
-TEST_F(SystemToolTest, APlainFileNamedDeveloperIsSelectedNotOpened)
-{
-    sandbox.writeFile(QStringLiteral("Developer"), "notes");
-    act(catalogue()[1]);
-    EXPECT_EQ(platform.revealedFiles, QStringList{sandbox.path(QStringLiteral("Developer"))});
-    EXPECT_TRUE(platform.revealed.isEmpty());
-    EXPECT_EQ(reloads, 0);
-}
-
-TEST_F(SystemToolTest, TerminalLaunchesGoToThePlatformEveryTime)
-{
-    services.terminal.openInTerminal(QStringLiteral("codex"), QStringLiteral("~/Developer"));
-    services.terminal.openInTerminal(QStringLiteral("codex"), QStringLiteral("~/Developer"));
-    ASSERT_EQ(platform.terminals.size(), 2);
-    EXPECT_EQ(platform.terminals[0], qMakePair(QStringLiteral("codex"), QStringLiteral("~/Developer")));
-}
-
-TEST_F(SystemToolTest, NodeIsOfferedForRemovalOnlyAsACopyQuillforgeCanRemove)
+TEST_F(SupportToolsTest, NodeIsOfferedForRemovalOnlyAsACopyQuillforgeCanRemove)
 {
     // Homebrew's Node.js goes through Homebrew.
     sandbox.installFakes({"brew", "node"});
@@ -225,4 +165,80 @@ TEST_F(SystemToolTest, NodeIsOfferedForRemovalOnlyAsACopyQuillforgeCanRemove)
     EXPECT_EQ(other.uninstallNote,
               QStringLiteral("This Node.js (%1) was installed by another program. Remove it the way it was installed.")
                   .arg(nvm));
+}
+
+TEST_F(SupportToolsTest, ARemovalRunsTheItemsLineAndStreamsWhatItSays)
+{
+    sandbox.installFakes({"brew", "node"});
+    const SystemTool node = *await(services.supportTools.detect(item(SystemToolID::node)));
+    EXPECT_TRUE(remove(node).ok());
+    EXPECT_EQ(log, QStringLiteral("Running: brew uninstall node\n\n"
+                                  "Uninstalling /opt/homebrew/Cellar/node/21.5.0... (2,000 files, 60MB)\n"));
+    EXPECT_FALSE(QFile::exists(sandbox.binDirectory() + QStringLiteral("/node")));
+
+    // An item without a line of its own is not removed from here.
+    const Result<void> folder = remove(item(SystemToolID::developerFolder));
+    ASSERT_FALSE(folder.ok());
+    EXPECT_EQ(folder.error().installationError(), InstallationError::manualUninstallRequired);
+    EXPECT_TRUE(log.isEmpty());
+}
+
+TEST_F(SupportToolsTest, TheCommandLineToolsGoThroughThePasswordDialog)
+{
+    // osascript stands in for the system's dialog: it records the script and answers as told.
+    sandbox.installFake(QStringLiteral("osascript"));
+    const SystemTool tools = item(SystemToolID::developerTools);
+
+    // Cancelled: declined, with a plain message, and nothing of osascript's in the log.
+    sandbox.setEnv("FAKE_DIALOG", "cancel");
+    const Result<void> cancelled = remove(tools);
+    ASSERT_FALSE(cancelled.ok());
+    EXPECT_TRUE(cancelled.error().isDeclined());
+    EXPECT_EQ(cancelled.error().plainDescription(),
+              QStringLiteral("The password dialog was cancelled, so Xcode CLI Tools was not removed."));
+    EXPECT_EQ(cancelled.error().errorDescription(), cancelled.error().plainDescription());
+    EXPECT_EQ(log, QStringLiteral("Running: rm -rf /Library/Developer/CommandLineTools (as administrator)\n\n"));
+    EXPECT_EQ(QString::fromUtf8(sandbox.readFile(QStringLiteral("../state/osascript.log"))),
+              QStringLiteral("do shell script \"rm -rf /Library/Developer/CommandLineTools\" with administrator "
+                             "privileges\n"));
+
+    // Any other failure says plainly what happened; the log has the system's own words.
+    sandbox.setEnv("FAKE_DIALOG", "fail");
+    const Result<void> failed = remove(tools);
+    ASSERT_FALSE(failed.ok());
+    EXPECT_FALSE(failed.error().isDeclined());
+    EXPECT_EQ(failed.error().plainDescription(), failureSentence(FailureCause::permissionDenied));
+    EXPECT_EQ(failed.error().errorDescription(), QStringLiteral("Command failed with exit code 1: Command failed"));
+    EXPECT_TRUE(log.endsWith(QStringLiteral("rm: Operation not permitted (1)\n"))) << log.toStdString();
+
+    sandbox.setEnv("FAKE_DIALOG", "");
+    EXPECT_TRUE(remove(tools).ok());
+}
+
+TEST_F(SupportToolsTest, HomebrewIsRemovedOnlyOnceItIsGone)
+{
+    sandbox.installFakes({"brew", "curl"});
+
+    // Offline: the removal script never arrives, and the error says so with curl's reason.
+    sandbox.setEnv("FAKE_CURL_FAIL", "1");
+    const Result<void> offline = remove(item(SystemToolID::homebrew));
+    ASSERT_FALSE(offline.ok());
+    EXPECT_EQ(offline.error().plainDescription(), failureSentence(FailureCause::notFound));
+    // The command's own words are in the log.
+    EXPECT_TRUE(log.contains(QStringLiteral("curl: (22) The requested URL returned error: 404")));
+
+    // A script that ends well but leaves Homebrew in place is no removal.
+    sandbox.setEnv("FAKE_CURL_FAIL", "");
+    SystemTool homebrew = item(SystemToolID::homebrew);
+    homebrew.uninstallCommand = QStringLiteral("echo 'Homebrew uninstalled!'");
+    const Result<void> kept = remove(homebrew);
+    ASSERT_FALSE(kept.ok());
+    EXPECT_FALSE(kept.error().isDeclined());
+    EXPECT_EQ(kept.error().plainDescription(), QStringLiteral("Homebrew is still installed at %1: its removal did not "
+                                                              "finish. The output above says why.")
+                                                   .arg(sandbox.binDirectory() + QStringLiteral("/brew")));
+
+    homebrew.uninstallCommand = QStringLiteral("rm %1/brew").arg(sandbox.binDirectory());
+    EXPECT_TRUE(remove(homebrew).ok());
+    EXPECT_FALSE(QFile::exists(sandbox.binDirectory() + QStringLiteral("/brew")));
 }

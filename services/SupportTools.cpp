@@ -1,11 +1,10 @@
-#include "SystemTool.h"
+#include "SupportTools.h"
 
 #include "CLITool.h"
 #include "DeveloperFolder.h"
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QFileInfo>
 
 #include <vector>
 
@@ -70,16 +69,6 @@ QList<SystemTool> systemToolCatalogue(const Platform& platform)
     return items;
 }
 
-QCoro::Task<NodeCopy> nodeCopyAt(const QString& path, ShellRunner& shell)
-{
-    if (path == QDir::homePath() + QStringLiteral("/.local/bin/node"))
-        co_return NodeCopy::localRelease;
-    const Result<QString> brew = co_await shell.run(QStringLiteral("brew --prefix"));
-    if (brew && !brew.value().isEmpty() && path == brew.value() + QStringLiteral("/bin/node"))
-        co_return NodeCopy::homebrew;
-    co_return NodeCopy::other;
-}
-
 std::optional<QString> nodeRemovalCommand(NodeCopy copy)
 {
     switch (copy) {
@@ -95,12 +84,25 @@ std::optional<QString> nodeRemovalCommand(NodeCopy copy)
     Q_UNREACHABLE();
 }
 
-QCoro::Task<SystemTool> detectSystemTool(SystemTool tool, ShellRunner& shell, DeveloperToolsItem developerTools)
+SupportTools::SupportTools(ShellRunner& shell, const Platform& platform) : m_shell(shell), m_platform(platform) {}
+
+QCoro::Task<NodeCopy> SupportTools::nodeCopyAt(QString path)
+{
+    if (path == QDir::homePath() + QStringLiteral("/.local/bin/node"))
+        co_return NodeCopy::localRelease;
+    const Result<QString> brew = co_await m_shell.run(QStringLiteral("brew --prefix"));
+    if (brew && !brew.value().isEmpty() && path == brew.value() + QStringLiteral("/bin/node"))
+        co_return NodeCopy::homebrew;
+    co_return NodeCopy::other;
+}
+
+QCoro::Task<SystemTool> SupportTools::detect(SystemTool tool)
 {
     switch (tool.id) {
     case SystemToolID::developerFolder: break; // known when the catalogue was built
     case SystemToolID::developerTools: {
-        const Result<QString> present = co_await shell.run(developerTools.presenceCommand);
+        const DeveloperToolsItem developerTools = m_platform.developerToolsItem();
+        const Result<QString> present = co_await m_shell.run(developerTools.presenceCommand);
         if (!present)
             break;
         tool.isInstalled = true;
@@ -108,7 +110,7 @@ QCoro::Task<SystemTool> detectSystemTool(SystemTool tool, ShellRunner& shell, De
         if (developerTools.versionCommand.isEmpty()) {
             output = present.value();
         } else {
-            const Result<QString> version = co_await shell.run(developerTools.versionCommand);
+            const Result<QString> version = co_await m_shell.run(developerTools.versionCommand);
             if (version)
                 output = version.value();
         }
@@ -117,7 +119,7 @@ QCoro::Task<SystemTool> detectSystemTool(SystemTool tool, ShellRunner& shell, De
         break;
     }
     case SystemToolID::homebrew: {
-        const Result<QString> version = co_await shell.run(QStringLiteral("brew --version"));
+        const Result<QString> version = co_await m_shell.run(QStringLiteral("brew --version"));
         if (!version)
             break;
         tool.isInstalled = true;
@@ -127,13 +129,15 @@ QCoro::Task<SystemTool> detectSystemTool(SystemTool tool, ShellRunner& shell, De
         break;
     }
     case SystemToolID::node: {
-        const Result<QString> version = co_await shell.run(QStringLiteral("node --version"));
+        const Result<QString> version = co_await m_shell.run(QStringLiteral("node --version"));
         if (!version)
             break;
         tool.isInstalled = true;
         tool.version = version.value();
-        const Result<QString> where = co_await shell.run(QStringLiteral("command -v node"));
-        const NodeCopy copy = where ? co_await nodeCopyAt(where.value(), shell) : NodeCopy::other;
+        const Result<QString> where = co_await m_shell.run(QStringLiteral("command -v node"));
+        NodeCopy copy = NodeCopy::other;
+        if (where)
+            copy = co_await nodeCopyAt(where.value());
         tool.uninstallCommand = nodeRemovalCommand(copy);
         if (!tool.uninstallCommand) {
             tool.uninstallNote =
@@ -146,15 +150,15 @@ QCoro::Task<SystemTool> detectSystemTool(SystemTool tool, ShellRunner& shell, De
     co_return tool;
 }
 
-QCoro::Task<QList<SystemTool>> detectSystemTools(QList<SystemTool> tools, ShellRunner& shell,
-                                                 DeveloperToolsItem developerTools)
+QCoro::Task<QList<SystemTool>> SupportTools::detectAll()
 {
     // Every check starts at once (a task runs until its first wait); the results are
     // collected in catalogue order.
+    const QList<SystemTool> tools = catalogue();
     std::vector<QCoro::Task<SystemTool>> checks;
     checks.reserve(size_t(tools.size()));
-    for (const SystemTool& tool : std::as_const(tools))
-        checks.push_back(detectSystemTool(tool, shell, developerTools));
+    for (const SystemTool& tool : tools)
+        checks.push_back(detect(tool));
     QList<SystemTool> detected;
     for (const QCoro::Task<SystemTool>& check : checks) {
         SystemTool tool = co_await check;
@@ -163,49 +167,27 @@ QCoro::Task<QList<SystemTool>> detectSystemTools(QList<SystemTool> tools, ShellR
     co_return detected;
 }
 
-void handleSystemToolAction(const SystemTool& tool, Platform& platform, const std::function<void()>& reload,
-                            const std::function<void(const ActionFallback&)>& fallback)
+QCoro::Task<Result<void>> SupportTools::remove(SystemTool tool, ShellRunner::OutputHandler onOutput)
 {
-    const auto showFolder = [&platform, &fallback] {
-        const QString path = developerFolderPath();
-        // Something that is not a folder (a plain file named Developer) is selected in the file
-        // manager rather than opened with whatever application handles it.
-        const QFileInfo entry(path);
-        if (entry.exists() && !entry.isDir()) {
-            platform.revealFile(path);
-            return;
+    if (!tool.uninstallCommand)
+        co_return ServiceError(InstallationError::manualUninstallRequired, m_platform.wording());
+    const QString command = *tool.uninstallCommand;
+    onOutput(QStringLiteral("Running: ") + tool.uninstallShownAs.value_or(command) + QStringLiteral("\n\n"));
+    const QString activity = trText("The removal of %1").arg(tool.name);
+    const Result<void> ran = co_await m_shell.runWithStreaming(command, onOutput, nullptr, activity);
+    if (!ran)
+        co_return administratorRemovalResult(ran, tool.name);
+    // Homebrew's own removal script can end well and leave Homebrew in place: only a search
+    // that no longer finds it makes the removal complete.
+    if (tool.id == SystemToolID::homebrew) {
+        const Result<QString> found = co_await m_shell.run(QStringLiteral("command -v brew"));
+        if (found) {
+            co_return ServiceError::message(
+                trText("%1 is still installed at %2: its removal did not finish. The output above says why.")
+                    .arg(tool.name, found.value()));
         }
-        if (!platform.revealFolder(path) && fallback) {
-            fallback({trText("The folder could not be shown"),
-                      trText("No file manager answered. Your projects folder is here:"), path});
-        }
-    };
-    switch (tool.id) {
-    case SystemToolID::developerFolder:
-        if (tool.isInstalled) {
-            showFolder();
-            return;
-        }
-        // A folder that cannot be created simply stays missing; the reload shows that.
-        static_cast<void>(makeDeveloperFolder());
-        showFolder();
-        if (reload)
-            reload();
-        return;
-    case SystemToolID::developerTools:
-        if (!tool.isInstalled) {
-            const DeveloperToolsItem item = platform.developerToolsItem();
-            platform.startDeveloperToolsInstaller([fallback, item](bool started) {
-                if (!started && fallback && !item.installLine.isEmpty()) {
-                    fallback({trText("The installer could not be started"),
-                              trText("Open a terminal yourself and type this line:"), item.installLine});
-                }
-            });
-        }
-        return;
-    case SystemToolID::homebrew:
-    case SystemToolID::node: return; // they come with the setup, not from here
     }
+    co_return Result<void>();
 }
 
 } // namespace qf

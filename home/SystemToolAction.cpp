@@ -1,0 +1,61 @@
+#include "SystemToolAction.h"
+
+#include "DeveloperFolder.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+
+namespace qf {
+
+namespace {
+
+QString trText(const char* source) { return QCoreApplication::translate("SystemTool", source); }
+
+} // namespace
+
+void handleSystemToolAction(const SystemTool& tool, Platform& platform, const std::function<void()>& reload,
+                            const std::function<void(const ActionFallback&)>& fallback)
+{
+    const auto showFolder = [&platform, &fallback] {
+        const QString path = developerFolderPath();
+        // Something that is not a folder (a plain file named Developer) is selected in the file
+        // manager rather than opened with whatever application handles it.
+        const QFileInfo entry(path);
+        if (entry.exists() && !entry.isDir()) {
+            platform.revealFile(path);
+            return;
+        }
+        if (!platform.revealFolder(path) && fallback) {
+            fallback({trText("The folder could not be shown"),
+                      trText("No file manager answered. Your projects folder is here:"), path});
+        }
+    };
+    switch (tool.id) {
+    case SystemToolID::developerFolder:
+        if (tool.isInstalled) {
+            showFolder();
+            return;
+        }
+        // A folder that cannot be created simply stays missing; the reload shows that.
+        static_cast<void>(makeDeveloperFolder());
+        showFolder();
+        if (reload)
+            reload();
+        return;
+    case SystemToolID::developerTools:
+        if (!tool.isInstalled) {
+            const DeveloperToolsItem item = platform.developerToolsItem();
+            platform.startDeveloperToolsInstaller([fallback, item](bool started) {
+                if (!started && fallback && !item.installLine.isEmpty()) {
+                    fallback({trText("The installer could not be started"),
+                              trText("Open a terminal yourself and type this line:"), item.installLine});
+                }
+            });
+        }
+        return;
+    case SystemToolID::homebrew:
+    case SystemToolID::node: return; // they come with the setup, not from here
+    }
+}
+
+} // namespace qf
