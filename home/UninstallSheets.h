@@ -13,7 +13,7 @@ namespace qf {
 
 class LogBook;
 class LogFile;
-class ToolInstaller;
+class ToolRemover;
 class ShellRunner;
 
 namespace ui {
@@ -104,12 +104,12 @@ private:
     ui::Button* m_ok;
 };
 
-// Confirms and follows the removal of one AI tool (through the installer's `uninstall`).
+// Confirms and follows the removal of one AI tool (through the remover's `uninstall`).
 class UninstallSheet : public RemovalSheet {
     Q_OBJECT
 
 public:
-    UninstallSheet(CLITool tool, ToolInstaller& installer, const LogBook& logs, std::function<void()> onComplete,
+    UninstallSheet(CLITool tool, ToolRemover& remover, const LogBook& logs, std::function<void()> onComplete,
                    Qt::WindowFlags flags, QWidget* parent);
 
     CLITool tool() const { return m_tool; }
@@ -120,7 +120,7 @@ protected:
 
 private:
     CLITool m_tool;
-    ToolInstaller& m_installer;
+    ToolRemover& m_remover;
 };
 
 // Confirms and follows the removal of one supporting item by its own command, with the log

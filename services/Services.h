@@ -1,11 +1,15 @@
 #pragma once
 
+#include "APIKeyStore.h"
 #include "LogFile.h"
+#include "NodeInstaller.h"
 #include "Platform.h"
+#include "SearchPathFix.h"
 #include "ShellRunner.h"
 #include "SystemDetector.h"
 #include "TerminalLauncher.h"
 #include "ToolInstaller.h"
+#include "ToolRemover.h"
 
 namespace qf {
 
@@ -19,7 +23,11 @@ public:
         : platform(platform),
           runner(std::move(shell)),
           detector(runner, platform),
-          installer(runner, detector, platform),
+          nodeInstaller(runner, detector, platform),
+          searchPath(runner, detector, platform),
+          installer(runner, detector, platform, nodeInstaller, searchPath),
+          remover(runner, platform),
+          keys(detector),
           terminal(platform),
           logs(platform.logFolder())
     {
@@ -30,7 +38,13 @@ public:
     Platform& platform;
     ShellRunner runner;
     SystemDetector detector;
+    NodeInstaller nodeInstaller;
+    SearchPathFix searchPath;
+    // The setup of an AI tool, which installs Node.js and fixes the search path through the two
+    // above.
     ToolInstaller installer;
+    ToolRemover remover;
+    APIKeyStore keys;
     TerminalLauncher terminal;
     // The whole logs of installations and removals.
     LogBook logs;

@@ -74,7 +74,7 @@ TEST_F(SheetTest, AIToolSheetFailsClearlyAndRetriesAfresh)
     configuration.shell = shell;
     Services flaky(platform, configuration);
     UninstallSheet sheet(
-        CLITool::codex, flaky.installer, flaky.logs, [this] { ++reloads; }, Qt::Dialog, nullptr);
+        CLITool::codex, flaky.remover, flaky.logs, [this] { ++reloads; }, Qt::Dialog, nullptr);
     sheet.show();
 
     // Confirm: the question, the description, "Cancel" and "Uninstall".
@@ -121,7 +121,7 @@ TEST_F(SheetTest, AIToolSheetFailsClearlyAndRetriesAfresh)
 
 TEST_F(SheetTest, AIToolSheetLogIsBehindDetails)
 {
-    UninstallSheet sheet(CLITool::claudeCode, services.installer, services.logs, {}, Qt::Dialog, nullptr);
+    UninstallSheet sheet(CLITool::claudeCode, services.remover, services.logs, {}, Qt::Dialog, nullptr);
     sheet.show();
     EXPECT_FALSE(test::child(&sheet, QStringLiteral("detailsButton"))->isVisible()); // no output yet
     button(&sheet, "uninstallButton")->click();
@@ -338,7 +338,7 @@ TEST_F(SheetTest, TenMegabytesOfOutputShowTheNewestAndReachTheFileWhole)
 
 TEST_F(SheetTest, EveryControlHasAName)
 {
-    UninstallSheet ai(CLITool::geminiCLI, services.installer, services.logs, {}, Qt::Dialog, nullptr);
+    UninstallSheet ai(CLITool::geminiCLI, services.remover, services.logs, {}, Qt::Dialog, nullptr);
     ai.show();
     button(&ai, "uninstallButton")->click();
     waitUntilIdle(&ai);
