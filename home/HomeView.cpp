@@ -323,7 +323,7 @@ void HomeView::renderSheets()
             self->loadData();
     };
     if (m_toolToUninstall && !m_aiSheet) {
-        m_aiSheet = new UninstallSheet(*m_toolToUninstall, m_services.installer, m_services.logs, reload, flags,
+        m_aiSheet = new UninstallSheet(*m_toolToUninstall, m_services.remover, m_services.logs, reload, flags,
                                        window());
         present(m_aiSheet, m_toolToUninstall);
     }

@@ -3,7 +3,7 @@
 #include "BoundedLog.h"
 #include "LogFile.h"
 #include "SupportTools.h"
-#include "ToolInstaller.h"
+#include "ToolRemover.h"
 
 #include "ActivityIndicator.h"
 #include "Button.h"
@@ -286,11 +286,11 @@ void RemovalSheet::render()
 
 // MARK: UninstallSheet
 
-UninstallSheet::UninstallSheet(CLITool tool, ToolInstaller& installer, const LogBook& logs,
+UninstallSheet::UninstallSheet(CLITool tool, ToolRemover& remover, const LogBook& logs,
                                std::function<void()> onComplete, Qt::WindowFlags flags, QWidget* parent)
     : RemovalSheet(tool.displayName(), logs, std::move(onComplete), flags, 360, parent),
       m_tool(tool),
-      m_installer(installer)
+      m_remover(remover)
 {
     setObjectName(QStringLiteral("uninstallSheet"));
     render();
@@ -298,7 +298,7 @@ UninstallSheet::UninstallSheet(CLITool tool, ToolInstaller& installer, const Log
 
 void UninstallSheet::performUninstall()
 {
-    QCoro::connect(m_installer.uninstall(m_tool, outputSink()), this, [this](const Result<void>& result) {
+    QCoro::connect(m_remover.uninstall(m_tool, outputSink()), this, [this](const Result<void>& result) {
         finish(result ? std::nullopt : std::optional<QString>(plainFailureFor(result.error())));
     });
 }

@@ -15,7 +15,7 @@ namespace qf {
 class LogBook;
 class LogFile;
 class SupportTools;
-class ToolInstaller;
+class ToolRemover;
 
 namespace ui {
 class ActivityIndicator;
@@ -105,12 +105,12 @@ private:
     ui::Button* m_ok;
 };
 
-// Confirms and follows the removal of one AI tool (through the installer's `uninstall`).
+// Confirms and follows the removal of one AI tool (through the remover's `uninstall`).
 class UninstallSheet : public RemovalSheet {
     Q_OBJECT
 
 public:
-    UninstallSheet(CLITool tool, ToolInstaller& installer, const LogBook& logs, std::function<void()> onComplete,
+    UninstallSheet(CLITool tool, ToolRemover& remover, const LogBook& logs, std::function<void()> onComplete,
                    Qt::WindowFlags flags, QWidget* parent);
 
     CLITool tool() const { return m_tool; }
@@ -121,7 +121,7 @@ protected:
 
 private:
     CLITool m_tool;
-    ToolInstaller& m_installer;
+    ToolRemover& m_remover;
 };
 
 // Confirms and follows the removal of one supporting item (through the supporting items'

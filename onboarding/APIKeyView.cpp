@@ -1,8 +1,8 @@
 #include "APIKeyView.h"
 
+#include "APIKeyStore.h"
 #include "InstallationState.h"
 #include "Services.h"
-#include "ToolInstaller.h"
 
 #include "Label.h"
 #include "Layout.h"
@@ -30,9 +30,7 @@ QVBoxLayout* card(QVBoxLayout* column, const QString& objectName)
 } // namespace
 
 APIKeyView::APIKeyView(InstallationState& state, Services& services, QWidget* parent)
-    : FlowScreen(QStringLiteral("apiKeyView"), tr("Set Up API Key"), parent),
-      m_state(state),
-      m_installer(services.installer)
+    : FlowScreen(QStringLiteral("apiKeyView"), tr("Set Up API Key"), parent), m_state(state), m_keys(services.keys)
 {
     QVBoxLayout* column = makeColumn(20, 32);
     if (const std::optional<CLITool> tool = m_state.selectedTool())
@@ -137,7 +135,7 @@ void APIKeyView::buildContent(CLITool tool, Platform& platform, const QString& p
     second->addWidget(m_noticeRow);
 
     auto* caption = m_caption = new Label(tr("This will be saved to your shell profile (%1) as %2")
-                                              .arg(ToolInstaller::displayedPath(profile), tool.apiKeyEnvVar()),
+                                              .arg(APIKeyStore::displayedPath(profile), tool.apiKeyEnvVar()),
                                           Theme::caption(), Tint(Role::secondary));
     caption->setObjectName(QStringLiteral("profileCaption"));
     caption->setWrapping(true);
@@ -164,7 +162,7 @@ void APIKeyView::save()
     m_isSaving = true;
     m_saveError.reset();
     render();
-    QCoro::connect(m_installer.saveAPIKey(key, *tool), this, [this, key](const Result<QString>& saved) {
+    QCoro::connect(m_keys.save(key, *tool), this, [this, key](const Result<QString>& saved) {
         m_isSaving = false;
         if (saved) {
             m_state.setApiKey(key);

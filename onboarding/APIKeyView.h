@@ -9,7 +9,7 @@ namespace qf {
 class InstallationState;
 class Platform;
 class Services;
-class ToolInstaller;
+class APIKeyStore;
 
 namespace ui {
 class Label;
@@ -42,7 +42,7 @@ private:
     void render();
 
     InstallationState& m_state;
-    ToolInstaller& m_installer;
+    APIKeyStore& m_keys;
     bool m_isSaving = false;
     bool m_showKey = false;
     std::optional<QString> m_saveError;

@@ -1,12 +1,16 @@
 #pragma once
 
+#include "APIKeyStore.h"
 #include "LogFile.h"
+#include "NodeInstaller.h"
 #include "Platform.h"
+#include "SearchPathFix.h"
 #include "ShellRunner.h"
 #include "SupportTools.h"
 #include "SystemDetector.h"
 #include "TerminalLauncher.h"
 #include "ToolInstaller.h"
+#include "ToolRemover.h"
 
 namespace qf {
 
@@ -21,7 +25,11 @@ public:
           runner(std::move(shell)),
           detector(runner, platform),
           supportTools(runner, platform),
-          installer(runner, detector, platform),
+          nodeInstaller(runner, detector, platform),
+          searchPath(runner, detector, platform),
+          installer(runner, detector, platform, nodeInstaller, searchPath),
+          remover(runner, platform),
+          keys(detector),
           terminal(platform),
           logs(platform.logFolder())
     {
@@ -35,7 +43,13 @@ public:
     // The supporting items of the dashboard: the developer tools, the projects folder,
     // Homebrew, Node.js.
     SupportTools supportTools;
+    NodeInstaller nodeInstaller;
+    SearchPathFix searchPath;
+    // The setup of an AI tool, which installs Node.js and fixes the search path through the two
+    // above.
     ToolInstaller installer;
+    ToolRemover remover;
+    APIKeyStore keys;
     TerminalLauncher terminal;
     // The whole logs of installations and removals.
     LogBook logs;

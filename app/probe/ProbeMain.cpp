@@ -287,7 +287,7 @@ QCoro::Task<void> printInstallRoutes(Services& services)
     printField(QStringLiteral("PATH block"),
                (present ? QStringLiteral("present in ") : QStringLiteral("not in ")) + profile);
     const bool searched =
-        co_await services.installer.newTerminalSearches(QDir::homePath() + QStringLiteral("/.local/bin"));
+        co_await services.searchPath.newTerminalSearches(QDir::homePath() + QStringLiteral("/.local/bin"));
     printField(QStringLiteral("New terminal"), searched ? QStringLiteral("its shell searches ~/.local/bin")
                                                         : QStringLiteral("its shell does not search ~/.local/bin"));
 }

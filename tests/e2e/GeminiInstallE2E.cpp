@@ -97,7 +97,7 @@ TEST(GeminiEndToEnd, InstalledWithoutAdministratorRightsFoundByTheTerminalAndRem
     EXPECT_EQ(version.exitCode, 0);
     EXPECT_FALSE(version.output.isEmpty());
 
-    const std::optional<Result<void>> removed = test::await(services.installer.uninstall(CLITool::geminiCLI, output),
+    const std::optional<Result<void>> removed = test::await(services.remover.uninstall(CLITool::geminiCLI, output),
                                                             kInstallLimitMs);
     ASSERT_TRUE(removed && removed->ok());
     EXPECT_TRUE(log.endsWith(QStringLiteral("Gemini CLI has been uninstalled.\n")));

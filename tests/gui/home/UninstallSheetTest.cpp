@@ -72,7 +72,7 @@ TEST_F(SheetTest, AIToolSheetFailsClearlyAndRetriesAfresh)
     configuration.shell = shell;
     Services flaky(platform, configuration);
     UninstallSheet sheet(
-        CLITool::codex, flaky.installer, flaky.logs, [this] { ++reloads; }, Qt::Dialog, nullptr);
+        CLITool::codex, flaky.remover, flaky.logs, [this] { ++reloads; }, Qt::Dialog, nullptr);
     sheet.show();
 
     // Confirm: the question, the description, "Cancel" and "Uninstall".
@@ -119,7 +119,7 @@ TEST_F(SheetTest, AIToolSheetFailsClearlyAndRetriesAfresh)
 
 TEST_F(SheetTest, AIToolSheetLogIsBehindDetails)
 {
-    UninstallSheet sheet(CLITool::claudeCode, services.installer, services.logs, {}, Qt::Dialog, nullptr);
+    UninstallSheet sheet(CLITool::claudeCode, services.remover, services.logs, {}, Qt::Dialog, nullptr);
     sheet.show();
     EXPECT_FALSE(test::child(&sheet, QStringLiteral("detailsButton"))->isVisible()); // no output yet
     button(&sheet, "uninstallButton")->click();
@@ -287,7 +287,7 @@ TEST_F(SheetTest, TenMegabytesOfOutputShowTheNewestAndReachTheFileWhole)
 
 TEST_F(SheetTest, EveryControlHasAName)
 {
-    UninstallSheet ai(CLITool::geminiCLI, services.installer, services.logs, {}, Qt::Dialog, nullptr);
+    UninstallSheet ai(CLITool::geminiCLI, services.remover, services.logs, {}, Qt::Dialog, nullptr);
     ai.show();
     button(&ai, "uninstallButton")->click();
     waitUntilIdle(&ai);

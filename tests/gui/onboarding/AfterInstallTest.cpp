@@ -1,5 +1,6 @@
 // The screens after an installation: the completion screen, the terminal screen and the API
 // key screen, in the real window with a fake platform and a sandboxed home folder.
+#include "APIKeyStore.h"
 #include "APIKeyView.h"
 #include "CompletionView.h"
 #include "FlowWindowTest.h"
@@ -8,7 +9,6 @@
 #include "TerminalFallback.h"
 #include "TerminalScreenView.h"
 #include "TextField.h"
-#include "ToolInstaller.h"
 
 #include <QAccessible>
 #include <QClipboard>
@@ -409,7 +409,7 @@ TEST_F(AfterInstallTest, AKeyTheProfileComputesIsFollowedAndTheScreenSaysSo)
     EXPECT_EQ(state.currentStep(), InstallationStep::apiKey);
     EXPECT_TRUE(showsChild("savedNoticeRow"));
     EXPECT_EQ(text("savedNotice"),
-              ToolInstaller::computedValueNotice(QStringLiteral("OPENAI_API_KEY"), QStringLiteral("~/.zshrc")));
+              APIKeyStore::computedValueNotice(QStringLiteral("OPENAI_API_KEY"), QStringLiteral("~/.zshrc")));
     EXPECT_EQ(profileText("/.zshrc"), QStringLiteral("export OPENAI_API_KEY=$(cat ~/.openai-key)\n\n# Codex API Key\n"
                                                      "export OPENAI_API_KEY=\"") +
                                           kKey + QStringLiteral("\"\n"));

@@ -1,8 +1,8 @@
 #include "CoroTest.h"
+#include "NodeInstaller.h"
 #include "SmallDisk.h"
 #include "StagedInstall.h"
 #include "TestMachine.h"
-#include "ToolInstaller.h"
 
 #include <QCryptographicHash>
 #include <QDir>
@@ -175,7 +175,7 @@ protected:
                   sum + "  " + folder.toUtf8() + ".tar.gz\n");
         writeFile(dist + QStringLiteral("/index.json"),
                   R"([{"version":")" + version.toUtf8() + R"(","files":["linux-x64"],"lts":"Jod"}])");
-        installer.setNodeDistribution(QStringLiteral("file://") + dist);
+        installer.setDistribution(QStringLiteral("file://") + dist);
     }
 
     // Installs the published release; the error's text when it fails, empty when it worked.
@@ -183,7 +183,7 @@ protected:
     {
         log.clear();
         const std::optional<Result<QString>> result =
-            await(installer.installNodeRelease([this](const QString& text) { log += text; }));
+            await(installer.installRelease([this](const QString& text) { log += text; }));
         if (!result)
             return "<did not finish>";
         return result->ok() ? std::string() : result->error().errorDescription().toStdString();
@@ -191,7 +191,7 @@ protected:
 
     QString home(const QString& relative) const { return sandbox.path(relative); }
 
-    ToolInstaller& installer = services.installer;
+    NodeInstaller& installer = services.nodeInstaller;
     QString log;
 };
 

@@ -1,7 +1,7 @@
+#include "APIKeyStore.h"
 #include "CoroTest.h"
 #include "ProfileWriter.h"
 #include "TestMachine.h"
-#include "ToolInstaller.h"
 
 #include <QDir>
 #include <QFile>
@@ -17,11 +17,11 @@ using qf::test::await;
 
 namespace {
 
-class ApiKeyTest : public ::testing::Test, protected test::TestMachine {
+class APIKeyStoreTest : public ::testing::Test, protected test::TestMachine {
 protected:
     Result<QString> save(const QString& key, CLITool tool)
     {
-        auto result = await(services.installer.saveAPIKey(key, tool));
+        auto result = await(services.keys.save(key, tool));
         if (!result)
             return ServiceError::message(QStringLiteral("did not finish"));
         return *result;
@@ -169,7 +169,7 @@ TEST(ProfileWriter, FishAndCshExportsAreTheirOwnLines)
     }
 }
 
-TEST_F(ApiKeyTest, FishAndTcshUsersGetTheKeyInTheStartUpFileTheirShellReads)
+TEST_F(APIKeyStoreTest, FishAndTcshUsersGetTheKeyInTheStartUpFileTheirShellReads)
 {
     struct Case {
         const char* shell;
@@ -203,8 +203,8 @@ TEST_F(ApiKeyTest, FishAndTcshUsersGetTheKeyInTheStartUpFileTheirShellReads)
                                                               : "setenv OPENAI_API_KEY `cat ~/k`\n");
         const Result<QString> saved = save(QStringLiteral("sk-after"), CLITool::codex);
         ASSERT_TRUE(saved.ok());
-        EXPECT_EQ(saved.value(), ToolInstaller::computedValueNotice(QStringLiteral("OPENAI_API_KEY"),
-                                                                    QStringLiteral("~/") + QLatin1String(user.file)));
+        EXPECT_EQ(saved.value(), APIKeyStore::computedValueNotice(QStringLiteral("OPENAI_API_KEY"),
+                                                                  QStringLiteral("~/") + QLatin1String(user.file)));
         EXPECT_EQ(terminalValue(shell, QStringLiteral("OPENAI_API_KEY")), QByteArray("sk-after"));
         QDir(sandbox.path(QStringLiteral(".config"))).removeRecursively();
     }
@@ -213,7 +213,7 @@ TEST_F(ApiKeyTest, FishAndTcshUsersGetTheKeyInTheStartUpFileTheirShellReads)
         GTEST_SKIP() << "neither fish nor tcsh is installed here";
 }
 
-TEST_F(ApiKeyTest, AComputedValueIsNeverEditedAndTheNewExportComesAfterIt)
+TEST_F(APIKeyStoreTest, AComputedValueIsNeverEditedAndTheNewExportComesAfterIt)
 {
     // Values that a shell computes (a command, backquotes, an ANSI-C string, a variable, an
     // escape, a quote joined to more text, a string still open): the line stays as the user
@@ -245,7 +245,7 @@ TEST_F(ApiKeyTest, AComputedValueIsNeverEditedAndTheNewExportComesAfterIt)
     }
 }
 
-TEST_F(ApiKeyTest, FirstSaveCreatesTheProfileBlock)
+TEST_F(APIKeyStoreTest, FirstSaveCreatesTheProfileBlock)
 {
     ASSERT_TRUE(save(QStringLiteral("sk-ant-123"), CLITool::claudeCode).ok());
     EXPECT_EQ(profile(), QByteArray("\n# Claude Code API Key\nexport ANTHROPIC_API_KEY=\"sk-ant-123\"\n"));
@@ -253,7 +253,7 @@ TEST_F(ApiKeyTest, FirstSaveCreatesTheProfileBlock)
     qunsetenv("ANTHROPIC_API_KEY");
 }
 
-TEST_F(ApiKeyTest, TheKeyGoesToTheProfileInUse)
+TEST_F(APIKeyStoreTest, TheKeyGoesToTheProfileInUse)
 {
     platform.terminalShell = QStringLiteral("/bin/bash");
     sandbox.writeFile(QStringLiteral(".bash_profile"), "export PATH=$PATH:/opt/bin"); // no final newline
@@ -264,7 +264,7 @@ TEST_F(ApiKeyTest, TheKeyGoesToTheProfileInUse)
     qunsetenv("GEMINI_API_KEY");
 }
 
-TEST_F(ApiKeyTest, LaterSavesRewriteInPlace)
+TEST_F(APIKeyStoreTest, LaterSavesRewriteInPlace)
 {
     sandbox.writeFile(QStringLiteral(".zshrc"), "alias ll='ls -l'\r\nexport GEMINI_API_KEY=\"old\"\r\nbindkey -e\r\n");
     const QByteArray path = sandbox.path(QStringLiteral(".zshrc")).toLocal8Bit();
@@ -280,7 +280,7 @@ TEST_F(ApiKeyTest, LaterSavesRewriteInPlace)
     qunsetenv("GEMINI_API_KEY");
 }
 
-TEST_F(ApiKeyTest, MentionsAndCommentedLines)
+TEST_F(APIKeyStoreTest, MentionsAndCommentedLines)
 {
     // Named only in a comment or inside a longer name: that is no export of it, so the block
     // is added and the key is really saved.
@@ -303,7 +303,7 @@ TEST_F(ApiKeyTest, MentionsAndCommentedLines)
     qunsetenv("OPENAI_API_KEY");
 }
 
-TEST_F(ApiKeyTest, ALinkedProfileStaysALink)
+TEST_F(APIKeyStoreTest, ALinkedProfileStaysALink)
 {
     sandbox.writeFile(QStringLiteral("dotfiles/zshrc"), "export ANTHROPIC_API_KEY=\"old\"\n");
     ASSERT_TRUE(QFile::link(sandbox.path(QStringLiteral("dotfiles/zshrc")), sandbox.path(QStringLiteral(".zshrc"))));
@@ -314,7 +314,7 @@ TEST_F(ApiKeyTest, ALinkedProfileStaysALink)
     qunsetenv("ANTHROPIC_API_KEY");
 }
 
-TEST_F(ApiKeyTest, HostileKeysStayData)
+TEST_F(APIKeyStoreTest, HostileKeysStayData)
 {
     const QString canary = sandbox.path(QStringLiteral("pwned"));
     const QStringList keys = {
@@ -349,7 +349,7 @@ TEST_F(ApiKeyTest, HostileKeysStayData)
     qunsetenv("OPENAI_API_KEY");
 }
 
-TEST_F(ApiKeyTest, RefusedKeysTouchNothing)
+TEST_F(APIKeyStoreTest, RefusedKeysTouchNothing)
 {
     sandbox.writeFile(QStringLiteral(".zshrc"), "export GEMINI_API_KEY=\"old\"\n");
     const Result<QString> result = save(QStringLiteral("first\nsecond"), CLITool::geminiCLI);
@@ -371,7 +371,7 @@ TEST_F(ApiKeyTest, RefusedKeysTouchNothing)
     qunsetenv("GEMINI_API_KEY");
 }
 
-TEST_F(ApiKeyTest, TheKeyNeverShowsInAProcessList)
+TEST_F(APIKeyStoreTest, TheKeyNeverShowsInAProcessList)
 {
     // A login file that takes its time: a command started for the save would be seen meanwhile.
     sandbox.writeFile(QStringLiteral(".zprofile"), "sleep 1\n");
@@ -393,8 +393,7 @@ TEST_F(ApiKeyTest, TheKeyNeverShowsInAProcessList)
         return found;
     };
 
-    auto saving = services.installer.saveAPIKey(QString::fromUtf8(key), CLITool::claudeCode);
-    // Watched for as long as the save runs.
+    auto saving = services.keys.save(QString::fromUtf8(key), CLITool::claudeCode);
     QStringList seen;
     while (!saving.isReady()) {
         seen << mentioning();
@@ -407,7 +406,7 @@ TEST_F(ApiKeyTest, TheKeyNeverShowsInAProcessList)
     qunsetenv("ANTHROPIC_API_KEY");
 }
 
-TEST_F(ApiKeyTest, OnlyTheValueChangesWhateverTheProfileHolds)
+TEST_F(APIKeyStoreTest, OnlyTheValueChangesWhateverTheProfileHolds)
 {
     // Another key after the one saved, a note, bytes that are not UTF-8: all of it stays.
     const QByteArray before = "# caf\xE9\nexport OPENAI_API_KEY=\"old\"; export ANTHROPIC_API_KEY=\"keep\" # note\n"
@@ -430,7 +429,7 @@ TEST_F(ApiKeyTest, OnlyTheValueChangesWhateverTheProfileHolds)
     qunsetenv("OPENAI_API_KEY");
 }
 
-TEST_F(ApiKeyTest, AHardLinkedProfileStaysOneFile)
+TEST_F(APIKeyStoreTest, AHardLinkedProfileStaysOneFile)
 {
     sandbox.writeFile(QStringLiteral("dotfiles/zshrc"), "export ANTHROPIC_API_KEY=\"old\"\n");
     const QByteArray original = sandbox.path(QStringLiteral("dotfiles/zshrc")).toLocal8Bit();
@@ -450,7 +449,7 @@ TEST_F(ApiKeyTest, AHardLinkedProfileStaysOneFile)
     qunsetenv("ANTHROPIC_API_KEY");
 }
 
-TEST_F(ApiKeyTest, AProfileThatCannotBeAppendedToIsAClearError)
+TEST_F(APIKeyStoreTest, AProfileThatCannotBeAppendedToIsAClearError)
 {
     // ~/.zshrc is a folder: no profile exists as a file, and appending to that path fails.
     QDir().mkpath(sandbox.path(QStringLiteral(".zshrc")));
@@ -464,7 +463,7 @@ TEST_F(ApiKeyTest, AProfileThatCannotBeAppendedToIsAClearError)
     EXPECT_FALSE(qEnvironmentVariableIsSet("ANTHROPIC_API_KEY"));
 }
 
-TEST_F(ApiKeyTest, AProfileThatCannotBeRewrittenIsLeftAlone)
+TEST_F(APIKeyStoreTest, AProfileThatCannotBeRewrittenIsLeftAlone)
 {
     // Permissions only stop ordinary users: as root the write is tried as "nobody", in a child.
     const QString folder = sandbox.path(QStringLiteral("locked"));

@@ -1,0 +1,200 @@
+#include "NodeInstaller.h"
+#include "SetupTest.h"
+
+#include <QCryptographicHash>
+#include <QProcess>
+
+using namespace qf;
+using qf::test::kDone;
+using qf::test::kInProgress;
+using qf::test::kPending;
+using qf::test::kSkipped;
+using qf::test::Report;
+using qf::test::SetupRun;
+
+namespace {
+
+class NodeInstallerTest : public test::SetupTest {
+protected:
+    // A release folder as nodejs.org publishes it, in the sandbox, and the installer pointed
+    // at it: an index with a newer current release, the newest LTS release `version` with a
+    // Linux archive (whose node prints `version`) and its checksum list, and an older LTS
+    // release. `checksum` replaces the archive's real checksum in the list.
+    void publishNodeRelease(const QString& version, const QByteArray& checksum = QByteArray())
+    {
+        const QString dist = sandbox.stateDirectory() + QStringLiteral("/dist");
+        const QString folder = QStringLiteral("node-") + version + QStringLiteral("-linux-x64");
+        const QString staging = sandbox.stateDirectory() + QStringLiteral("/staging/") + folder;
+        writeFile(staging + QStringLiteral("/bin/node"), "#!/bin/sh\necho " + version.toUtf8() + "\n");
+        QFile::setPermissions(staging + QStringLiteral("/bin/node"), QFileDevice::ReadOwner | QFileDevice::ExeOwner);
+        for (const char* loose : {"/CHANGELOG.md", "/LICENSE", "/README.md", "/lib/node_modules/npm/package.json"})
+            writeFile(staging + QLatin1String(loose), "{}\n");
+        const QString archive = dist + QLatin1Char('/') + version + QLatin1Char('/') + folder +
+                                QStringLiteral(".tar.gz");
+        QDir().mkpath(QFileInfo(archive).absolutePath());
+        QProcess tar;
+        tar.setWorkingDirectory(QFileInfo(staging).absolutePath());
+        tar.start(QStringLiteral("tar"), {QStringLiteral("-czf"), archive, folder});
+        ASSERT_TRUE(tar.waitForFinished(10000) && tar.exitCode() == 0) << tar.readAllStandardError().constData();
+
+        QFile file(archive);
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        const QByteArray sum = checksum.isEmpty()
+                                   ? QCryptographicHash::hash(file.readAll(), QCryptographicHash::Sha256).toHex()
+                                   : checksum;
+        writeFile(dist + QLatin1Char('/') + version + QStringLiteral("/SHASUMS256.txt"),
+                  QByteArray(64, 'a') + "  node-" + version.toUtf8() + "-darwin-arm64.tar.gz\n" + sum + "  " +
+                      folder.toUtf8() + ".tar.gz\n");
+        writeFile(dist + QStringLiteral("/index.json"),
+                  R"([{"version":"v25.2.0","files":["linux-x64","osx-arm64-tar"],"lts":false},
+                      {"version":")" +
+                      version.toUtf8() +
+                      R"(","files":["linux-arm64","linux-x64"],"lts":"Jod"},
+                      {"version":"v20.19.5","files":["linux-x64"],"lts":"Iron"}])");
+        nodeInstaller.setDistribution(QStringLiteral("file://") + dist);
+    }
+
+    NodeInstaller& nodeInstaller = services.nodeInstaller;
+};
+
+} // namespace
+
+TEST_F(NodeInstallerTest, AnOldNodeIsReplacedThroughHomebrew)
+{
+    sandbox.installFakes({"git", "node", "npm", "brew"});
+    sandbox.setEnv("FAKE_NODE_VERSION", "v16.20.2");
+
+    EXPECT_EQ(steps(CLITool::codex)[2], (SetupStep{SetupStepType::installNode, kPending, std::nullopt}));
+    const SetupRun run = runSetup(CLITool::codex);
+    ASSERT_TRUE(run.result && run.result->ok()) << run.error().toStdString();
+    EXPECT_TRUE(run.reports.contains(Report{SetupStepType::installNode, kInProgress, std::nullopt}));
+    EXPECT_TRUE(run.reports.contains(Report{SetupStepType::installNode, kDone, QStringLiteral("v21.5.0")}));
+    EXPECT_TRUE(run.log.contains(QStringLiteral("Installing Node.js via Homebrew...\n==> Downloading")));
+    EXPECT_TRUE(run.log.contains(QStringLiteral("Node.js v21.5.0 successfully!\n")));
+}
+
+TEST_F(NodeInstallerTest, WithoutHomebrewNodeComesFromTheNewestLTSRelease)
+{
+    sandbox.installFakes({"git", "npm", "curl"});
+    publishNodeRelease(QStringLiteral("v22.11.0"));
+    const SetupRun run = runSetup(CLITool::codex);
+    ASSERT_TRUE(run.result && run.result->ok()) << run.error().toStdString();
+    EXPECT_TRUE(run.log.contains(QStringLiteral("Installing Node.js via official installer...\n"
+                                                "Node.js v22.11.0 (LTS \"Jod\") for linux-x64 from file://")))
+        << run.log.toStdString();
+    EXPECT_TRUE(
+        run.log.contains(QStringLiteral("SHA-256 checksum verified\nUnpacked Node.js v22.11.0 into ~/.local "
+                                        "(node and npm are in ~/.local/bin)\nNode.js v22.11.0 successfully!\n")));
+    EXPECT_TRUE(run.reports.contains(Report{SetupStepType::installNode, kDone, QStringLiteral("v22.11.0")}));
+    // The archive's top folder is stripped and its loose files left out.
+    EXPECT_EQ(QDir(sandbox.path(QStringLiteral(".local"))).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+              (QStringList{QStringLiteral("bin"), QStringLiteral("lib")}));
+    EXPECT_TRUE(sandbox.exists(QStringLiteral(".local/lib/node_modules/npm/package.json")));
+}
+
+TEST_F(NodeInstallerTest, ATamperedNodeArchiveIsRefusedWithNothingUnpacked)
+{
+    sandbox.installFakes({"git", "npm", "curl"});
+    publishNodeRelease(QStringLiteral("v22.11.0"), QByteArray(64, '0'));
+    const QString temporary = sandbox.stateDirectory() + QStringLiteral("/tmp");
+    QDir().mkpath(temporary);
+    sandbox.setEnv("TMPDIR", temporary.toUtf8());
+
+    const SetupRun run = runSetup(CLITool::geminiCLI);
+    EXPECT_EQ(run.error(), QStringLiteral("The Node.js download does not match its published checksum, so nothing "
+                                          "was installed. Please try again."));
+    EXPECT_FALSE(run.mentions(SetupStepType::installTool));
+    EXPECT_FALSE(sandbox.exists(QStringLiteral(".local")));
+    // The download went with the refusal.
+    EXPECT_TRUE(QDir(temporary).isEmpty());
+
+    // A list that does not name the archive, an index without an LTS release for this
+    // computer, no release for its processor, no download at all: each says what went
+    // wrong, and nothing is unpacked.
+    publishNodeRelease(QStringLiteral("v22.11.0"));
+    writeFile(sandbox.stateDirectory() + QStringLiteral("/dist/v22.11.0/SHASUMS256.txt"), "");
+    EXPECT_EQ(runSetup(CLITool::geminiCLI).error(),
+              QStringLiteral("The checksum list of Node.js v22.11.0 does not name node-v22.11.0-linux-x64.tar.gz, so "
+                             "nothing was installed."));
+    platform.releaseTarget = NodeReleaseTarget{QStringLiteral("darwin-arm64"), QStringLiteral("osx-arm64-tar")};
+    EXPECT_TRUE(
+        runSetup(CLITool::geminiCLI)
+            .error()
+            .startsWith(QStringLiteral("No long-term support release of Node.js for darwin-arm64 was found at ")));
+    platform.releaseTarget.reset();
+    EXPECT_EQ(runSetup(CLITool::geminiCLI).error(),
+              QStringLiteral("Node.js publishes no release for this computer's "
+                             "processor. Please install it manually from nodejs.org"));
+    platform.releaseTarget = NodeReleaseTarget{QStringLiteral("linux-x64"), QStringLiteral("linux-x64")};
+    nodeInstaller.setDistribution(QStringLiteral("file:///nonexistent/dist"));
+    EXPECT_TRUE(runSetup(CLITool::geminiCLI)
+                    .error()
+                    .startsWith(QStringLiteral("Could not download the list of Node.js releases. ")));
+    EXPECT_FALSE(sandbox.exists(QStringLiteral(".local")));
+}
+
+TEST_F(NodeInstallerTest, AnOlderNodeFirstOnThePathFailsTheNodeStep)
+{
+    // An nvm Node.js 18 comes before ~/.local/bin, where the release installer puts Node.js 22.
+    sandbox.installFakes({"git", "npm"});
+    sandbox.writeFile(QStringLiteral(".nvm/versions/node/v18.19.0/bin/node"), "#!/bin/sh\necho v18.19.0\n");
+    QFile::setPermissions(sandbox.path(QStringLiteral(".nvm/versions/node/v18.19.0/bin/node")),
+                          QFileDevice::ReadOwner | QFileDevice::ExeOwner);
+    sandbox.installFake(QStringLiteral("curl"));
+    publishNodeRelease(QStringLiteral("v22.11.0"));
+
+    const SetupRun gemini = runSetup(CLITool::geminiCLI);
+    EXPECT_EQ(
+        gemini.error(),
+        QStringLiteral("Node.js v22.11.0 was installed in %1, but Node.js v18.19.0 in %2 comes first on the search "
+                       "path. Gemini CLI needs Node.js 20 or newer. Remove the older Node.js, or put %1 before %2 "
+                       "in your PATH.")
+            .arg(sandbox.path(QStringLiteral(".local/bin")),
+                 sandbox.path(QStringLiteral(".nvm/versions/node/v18.19.0/bin"))));
+    EXPECT_FALSE(gemini.mentions(SetupStepType::installTool));
+    // The log says what was installed, and then what commands find first.
+    EXPECT_TRUE(gemini.log.contains(QStringLiteral("Node.js v22.11.0 successfully!\nNote: Node.js v18.19.0 in %1 is "
+                                                   "found first on the search path.\n")
+                                        .arg(sandbox.path(QStringLiteral(".nvm/versions/node/v18.19.0/bin")))))
+        << gemini.log.toStdString();
+
+    // The same Node.js 18 is enough for Codex: nothing is installed.
+    QFile::remove(sandbox.path(QStringLiteral(".local/bin/node")));
+    EXPECT_EQ(steps(CLITool::codex)[2], (SetupStep{SetupStepType::installNode, kSkipped, QStringLiteral("v18.19.0")}));
+    const SetupRun codex = runSetup(CLITool::codex);
+    ASSERT_TRUE(codex.result && codex.result->ok()) << codex.error().toStdString();
+    EXPECT_FALSE(sandbox.exists(QStringLiteral(".local/bin/node")));
+}
+
+TEST(NodeShadowedMessage, SaysWhatWasFound)
+{
+    const QList<NodeInstall> oldOnly = {{QStringLiteral("/usr/bin"), QStringLiteral("v18.19.0")}};
+    EXPECT_EQ(NodeInstaller::shadowedMessage(CLITool::geminiCLI, oldOnly),
+              QStringLiteral("Node.js was installed, but the Node.js found first is v18.19.0 in /usr/bin. Gemini CLI "
+                             "needs Node.js 20 or newer."));
+    EXPECT_EQ(NodeInstaller::shadowedMessage(CLITool::geminiCLI, {}),
+              QStringLiteral("Node.js was installed, but no Node.js is found on the search path. Gemini CLI needs "
+                             "Node.js 20 or newer."));
+}
+
+TEST_F(NodeInstallerTest, NodeFailures)
+{
+    sandbox.installFakes({"git", "npm", "brew"});
+
+    // The installer itself fails: its error ends the run and the step stays in progress.
+    sandbox.setEnv("FAKE_BREW_FAIL", "1");
+    SetupRun failed = runSetup(CLITool::geminiCLI);
+    EXPECT_EQ(failed.error(), QStringLiteral("Command failed with exit code 1: Command failed"));
+    EXPECT_EQ(failed.last(SetupStepType::installNode), kInProgress);
+    EXPECT_FALSE(failed.mentions(SetupStepType::installTool));
+    EXPECT_TRUE(failed.log.contains(QStringLiteral("failed to download resource")));
+
+    // The installer succeeds but Node.js is still missing afterwards.
+    sandbox.setEnv("FAKE_BREW_FAIL", "");
+    sandbox.setEnv("FAKE_BREW_NO_NODE", "1");
+    SetupRun missing = runSetup(CLITool::geminiCLI);
+    EXPECT_EQ(missing.error(), QStringLiteral("Failed to install Node.js. Please install it manually from nodejs.org"));
+    ASSERT_TRUE(missing.result);
+    EXPECT_EQ(missing.result->error().installationError(), InstallationError::nodeInstallFailed);
+    EXPECT_EQ(missing.last(SetupStepType::installNode), kInProgress);
+}
