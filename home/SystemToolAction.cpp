@@ -9,7 +9,9 @@ namespace qf {
 
 namespace {
 
-QString trText(const char* source) { return QCoreApplication::translate("SystemTool", source); }
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(SystemToolAction)
+};
 
 } // namespace
 
@@ -26,8 +28,8 @@ void handleSystemToolAction(const SystemTool& tool, Platform& platform, const st
             return;
         }
         if (!platform.revealFolder(path) && fallback) {
-            fallback({trText("The folder could not be shown"),
-                      trText("No file manager answered. Your projects folder is here:"), path});
+            fallback({Text::tr("The folder could not be shown"),
+                      Text::tr("No file manager answered. Your projects folder is here:"), path});
         }
     };
     switch (tool.id) {
@@ -47,8 +49,8 @@ void handleSystemToolAction(const SystemTool& tool, Platform& platform, const st
             const DeveloperToolsItem item = platform.developerToolsItem();
             platform.startDeveloperToolsInstaller([fallback, item](bool started) {
                 if (!started && fallback && !item.installLine.isEmpty()) {
-                    fallback({trText("The installer could not be started"),
-                              trText("Open a terminal yourself and type this line:"), item.installLine});
+                    fallback({Text::tr("The installer could not be started"),
+                              Text::tr("Open a terminal yourself and type this line:"), item.installLine});
                 }
             });
         }

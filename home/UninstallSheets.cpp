@@ -337,7 +337,6 @@ void SystemToolUninstallSheet::performUninstall()
             return;
         }
         finish(std::nullopt);
-        appendOutput(QStringLiteral("\n") + m_tool.name + QStringLiteral(" has been uninstalled.\n"));
     });
 }
 

@@ -138,7 +138,7 @@ SystemCheckView::SystemCheckView(InstallationState& state, Services& services, Q
         auto* title = flow::centredText(tr("System Check"), Theme::font(17, QFont::Bold));
         title->setObjectName(QStringLiteral("systemCheckTitle"));
         header->addWidget(title);
-        auto* subtitle = flow::centredText(tr("Checking requirements for ") + tool->displayName(), Theme::body(),
+        auto* subtitle = flow::centredText(tr("Checking requirements for %1").arg(tool->displayName()), Theme::body(),
                                            Tint(Role::secondary));
         header->addWidget(subtitle);
         column->addLayout(header);
@@ -308,9 +308,9 @@ void SystemCheckView::render()
     m_installed->setVisible(installed);
     m_requirementList->setVisible(!m_isChecking && !m_toolAlreadyInstalled);
 
-    m_installedTitle->setText((tool ? tool->displayName() : tr("Tool")) + tr(" is already installed!"));
+    m_installedTitle->setText(tr("%1 is already installed!").arg(tool ? tool->displayName() : tr("Tool")));
     m_installedVersionLabel->setVisible(m_installedVersion.has_value());
-    m_installedVersionLabel->setText(tr("Version: ") + m_installedVersion.value_or(QString()));
+    m_installedVersionLabel->setText(tr("Version: %1").arg(m_installedVersion.value_or(QString())));
 
     if (m_toolAlreadyInstalled) {
         m_main->setTitle(tr("Open Terminal"));

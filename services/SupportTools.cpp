@@ -10,16 +10,10 @@
 
 namespace qf {
 
-namespace {
-
-QString trText(const char* source) { return QCoreApplication::translate("SystemTool", source); }
-
-} // namespace
-
 QList<SystemTool> systemToolCatalogue(const Platform& platform)
 {
     const DeveloperToolsItem tools = platform.developerToolsItem();
-    const QString optionalNote = trText("Only needed for Gemini or Codex");
+    const QString optionalNote = SupportTools::tr("Only needed for Gemini or Codex");
     QList<SystemTool> items{
         SystemTool{
             .id = SystemToolID::developerTools,
@@ -34,9 +28,9 @@ QList<SystemTool> systemToolCatalogue(const Platform& platform)
         SystemTool{
             .id = SystemToolID::developerFolder,
             .key = QStringLiteral("developer"),
-            .name = trText("Developer Folder"),
+            .name = SupportTools::tr("Developer Folder"),
             .icon = QStringLiteral("folder.badge.plus"),
-            .description = trText("Where your projects live"),
+            .description = SupportTools::tr("Where your projects live"),
             .isInstalled = developerFolderExists(),
             .uninstallNote = platform.wording().developerFolderNote,
         },
@@ -141,7 +135,8 @@ QCoro::Task<SystemTool> SupportTools::detect(SystemTool tool)
         tool.uninstallCommand = nodeRemovalCommand(copy);
         if (!tool.uninstallCommand) {
             tool.uninstallNote =
-                trText("This Node.js (%1) was installed by another program. Remove it the way it was installed.")
+                SupportTools::tr(
+                    "This Node.js (%1) was installed by another program. Remove it the way it was installed.")
                     .arg(where ? where.value() : QStringLiteral("node"));
         }
         break;
@@ -173,7 +168,7 @@ QCoro::Task<Result<void>> SupportTools::remove(SystemTool tool, ShellRunner::Out
         co_return ServiceError(InstallationError::manualUninstallRequired, m_platform.wording());
     const QString command = *tool.uninstallCommand;
     onOutput(QStringLiteral("Running: ") + tool.uninstallShownAs.value_or(command) + QStringLiteral("\n\n"));
-    const QString activity = trText("The removal of %1").arg(tool.name);
+    const QString activity = SupportTools::tr("The removal of %1").arg(tool.name);
     const Result<void> ran = co_await m_shell.runWithStreaming(command, onOutput, nullptr, activity);
     if (!ran)
         co_return administratorRemovalResult(ran, tool.name);
@@ -183,10 +178,12 @@ QCoro::Task<Result<void>> SupportTools::remove(SystemTool tool, ShellRunner::Out
         const Result<QString> found = co_await m_shell.run(QStringLiteral("command -v brew"));
         if (found) {
             co_return ServiceError::message(
-                trText("%1 is still installed at %2: its removal did not finish. The output above says why.")
+                SupportTools::tr("%1 is still installed at %2: its removal did not finish. The output above says why.")
                     .arg(tool.name, found.value()));
         }
     }
+    // The log ends with the outcome even when nobody watches the removal any more.
+    onOutput(QStringLiteral("\n") + tool.name + QStringLiteral(" has been uninstalled.\n"));
     co_return Result<void>();
 }
 

@@ -4,6 +4,7 @@
 #include "ShellRunner.h"
 #include "SystemTool.h"
 
+#include <QCoreApplication>
 #include <QCoro/QCoroTask>
 #include <QList>
 #include <QString>
@@ -30,6 +31,8 @@ QList<SystemTool> systemToolCatalogue(const Platform& platform);
 // The supporting items of the setup: finds out which are there, with their versions and how
 // each would go away, and removes one by its own line.
 class SupportTools {
+    Q_DECLARE_TR_FUNCTIONS(SupportTools)
+
 public:
     SupportTools(ShellRunner& shell, const Platform& platform);
     SupportTools(const SupportTools&) = delete;

@@ -173,7 +173,8 @@ TEST_F(SupportToolsTest, ARemovalRunsTheItemsLineAndStreamsWhatItSays)
     const SystemTool node = *await(services.supportTools.detect(item(SystemToolID::node)));
     EXPECT_TRUE(remove(node).ok());
     EXPECT_EQ(log, QStringLiteral("Running: brew uninstall node\n\n"
-                                  "Uninstalling /opt/homebrew/Cellar/node/21.5.0... (2,000 files, 60MB)\n"));
+                                  "Uninstalling /opt/homebrew/Cellar/node/21.5.0... (2,000 files, 60MB)\n"
+                                  "\nNode.js has been uninstalled.\n"));
     EXPECT_FALSE(QFile::exists(sandbox.binDirectory() + QStringLiteral("/node")));
 
     // An item without a line of its own is not removed from here.
@@ -237,8 +238,10 @@ TEST_F(SupportToolsTest, HomebrewIsRemovedOnlyOnceItIsGone)
     EXPECT_EQ(kept.error().plainDescription(), QStringLiteral("Homebrew is still installed at %1: its removal did not "
                                                               "finish. The output above says why.")
                                                    .arg(sandbox.binDirectory() + QStringLiteral("/brew")));
+    EXPECT_FALSE(log.contains(QStringLiteral("has been uninstalled")));
 
     homebrew.uninstallCommand = QStringLiteral("rm %1/brew").arg(sandbox.binDirectory());
     EXPECT_TRUE(remove(homebrew).ok());
     EXPECT_FALSE(QFile::exists(sandbox.binDirectory() + QStringLiteral("/brew")));
+    EXPECT_TRUE(log.endsWith(QStringLiteral("\nHomebrew has been uninstalled.\n"))) << log.toStdString();
 }
