@@ -204,7 +204,7 @@ void RemovalSheet::showOutput(const QString& text)
 
 QString RemovalSheet::plainFailureFor(const ServiceError& error)
 {
-    const QString plain = error.plainDescription();
+    QString plain = error.plainDescription();
     if (error.errorDescription() != plain)
         appendOutput(QStringLiteral("\nError: ") + error.errorDescription() + QLatin1Char('\n'));
     return plain;

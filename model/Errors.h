@@ -134,7 +134,7 @@ public:
 
     bool ok() const { return !m_error.has_value(); }
     explicit operator bool() const { return ok(); }
-    const ServiceError& error() const { return *m_error; }
+    const ServiceError& error() const { return m_error.value(); }
 
 private:
     std::optional<ServiceError> m_error;

@@ -10,7 +10,6 @@
 #include "UninstallSheets.h"
 
 #include <QAbstractButton>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QLabel>
