@@ -1,5 +1,6 @@
 #include "FirstTimeWelcomeCard.h"
 
+#include "IconTile.h"
 #include "Label.h"
 #include "Layout.h"
 #include "Symbol.h"

@@ -1,12 +1,10 @@
 #include "HomeView.h"
 
-#include "TerminalFallback.h"
-
 #include "DashboardLoad.h"
 #include "FirstTimeWelcomeCard.h"
 #include "InstallationState.h"
+#include "SectionHeader.h"
 #include "Services.h"
-#include "SharedComponents.h"
 #include "ToolCards.h"
 #include "UninstallSheets.h"
 
@@ -19,6 +17,7 @@
 #include "Motion.h"
 #include "RoundedCard.h"
 #include "Surface.h"
+#include "TerminalFallbackRow.h"
 
 #include <QCoro/QCoroTask>
 

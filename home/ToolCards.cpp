@@ -1,5 +1,6 @@
 #include "ToolCards.h"
 
+#include "IconTile.h"
 #include "ImageView.h"
 #include "Label.h"
 #include "Layout.h"

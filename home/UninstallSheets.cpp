@@ -9,6 +9,7 @@
 #include "Button.h"
 #include "FocusOrder.h"
 #include "FocusRing.h"
+#include "IconTile.h"
 #include "Label.h"
 #include "Layout.h"
 #include "LogView.h"

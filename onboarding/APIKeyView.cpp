@@ -4,8 +4,10 @@
 #include "InstallationState.h"
 #include "Services.h"
 
+#include "IconTile.h"
 #include "Label.h"
 #include "Layout.h"
+#include "RoundedCard.h"
 #include "Symbol.h"
 #include "TextField.h"
 

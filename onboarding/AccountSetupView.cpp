@@ -3,9 +3,11 @@
 #include "InstallationState.h"
 #include "Platform.h"
 
+#include "IconTile.h"
 #include "Label.h"
 #include "Layout.h"
 #include "Motion.h"
+#include "RoundedCard.h"
 #include "Surface.h"
 #include "Symbol.h"
 

@@ -3,13 +3,18 @@
 #include "FlowScreen.h"
 #include "InstallationState.h"
 #include "Services.h"
-#include "TerminalFallback.h"
+#include "ToolLaunch.h"
 
+#include "CopiedToast.h"
+#include "CopyButton.h"
 #include "FocusOrder.h"
+#include "IconTile.h"
 #include "Label.h"
 #include "Layout.h"
+#include "RoundedCard.h"
 #include "Surface.h"
 #include "Symbol.h"
+#include "TerminalFallbackRow.h"
 
 #include <QPainter>
 #include <QScrollBar>

@@ -2,7 +2,7 @@
 
 #include "Button.h"
 #include "CLITool.h"
-#include "RoundedCard.h"
+#include "IconTile.h"
 
 #include <QPointer>
 #include <QWidget>

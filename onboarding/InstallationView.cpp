@@ -4,8 +4,9 @@
 #include "InstallationState.h"
 #include "LogFile.h"
 #include "Platform.h"
-#include "SharedComponents.h"
 
+#include "CopiedToast.h"
+#include "IconTile.h"
 #include "Label.h"
 #include "Layout.h"
 #include "LogView.h"

@@ -2,14 +2,15 @@
 
 #include "InstallationState.h"
 #include "Services.h"
-#include "TerminalFallback.h"
 
 #include "ActivityIndicator.h"
 #include "Expander.h"
 #include "FocusOrder.h"
+#include "IconTile.h"
 #include "Label.h"
 #include "Layout.h"
 #include "Symbol.h"
+#include "TerminalFallbackRow.h"
 
 #include <QCoro/QCoroTask>
 #include <QLocale>

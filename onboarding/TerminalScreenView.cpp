@@ -3,13 +3,15 @@
 #include "FlowScreen.h"
 #include "InstallationState.h"
 #include "Services.h"
-#include "SharedComponents.h"
-#include "TerminalFallback.h"
+#include "ToolLaunch.h"
 
+#include "CopiedToast.h"
 #include "FocusOrder.h"
 #include "Label.h"
 #include "Layout.h"
+#include "RoundedCard.h"
 #include "Symbol.h"
+#include "TerminalFallbackRow.h"
 
 #include <QPainter>
 
