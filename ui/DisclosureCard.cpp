@@ -10,7 +10,7 @@ namespace qf::ui {
 namespace {
 
 // The header keeps this much room around its content for the focus ring; the card's padding
-// gives it back, so everything sits 16 points from the card's edges.
+// gives it back, so everything sits a card's padding in from its edges.
 constexpr int kRingRoom = 4;
 
 } // namespace
@@ -19,9 +19,9 @@ DisclosureCard::DisclosureCard(const QString& symbol, const Tint& symbolTint, co
     : RoundedCard(parent)
 {
     setCornerRadius(12);
-    auto* column = vstack(this, 0, QMargins(16 - kRingRoom, 16 - kRingRoom, 16 - kRingRoom, 16));
+    auto* column = vstack(this, 0, around(spacing::cardPadding) - QMargins(kRingRoom, kRingRoom, kRingRoom, 0));
     m_header = new RowButton;
-    m_header->setPadding(QMargins(kRingRoom, kRingRoom, kRingRoom, kRingRoom));
+    m_header->setPadding(around(kRingRoom));
     m_header->setAccessibleName(title);
     m_header->addWidget(new SymbolView(symbol, 13, symbolTint), 0, Qt::AlignVCenter);
     m_header->addWidget(new Label(title, Theme::headline()), 0, Qt::AlignVCenter);
