@@ -3,9 +3,9 @@
 #include "CommandLine.h"
 #include "Platform.h"
 #include "QuillforgeVersion.h"
-#include "SharedComponents.h"
 
 #include "Button.h"
+#include "CopyButton.h"
 #include "FocusRing.h"
 #include "ImageView.h"
 #include "Label.h"

@@ -1,5 +1,6 @@
 #include "FirstTimeWelcomeCard.h"
 
+#include "IconTile.h"
 #include "Label.h"
 #include "Layout.h"
 #include "Symbol.h"
@@ -38,7 +39,7 @@ FirstTimeWelcomeCard::FirstTimeWelcomeCard(const QString& developerToolsName, QW
     setShadow(ShadowStyle{Tint(Role::green, 0.10), 20, {0, 8}});
     setGradientStroke(Tint(Role::green, 0.30), Tint(Role::green, 0.10), 1.5, {0, 0}, {1, 1});
 
-    auto* column = vstack(this, 20, QMargins(22, 22, 22, 22));
+    auto* column = vstack(this, 20, around(22));
 
     // Greeting.
     auto* header = hstack(14);
@@ -75,7 +76,7 @@ FirstTimeWelcomeCard::FirstTimeWelcomeCard(const QString& developerToolsName, QW
     tip->setObjectName(QStringLiteral("welcomeTip"));
     tip->setCornerRadius(10);
     tip->setFill(Tint(Role::yellow, 0.08));
-    auto* tipRow = hstack(tip, 10, QMargins(14, 14, 14, 14));
+    auto* tipRow = hstack(tip, 10, around(14));
     tipRow->addWidget(new SymbolView(QStringLiteral("lightbulb.fill"), 14, Tint(Role::yellow)), 0, Qt::AlignVCenter);
     m_tip = new Label(QString(), Theme::font(12), Tint(Role::secondary));
     m_tip->setObjectName(QStringLiteral("welcomeTipText"));

@@ -1,12 +1,10 @@
 #include "HomeView.h"
 
-#include "TerminalFallback.h"
-
 #include "DashboardLoad.h"
 #include "FirstTimeWelcomeCard.h"
 #include "InstallationState.h"
+#include "SectionHeader.h"
 #include "Services.h"
-#include "SharedComponents.h"
 #include "ToolCards.h"
 #include "UninstallSheets.h"
 
@@ -19,6 +17,7 @@
 #include "Motion.h"
 #include "RoundedCard.h"
 #include "Surface.h"
+#include "TerminalFallbackRow.h"
 
 #include <QCoro/QCoroTask>
 
@@ -37,7 +36,7 @@ QString systemKey(const SystemTool& tool) { return QStringLiteral("sys-") + tool
 // A section of the dashboard: its header above a stack of cards.
 void addSection(QVBoxLayout* parent, SectionHeader* header, QLayout* cards)
 {
-    auto* section = vstack(16, QMargins(28, 0, 28, 0));
+    auto* section = vstack(16, sides(spacing::dashboardSide));
     section->addWidget(header);
     section->addLayout(cards);
     parent->addLayout(section);
@@ -64,7 +63,7 @@ HomeView::HomeView(InstallationState& state, Services& services, QWidget* parent
     auto* column = centredColumn(m_scroll->content(), this, 32, QMargins(0, 0, 0, 32));
 
     // Header: the logo and name, and what this screen is.
-    auto* header = vstack(8, QMargins(28, 20, 28, 0));
+    auto* header = vstack(8, sides(spacing::dashboardSide, 20));
     auto* brand = hstack(10);
     // Where the system has no application menu, "About Quillforge" sits at the header's end;
     // a space as wide on the other side keeps the name centred.
@@ -99,7 +98,7 @@ HomeView::HomeView(InstallationState& state, Services& services, QWidget* parent
     // While loading: a spinner and what is going on.
     m_loadingRow = new QWidget;
     m_loadingRow->setObjectName(QStringLiteral("loadingRow"));
-    auto* loading = vstack(m_loadingRow, 16, QMargins(60, 60, 60, 60));
+    auto* loading = vstack(m_loadingRow, 16, around(60));
     loading->addWidget(new ActivityIndicator(24, Tint(Role::accent)), 0, Qt::AlignHCenter);
     auto* checking = new Label(tr("Checking your setup..."), Theme::font(13, QFont::Medium), Tint(Role::tertiary));
     checking->setObjectName(QStringLiteral("loadingText"));
@@ -110,12 +109,12 @@ HomeView::HomeView(InstallationState& state, Services& services, QWidget* parent
     // layouts, so that their shadows and hover growth are never cut off by a smaller box.
     auto* lists = vstack(32);
     m_welcome = new FirstTimeWelcomeCard(services.platform.developerToolsItem().name);
-    auto* welcomeRow = hstack(0, QMargins(28, 0, 28, 0));
+    auto* welcomeRow = hstack(0, sides(spacing::dashboardSide));
     welcomeRow->addWidget(m_welcome);
     lists->addLayout(welcomeRow);
 
     // What to do instead when an item's action could not run.
-    m_fallbackRow = hstack(0, QMargins(28, 0, 28, 0));
+    m_fallbackRow = hstack(0, sides(spacing::dashboardSide));
     lists->addLayout(m_fallbackRow);
 
     // One card per supporting item of the catalogue; a load fills in what it finds.

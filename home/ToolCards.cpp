@@ -1,5 +1,6 @@
 #include "ToolCards.h"
 
+#include "IconTile.h"
 #include "ImageView.h"
 #include "Label.h"
 #include "Layout.h"
@@ -158,7 +159,7 @@ AIToolCard::AIToolCard(CLITool tool, std::function<void()> onOpen, std::function
     setFill(Tint(Role::controlBackground));
     setAccessibleName(tool.displayName());
 
-    auto* row = hstack(this, 14, QMargins(14, 14, 14, 14));
+    auto* row = hstack(this, 14, around(14));
 
     m_logo = new ImageView(tool.logoImageName(), 40);
     m_logo->setObjectName(QStringLiteral("toolLogo"));
@@ -239,7 +240,7 @@ SystemToolCard::SystemToolCard(const SystemTool& tool, Action onAction, Action o
     setCornerRadius(12);
     setFill(Tint(Role::controlBackground));
 
-    auto* row = hstack(this, 12, QMargins(12, 12, 12, 12));
+    auto* row = hstack(this, 12, around(12));
     m_step = new IconTile(QSize(28, 28), Shape::circle(), Tint(Role::orange, 0.15));
     m_step->setObjectName(QStringLiteral("stepNumber"));
     row->addWidget(m_step, 0, Qt::AlignVCenter);

@@ -3,6 +3,7 @@
 #include "CLITool.h"
 #include "SystemTool.h"
 
+#include "Badge.h"
 #include "Button.h"
 #include "Motion.h"
 #include "RoundedCard.h"
@@ -13,6 +14,7 @@
 namespace qf {
 
 namespace ui {
+class IconTile;
 class ImageView;
 class Label;
 } // namespace ui

@@ -9,6 +9,7 @@
 #include "Button.h"
 #include "FocusOrder.h"
 #include "FocusRing.h"
+#include "IconTile.h"
 #include "Label.h"
 #include "Layout.h"
 #include "LogView.h"
@@ -28,7 +29,7 @@ constexpr int kSheetWidth = 420;
 // A row with `widget` inset by the sheets' side padding.
 QHBoxLayout* padded(QWidget* widget)
 {
-    auto* row = hstack(0, QMargins(28, 0, 28, 0));
+    auto* row = hstack(0, sides(spacing::sheetSide));
     row->addWidget(widget);
     return row;
 }
@@ -81,7 +82,7 @@ RemovalSheet::RemovalSheet(const QString& name, const LogBook& logs, std::functi
     m_description->setObjectName(QStringLiteral("sheetDescription"));
     m_description->setAlignment(Qt::AlignHCenter);
     m_description->setWrapping(true);
-    auto* descriptionRow = hstack(0, QMargins(16, 0, 16, 0));
+    auto* descriptionRow = hstack(0, sides(16));
     descriptionRow->addWidget(m_description);
     header->addLayout(descriptionRow);
     column->addLayout(header);
@@ -106,7 +107,7 @@ RemovalSheet::RemovalSheet(const QString& name, const LogBook& logs, std::functi
     errorCard->setObjectName(QStringLiteral("errorRow"));
     errorCard->setCornerRadius(8);
     errorCard->setFill(Tint(Role::orange, 0.10));
-    auto* errorLayout = hstack(errorCard, 8, QMargins(12, 12, 12, 12));
+    auto* errorLayout = hstack(errorCard, 8, around(spacing::boxPadding));
     errorLayout->addWidget(new SymbolView(QStringLiteral("exclamationmark.triangle.fill"), 13, Tint(Role::orange)), 0,
                            Qt::AlignVCenter);
     m_error = new Label(QString(), Theme::font(12), Tint(Role::secondary));
@@ -118,7 +119,7 @@ RemovalSheet::RemovalSheet(const QString& name, const LogBook& logs, std::functi
     column->addLayout(padded(m_errorRow));
 
     // The buttons.
-    auto* buttons = hstack(12, QMargins(28, 0, 28, 0));
+    auto* buttons = hstack(12, sides(spacing::sheetSide));
     buttons->addStretch(1);
     m_cancel = sheetButton(tr("Cancel"), Button::Style::bordered, "cancelButton");
     connect(m_cancel, &QAbstractButton::clicked, this, [this] { QDialog::reject(); });

@@ -4,8 +4,10 @@
 #include "InstallationState.h"
 #include "Services.h"
 
+#include "IconTile.h"
 #include "Label.h"
 #include "Layout.h"
+#include "RoundedCard.h"
 #include "Symbol.h"
 #include "TextField.h"
 
@@ -24,7 +26,7 @@ QVBoxLayout* card(QVBoxLayout* column, const QString& objectName)
 {
     auto* panel = roundedCard(objectName, 12);
     column->addWidget(panel);
-    return vstack(panel, 12, QMargins(16, 16, 16, 16));
+    return vstack(panel, 12, around(spacing::cardPadding));
 }
 
 } // namespace
@@ -58,7 +60,7 @@ void APIKeyView::buildContent(CLITool tool, Platform& platform, const QString& p
 {
     const QColor brand = tool.brandColor();
 
-    auto* header = vstack(12, QMargins(24, 0, 24, 0));
+    auto* header = vstack(12, sides(spacing::screenSide));
     auto* badge = new IconTile(QSize(56, 56), Shape::rounded(14), Tint(brand, 0.15));
     badge->setSymbol(QStringLiteral("key.fill"), 24, Tint(brand));
     header->addWidget(badge, 0, Qt::AlignHCenter);
@@ -69,7 +71,7 @@ void APIKeyView::buildContent(CLITool tool, Platform& platform, const QString& p
                                         Tint(Role::secondary)));
     column->addLayout(header);
 
-    auto* cards = vstack(16, QMargins(24, 0, 24, 0));
+    auto* cards = vstack(16, sides(spacing::screenSide));
 
     // Step 1: where the key comes from.
     QVBoxLayout* first = card(cards, QStringLiteral("getKeyCard"));

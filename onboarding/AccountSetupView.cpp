@@ -3,9 +3,11 @@
 #include "InstallationState.h"
 #include "Platform.h"
 
+#include "IconTile.h"
 #include "Label.h"
 #include "Layout.h"
 #include "Motion.h"
+#include "RoundedCard.h"
 #include "Surface.h"
 #include "Symbol.h"
 
@@ -96,7 +98,7 @@ void AccountSetupView::buildContent(CLITool tool, Platform& platform, QVBoxLayou
 {
     const QColor brand = tool.brandColor();
 
-    auto* header = vstack(16, QMargins(24, 0, 24, 0));
+    auto* header = vstack(16, sides(spacing::screenSide));
     header->addWidget(flow::toolLogo(tool, 64, 14, 10, 5), 0, Qt::AlignHCenter);
     auto* titles = vstack(8);
     auto* title = flow::centredText(tr("Before you install %1").arg(tool.displayName()), Theme::font(17, QFont::Bold));
@@ -110,7 +112,7 @@ void AccountSetupView::buildContent(CLITool tool, Platform& platform, QVBoxLayou
 
     // The steps card. Each row fades and rises on its own, inside the card's padding.
     auto* card = roundedCard(QStringLiteral("accountStepsCard"), 16);
-    auto* steps = vstack(card, 0, QMargins(20, 20, 20, 20));
+    auto* steps = vstack(card, 0, around(20));
     const QList<AccountSetupStep>& entries = tool.accountSetupSteps(platform.wording());
     for (qsizetype i = 0; i < entries.size(); ++i) {
         auto* row = new AccountSetupStepRow(int(i) + 1, entries[i].title, entries[i].description,
@@ -119,12 +121,12 @@ void AccountSetupView::buildContent(CLITool tool, Platform& platform, QVBoxLayou
         steps->addWidget(row);
         m_rows << row;
     }
-    auto* cardRow = vstack(0, QMargins(24, 0, 24, 0));
+    auto* cardRow = vstack(0, sides(spacing::screenSide));
     cardRow->addWidget(card);
     column->addLayout(cardRow);
 
     // The pricing line sits centred under the steps.
-    auto* pricing = hstack(8, QMargins(24, 0, 24, 0));
+    auto* pricing = hstack(8, sides(spacing::screenSide));
     pricing->addStretch(1);
     pricing->addWidget(new SymbolView(QStringLiteral("creditcard"), 12, Tint(Role::secondary)), 0, Qt::AlignVCenter);
     auto* price = new Label(tool.pricingInfo(), Theme::caption(), Tint(Role::secondary));

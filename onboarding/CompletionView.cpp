@@ -3,13 +3,18 @@
 #include "FlowScreen.h"
 #include "InstallationState.h"
 #include "Services.h"
-#include "TerminalFallback.h"
+#include "ToolLaunch.h"
 
+#include "CopiedToast.h"
+#include "CopyButton.h"
 #include "FocusOrder.h"
+#include "IconTile.h"
 #include "Label.h"
 #include "Layout.h"
+#include "RoundedCard.h"
 #include "Surface.h"
 #include "Symbol.h"
+#include "TerminalFallbackRow.h"
 
 #include <QPainter>
 #include <QScrollBar>
@@ -37,10 +42,10 @@ RoundedCard* codeBox(const QString& code, const QFont& font, QMargins padding, q
     return box;
 }
 
-// A card's place in the column: full width, 24 points in from the sides.
+// A card's place in the column: full width, the screen's side padding in from the sides.
 QHBoxLayout* inset(QWidget* card)
 {
-    auto* row = hstack(0, QMargins(24, 0, 24, 0));
+    auto* row = hstack(0, sides(spacing::screenSide));
     row->addWidget(card);
     return row;
 }
@@ -154,7 +159,8 @@ CompletionView::CompletionView(InstallationState& state, Services& services, QWi
     auto* barColumn = vstack(bar, 0);
     // Its buttons keep to the content's column below.
     auto* barHolder = new QWidget;
-    auto* barRow = centredRow(barHolder, this, 16, QMargins(24, 16, 24, 16));
+    auto* barRow = centredRow(barHolder, this, 16,
+                              sides(spacing::screenSide, spacing::barPadding, spacing::barPadding));
     auto* home = new Button(tr("Home"), Button::Style::bordered, Button::Size::large);
     home->setObjectName(QStringLiteral("homeButton"));
     home->setLeadingSymbol(QStringLiteral("chevron.left"), 12, SymbolWeight::semibold);
@@ -190,7 +196,7 @@ CompletionView::CompletionView(InstallationState& state, Services& services, QWi
     if (tool) {
         // Shown when a terminal window could not be opened, where the button that tried is.
         m_fallback = new TerminalFallbackRow(m_launch->typedLine(), [this] { m_toast->present(); });
-        auto* fallbackRow = hstack(0, QMargins(24, 16, 24, 0));
+        auto* fallbackRow = hstack(0, sides(spacing::screenSide, 16));
         fallbackRow->addWidget(m_fallback);
         column->addLayout(fallbackRow);
         buildContent(*tool, column);
@@ -213,7 +219,7 @@ void CompletionView::buildContent(CLITool tool, QVBoxLayout* column)
     const auto onCopy = [this] { m_toast->present(); };
 
     // The tool's logo and the good news.
-    auto* header = vstack(16, QMargins(24, 24, 24, 0));
+    auto* header = vstack(16, sides(spacing::screenSide, 24));
     header->addWidget(flow::toolLogo(tool, 72, 16, 12, 6), 0, Qt::AlignHCenter);
     auto* titles = vstack(6);
     const bool opened = m_state.isOpeningExistingTool();
@@ -233,12 +239,12 @@ void CompletionView::buildContent(CLITool tool, QVBoxLayout* column)
 
     // Quick start: the command to try, and how signing in works.
     auto* quickStart = roundedCard(QStringLiteral("quickStartCard"), 12);
-    auto* quick = vstack(quickStart, 12, QMargins(16, 16, 16, 16));
+    auto* quick = vstack(quickStart, 12, around(spacing::cardPadding));
     quick->addWidget(new Label(tr("Quick Start"), Theme::headline()));
     auto* tryColumn = vstack(8);
     tryColumn->addWidget(new Label(tr("Open Terminal and try:"), Theme::callout(), Tint(Role::secondary)));
     auto* tryBox = roundedCard(QStringLiteral("tryCommandBox"), 8, Tint(Role::textBackground));
-    auto* tryRow = hstack(tryBox, 8, QMargins(12, 12, 12, 12));
+    auto* tryRow = hstack(tryBox, 8, around(spacing::boxPadding));
     auto* tryText = new Label(tool.tryCommand(), Theme::font(13, QFont::Normal, FontDesign::monospaced));
     tryText->setObjectName(QStringLiteral("tryCommand"));
     tryText->setTextInteractionFlags(Qt::TextSelectableByMouse);
@@ -251,7 +257,7 @@ void CompletionView::buildContent(CLITool tool, QVBoxLayout* column)
     quick->addLayout(tryColumn);
 
     auto* signIn = roundedCard(QStringLiteral("signInRow"), 8, Tint(brand, 0.1));
-    auto* signInRow = hstack(signIn, 8, QMargins(12, 12, 12, 12));
+    auto* signInRow = hstack(signIn, 8, around(spacing::boxPadding));
     signInRow->addWidget(new SymbolView(QStringLiteral("person.circle.fill"), 13, Tint(brand)), 0, Qt::AlignTop);
     // Once a key is saved, that is how the tool signs in.
     const bool keySaved = !m_state.apiKey().isEmpty();

@@ -1,24 +1,26 @@
 #pragma once
 
 #include "CLITool.h"
-#include "SharedComponents.h"
+
+#include "DisclosureCard.h"
 
 #include <QWidget>
 
 #include <functional>
 #include <optional>
 
+class QVBoxLayout;
+
 namespace qf {
 
-class CopiedToastPresenter;
-
 namespace ui {
+class CopiedToastPresenter;
 class ScrollView;
+class TerminalFallbackRow;
 } // namespace ui
 
 class InstallationState;
 class Services;
-class TerminalFallbackRow;
 class ToolLaunch;
 
 // One of a tool's common commands: the command in a code box with a copy button, and what it
@@ -37,7 +39,7 @@ private:
 };
 
 // The tool's common commands, behind a header that opens and closes the list. It starts closed.
-class CommonCommandsCard : public DisclosureCard {
+class CommonCommandsCard : public ui::DisclosureCard {
     Q_OBJECT
 
 public:
@@ -64,7 +66,7 @@ private:
 };
 
 // Three steps to a first project, behind a header that opens and closes them. It starts open.
-class FirstProjectTipsCard : public DisclosureCard {
+class FirstProjectTipsCard : public ui::DisclosureCard {
     Q_OBJECT
 
 public:
@@ -82,7 +84,7 @@ class CompletionView : public QWidget {
 public:
     CompletionView(InstallationState& state, Services& services, QWidget* parent = nullptr);
 
-    CopiedToastPresenter* toastPresenter() const { return m_toast; }
+    ui::CopiedToastPresenter* toastPresenter() const { return m_toast; }
     ToolLaunch* launch() const { return m_launch; }
 
 protected:
@@ -99,8 +101,8 @@ private:
     bool m_appeared = false;
     ToolLaunch* m_launch = nullptr;
     ui::ScrollView* m_scroll = nullptr;
-    TerminalFallbackRow* m_fallback = nullptr;
-    CopiedToastPresenter* m_toast = nullptr;
+    ui::TerminalFallbackRow* m_fallback = nullptr;
+    ui::CopiedToastPresenter* m_toast = nullptr;
 };
 
 } // namespace qf

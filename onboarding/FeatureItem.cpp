@@ -1,5 +1,6 @@
 #include "FeatureItem.h"
 
+#include "IconTile.h"
 #include "Label.h"
 #include "Layout.h"
 #include "Symbol.h"
@@ -18,7 +19,7 @@ FeatureItem::FeatureItem(const QString& icon, const ui::Tint& iconColor, const Q
     setFill(Tint(Role::controlBackground));
     setShadow(ShadowStyle{Tint(Role::black, 0.05), 8, {0, 4}});
 
-    auto* row = hstack(this, 16, QMargins(16, 16, 16, 16));
+    auto* row = hstack(this, 16, around(spacing::cardPadding));
     auto* tile = new IconTile(QSize(48, 48), Shape::rounded(12), iconColor.withOpacity(0.12));
     tile->setObjectName(QStringLiteral("featureIcon"));
     tile->setSymbol(icon, 20, iconColor, int(SymbolWeight::semibold));

@@ -2,7 +2,7 @@
 
 #include "Button.h"
 #include "CLITool.h"
-#include "RoundedCard.h"
+#include "IconTile.h"
 
 #include <QPointer>
 #include <QWidget>
@@ -40,7 +40,8 @@ protected:
     // The scrolling column: content `spacing` apart, with `topPadding` above it, at most
     // `ui::maximumContentWidth` wide and centred on the screen.
     QVBoxLayout* makeColumn(int spacing, int topPadding);
-    // The bottom bar: 24 points from the sides of the content's column, 16 above and below.
+    // The bottom bar: the screen's side padding from the sides of the content's column, the bar's
+    // padding above and below.
     QHBoxLayout* bottomBar() const { return m_bar; }
     void setDefaultButton(ui::Button* button) { m_default = button; }
     // A bordered "Back" at the start of the bottom bar that ends the attempt and returns to

@@ -4,8 +4,9 @@
 #include "InstallationState.h"
 #include "LogFile.h"
 #include "Platform.h"
-#include "SharedComponents.h"
 
+#include "CopiedToast.h"
+#include "IconTile.h"
 #include "Label.h"
 #include "Layout.h"
 #include "LogView.h"
@@ -153,7 +154,7 @@ InstallationView::InstallationView(InstallationState& state, InstallationControl
 {
     QVBoxLayout* column = makeColumn(24, 32);
     if (const std::optional<CLITool> tool = m_state.selectedTool()) {
-        auto* header = vstack(12, QMargins(24, 0, 24, 0));
+        auto* header = vstack(12, sides(spacing::screenSide));
         m_tile = new ToolTile;
         header->addWidget(m_tile, 0, Qt::AlignHCenter);
         m_title = flow::centredText(QString(), Theme::font(17, QFont::Bold));
@@ -167,14 +168,14 @@ InstallationView::InstallationView(InstallationState& state, InstallationControl
     }
 
     m_progress = new SetupProgressView;
-    auto* progressRow = vstack(0, QMargins(24, 0, 24, 0));
+    auto* progressRow = vstack(0, sides(spacing::screenSide));
     progressRow->addWidget(m_progress);
     column->addLayout(progressRow);
 
     // The log, behind "Details", with a way to copy all of it.
     m_logSection = new QWidget;
     m_logSection->setObjectName(QStringLiteral("logSection"));
-    auto* logColumn = vstack(m_logSection, 8, QMargins(24, 0, 24, 0));
+    auto* logColumn = vstack(m_logSection, 8, sides(spacing::screenSide));
     auto* logHeader = hstack(12);
     m_detailsToggle = new RowButton;
     m_detailsToggle->setObjectName(QStringLiteral("detailsButton"));
@@ -209,7 +210,7 @@ InstallationView::InstallationView(InstallationState& state, InstallationControl
     m_errorCard = roundedCard(QStringLiteral("errorCard"), 12, Tint(Role::red, 0.08));
     m_errorCard->setAccessibleName(tr("Installation Failed"));
     m_errorCard->setStroke(Tint(Role::red, 0.2), 1);
-    auto* errorColumn = vstack(m_errorCard, 12, QMargins(20, 20, 20, 20));
+    auto* errorColumn = vstack(m_errorCard, 12, around(20));
     errorColumn->addWidget(new SymbolView(QStringLiteral("exclamationmark.triangle.fill"), 22, Tint(Role::red)), 0,
                            Qt::AlignHCenter);
     auto* errorTitle = flow::centredText(tr("Installation Failed"), Theme::headline());
@@ -218,10 +219,10 @@ InstallationView::InstallationView(InstallationState& state, InstallationControl
     m_errorText->setObjectName(QStringLiteral("errorMessage"));
     m_errorText->setTextInteractionFlags(Qt::TextSelectableByMouse);
     errorColumn->addWidget(m_errorText);
-    auto* errorRow = vstack(0, QMargins(24, 0, 24, 0));
+    auto* errorRow = vstack(0, sides(spacing::screenSide));
     errorRow->addWidget(m_errorCard);
     column->addLayout(errorRow);
-    m_caveatRow = vstack(0, QMargins(24, 0, 24, 0));
+    m_caveatRow = vstack(0, sides(spacing::screenSide));
     column->addLayout(m_caveatRow);
     column->addStretch(1);
 

@@ -1,16 +1,18 @@
 #pragma once
 
 #include "FlowScreen.h"
+#include "RoundedCard.h"
 #include "SetupModel.h"
 
 namespace qf {
 
-class CopiedToastPresenter;
 class InstallationController;
 class InstallationState;
 class Platform;
 
 namespace ui {
+class CopiedToastPresenter;
+class IconTile;
 class Label;
 class LogView;
 class SymbolView;
@@ -61,7 +63,7 @@ public:
     bool showDetails() const { return m_showDetails; }
     SetupProgressView* progressView() const { return m_progress; }
     ui::LogView* logView() const { return m_log; }
-    CopiedToastPresenter* toastPresenter() const { return m_toast; }
+    ui::CopiedToastPresenter* toastPresenter() const { return m_toast; }
 
 protected:
     void appeared() override { start(); }
@@ -101,7 +103,7 @@ private:
     ui::Button* m_back;
     ui::Button* m_showLogFile;
     ui::Button* m_main;
-    CopiedToastPresenter* m_toast;
+    ui::CopiedToastPresenter* m_toast;
 };
 
 } // namespace qf

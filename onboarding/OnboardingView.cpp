@@ -65,7 +65,7 @@ OnboardingView::OnboardingView(InstallationState& state, QWidget* parent) : QWid
     stack->addLayout(header);
 
     // Feature list.
-    auto* features = vstack(16, QMargins(40, 0, 40, 0));
+    auto* features = vstack(16, sides(40));
     struct Feature {
         const char* icon;
         Role color;

@@ -2,14 +2,15 @@
 
 #include "InstallationState.h"
 #include "Services.h"
-#include "TerminalFallback.h"
 
 #include "ActivityIndicator.h"
 #include "Expander.h"
 #include "FocusOrder.h"
+#include "IconTile.h"
 #include "Label.h"
 #include "Layout.h"
 #include "Symbol.h"
+#include "TerminalFallbackRow.h"
 
 #include <QCoro/QCoroTask>
 #include <QLocale>
@@ -47,7 +48,7 @@ RequirementRow::RequirementRow(const RequirementStatus& status, const SystemWord
     // Green when met, orange for what setup installs itself, red for what blocks it.
     const bool blocking = !status.isMet && !status.requirement.isInstalledBySetup();
     const Tint mark(status.isMet ? Role::green : blocking ? Role::red : Role::orange);
-    auto* column = vstack(this, 0, QMargins(16, 16, 16, 16));
+    auto* column = vstack(this, 0, around(spacing::cardPadding));
 
     auto* row = hstack(12);
     auto* circle = new IconTile(QSize(36, 36), Shape::circle(), mark.withOpacity(0.15));
@@ -148,7 +149,7 @@ SystemCheckView::SystemCheckView(InstallationState& state, Services& services, Q
     m_checking = new QWidget;
     m_checking->setObjectName(QStringLiteral("checkingRow"));
     // The spinner and its line, 16 apart, with room around both.
-    auto* checking = vstack(m_checking, 16, QMargins(32, 32, 32, 32));
+    auto* checking = vstack(m_checking, 16, around(32));
     auto* spinner = new ActivityIndicator(24);
     checking->addWidget(spinner, 0, Qt::AlignHCenter);
     auto* checkingText = flow::centredText(tr("Checking system requirements..."), Theme::body(), Tint(Role::secondary));
@@ -158,7 +159,7 @@ SystemCheckView::SystemCheckView(InstallationState& state, Services& services, Q
     // Already installed.
     m_installed = new QWidget;
     m_installed->setObjectName(QStringLiteral("alreadyInstalled"));
-    auto* installed = vstack(m_installed, 12, QMargins(20, 20, 20, 20));
+    auto* installed = vstack(m_installed, 12, around(20));
     installed->addWidget(new SymbolView(QStringLiteral("checkmark.circle.fill"), 40, Tint(Role::green)), 0,
                          Qt::AlignHCenter);
     m_installedTitle = flow::centredText(QString(), Theme::headline());
@@ -171,16 +172,16 @@ SystemCheckView::SystemCheckView(InstallationState& state, Services& services, Q
     installed->addWidget(ready);
     column->addWidget(m_installed);
 
-    // The requirements, one card each, 24 points from the sides.
+    // The requirements, one card each, the screen's side padding from the sides.
     m_requirementList = new QWidget;
     m_requirementList->setObjectName(QStringLiteral("requirementList"));
-    vstack(m_requirementList, 16, QMargins(24, 0, 24, 0));
+    vstack(m_requirementList, 16, sides(spacing::screenSide));
     column->addWidget(m_requirementList);
 
     // Why "Install" is not available, and a way to look again once it is fixed.
     m_blocked = new QWidget;
     m_blocked->setObjectName(QStringLiteral("blockedNotice"));
-    auto* blocked = hstack(m_blocked, 8, QMargins(24, 0, 24, 0));
+    auto* blocked = hstack(m_blocked, 8, sides(spacing::screenSide));
     blocked->addWidget(new SymbolView(QStringLiteral("exclamationmark.triangle.fill"), 12, Tint(Role::red)), 0,
                        Qt::AlignTop);
     m_blockedText = new Label(QString(), Theme::callout());
@@ -192,7 +193,7 @@ SystemCheckView::SystemCheckView(InstallationState& state, Services& services, Q
     connect(again, &QAbstractButton::clicked, this, &SystemCheckView::startCheck);
     blocked->addWidget(again, 0, Qt::AlignTop);
     column->addWidget(m_blocked);
-    m_installerSlot = vstack(0, QMargins(24, 0, 24, 0));
+    m_installerSlot = vstack(0, sides(spacing::screenSide));
     column->addLayout(m_installerSlot);
     column->addStretch(1);
 

@@ -3,6 +3,7 @@
 #include <functional>
 
 #include "FlowScreen.h"
+#include "RoundedCard.h"
 #include "SetupModel.h"
 
 #include <QVBoxLayout>

@@ -3,13 +3,15 @@
 #include "FlowScreen.h"
 #include "InstallationState.h"
 #include "Services.h"
-#include "SharedComponents.h"
-#include "TerminalFallback.h"
+#include "ToolLaunch.h"
 
+#include "CopiedToast.h"
 #include "FocusOrder.h"
 #include "Label.h"
 #include "Layout.h"
+#include "RoundedCard.h"
 #include "Symbol.h"
+#include "TerminalFallbackRow.h"
 
 #include <QPainter>
 
@@ -36,7 +38,7 @@ Button* backToHomeButton(InstallationState& state, QWidget* context)
 QHBoxLayout* centredAtMost(QWidget* widget, int width)
 {
     widget->setMaximumWidth(width);
-    auto* row = hstack(0, QMargins(24, 0, 24, 0));
+    auto* row = hstack(0, sides(spacing::screenSide));
     row->addStretch(1);
     row->addWidget(widget, 100);
     row->addStretch(1);
@@ -61,12 +63,12 @@ TerminalLaunchedView::TerminalLaunchedView(InstallationState& state, CLITool too
     column->addSpacing(4);
     m_title = flow::centredText(QString(), Theme::font(17, QFont::DemiBold));
     m_title->setObjectName(QStringLiteral("terminalTitle"));
-    m_title->setContentsMargins(24, 0, 24, 0);
+    m_title->setContentsMargins(sides(spacing::screenSide));
     column->addWidget(m_title);
     m_subtitle = flow::centredText(wording.switchToTerminal.arg(tool.displayName()), Theme::body(),
                                    Tint(Role::secondary));
     m_subtitle->setObjectName(QStringLiteral("terminalSubtitle"));
-    m_subtitle->setContentsMargins(24, 0, 24, 0);
+    m_subtitle->setContentsMargins(sides(spacing::screenSide));
     column->addWidget(m_subtitle);
 
     m_fallback = new TerminalFallbackRow(launch.typedLine(), [this] { m_toast->present(); });

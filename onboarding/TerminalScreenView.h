@@ -6,16 +6,16 @@
 
 namespace qf {
 
-class CopiedToastPresenter;
 class InstallationState;
 class Services;
-class TerminalFallbackRow;
 class ToolLaunch;
 struct SystemWording;
 
 namespace ui {
+class CopiedToastPresenter;
 class Label;
 class ScrollView;
+class TerminalFallbackRow;
 } // namespace ui
 
 // The tool started in a terminal window: says so and where to look, opens another window on
@@ -37,8 +37,8 @@ private:
     ui::ScrollView* m_scroll;
     ui::Label* m_title;
     ui::Label* m_subtitle;
-    TerminalFallbackRow* m_fallback;
-    CopiedToastPresenter* m_toast;
+    ui::TerminalFallbackRow* m_fallback;
+    ui::CopiedToastPresenter* m_toast;
 };
 
 // The terminal step: the chosen tool launched in ~/Developer once, the first time its content

@@ -143,7 +143,7 @@ ToolCard::ToolCard(CLITool tool, Platform& platform, QWidget* parent)
     setFill(Tint(Role::controlBackground));
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::PointingHandCursor);
-    auto* column = vstack(this, 0, QMargins(16, 16, 16, 16));
+    auto* column = vstack(this, 0, around(spacing::cardPadding));
 
     auto* top = hstack(16);
     auto* logo = new ImageView(tool.logoImageName(), 44);
@@ -266,11 +266,11 @@ WelcomeView::WelcomeView(InstallationState& state, Platform& platform, QWidget* 
         m_showWhatIsAI = !m_showWhatIsAI;
         render(true);
     });
-    auto* explainerRow = vstack(0, QMargins(24, 0, 24, 0));
+    auto* explainerRow = vstack(0, sides(spacing::screenSide));
     explainerRow->addWidget(m_explainer);
     column->addLayout(explainerRow);
 
-    auto* list = vstack(12, QMargins(24, 0, 24, 24));
+    auto* list = vstack(12, sides(spacing::screenSide, 0, 24));
     list->addWidget(new Label(tr("Choose a tool to install:"), Theme::headline()));
     for (CLITool tool : CLITool::allCases()) {
         auto* card = new ToolCard(tool, platform);

@@ -2,10 +2,10 @@
 
 #include "CLITool.h"
 #include "FlowScreen.h"
-#include "RoundedCard.h"
-#include "SharedComponents.h"
 
+#include "DisclosureCard.h"
 #include "Motion.h"
+#include "RoundedCard.h"
 
 namespace qf {
 
@@ -29,7 +29,7 @@ public:
 
 // "New to AI Coding?": a header that opens and closes a short explanation with four feature
 // rows. The screen owns whether it is open; the header asks it to change with `toggled()`.
-class WhatIsAICodingCard : public DisclosureCard {
+class WhatIsAICodingCard : public ui::DisclosureCard {
     Q_OBJECT
 
 public:

@@ -8,7 +8,30 @@
 
 class QScrollBar;
 
+// The spacings the design names, in points.
+namespace qf::ui::spacing {
+
+// Between the window's edges and the content of a screen of the install flow.
+inline constexpr int screenSide = 24;
+// Between the window's edges and the dashboard's header, sections and cards.
+inline constexpr int dashboardSide = 28;
+// Between a removal sheet's edges and its log, error row and buttons.
+inline constexpr int sheetSide = 28;
+// Above and below the buttons of a screen's bottom bar.
+inline constexpr int barPadding = 16;
+// Between a card's edges and its content.
+inline constexpr int cardPadding = 16;
+// Between the edges of a small box (a command to try, a note, an error) and its content.
+inline constexpr int boxPadding = 12;
+
+} // namespace qf::ui::spacing
+
 namespace qf::ui {
+
+// `side` points of room left and right, `above` and `below` points over and under.
+constexpr QMargins sides(int side, int above = 0, int below = 0) { return {side, above, side, below}; }
+// `padding` points of room on every side.
+constexpr QMargins around(int padding) { return {padding, padding, padding, padding}; }
 
 // Stacks as the design describes them: spacing between children and padding around them.
 QVBoxLayout* vstack(QWidget* owner, int spacing, QMargins padding = {});

@@ -1,6 +1,8 @@
 #include "ScreenTour.h"
 
+#include "Badge.h"
 #include "Button.h"
+#include "IconTile.h"
 #include "Label.h"
 #include "RoundedCard.h"
 #include "Theme.h"

@@ -7,6 +7,9 @@
 #include "ToolCards.h"
 #include "UninstallSheets.h"
 
+#include "Badge.h"
+#include "IconTile.h"
+
 #include <QAbstractButton>
 #include <QDir>
 #include <QEnterEvent>

@@ -3,10 +3,10 @@
 #include "APIKeyStore.h"
 #include "APIKeyView.h"
 #include "CompletionView.h"
+#include "CopiedToast.h"
+#include "CopyButton.h"
 #include "FlowWindowTest.h"
 #include "Layout.h"
-#include "SharedComponents.h"
-#include "TerminalFallback.h"
 #include "TerminalScreenView.h"
 #include "TextField.h"
 
@@ -106,7 +106,7 @@ TEST_F(AfterInstallTest, CompletionTellsAFreshInstallFromAnOpenedTool)
     StepRow* third = tips->steps().last();
     EXPECT_EQ(third->number(), 3);
     EXPECT_FALSE(third->command().has_value());
-    EXPECT_TRUE(third->findChildren<CopyButton*>().isEmpty());
+    EXPECT_TRUE(third->findChildren<ui::CopyButton*>().isEmpty());
     EXPECT_EQ(third->findChild<QLabel*>(QStringLiteral("code")), nullptr);
     EXPECT_EQ(tips->steps().first()->command(),
               QStringLiteral("mkdir -p ~/Developer/my-first-project && cd ~/Developer/my-first-project"));
@@ -135,10 +135,10 @@ TEST_F(AfterInstallTest, EveryCopyPutsItsTextOnTheClipboardUnderOneToast)
 
     // Later copies while it shows change what is copied, not when the toast leaves.
     auto* commands = test::child<CommonCommandsCard>(screen(), QStringLiteral("commonCommandsCard"));
-    commands->rows()[1]->findChild<CopyButton*>()->click();
+    commands->rows()[1]->findChild<ui::CopyButton*>()->click();
     EXPECT_EQ(QGuiApplication::clipboard()->text(), CLITool(CLITool::codex).exampleCommands()[1].command);
     auto* tips = test::child<FirstProjectTipsCard>(screen(), QStringLiteral("firstProjectCard"));
-    tips->steps()[1]->findChild<CopyButton*>()->click();
+    tips->steps()[1]->findChild<ui::CopyButton*>()->click();
     EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("git init"));
     EXPECT_LE(hide.remainingTime(), remaining) << "a later copy restarted the toast's time";
     ASSERT_TRUE(QTest::qWaitFor([view] { return !view->toastPresenter()->isShowing(); }, 5000));
@@ -173,7 +173,7 @@ TEST_F(AfterInstallTest, OpenInTerminalSaysWhatToTypeWhenNoWindowOpens)
     EXPECT_EQ(platform.terminals, (QList{launch, launch}));
     EXPECT_TRUE(showsChild("terminalFallback"));
     EXPECT_EQ(text("terminalFallbackLine"), QStringLiteral("cd ~/Developer && gemini"));
-    test::child<CopyButton>(test::child(screen(), QStringLiteral("terminalFallback")), QStringLiteral("copyButton"))
+    test::child<ui::CopyButton>(test::child(screen(), QStringLiteral("terminalFallback")), QStringLiteral("copyButton"))
         ->click();
     EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("cd ~/Developer && gemini"));
     EXPECT_TRUE(screenAs<CompletionView>()->toastPresenter()->isShowing());

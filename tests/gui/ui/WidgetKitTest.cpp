@@ -10,6 +10,7 @@
 #include "Theme.h"
 
 #include <QAbstractAnimation>
+#include <QHBoxLayout>
 #include <QPlainTextEdit>
 #include <QScrollBar>
 #include <QSignalSpy>
@@ -66,6 +67,28 @@ TEST(Label, LineLimitCapsTheHeight)
     const int line = QFontMetrics(label.font()).lineSpacing();
     EXPECT_EQ(label.heightForWidth(60), 2 * line);
     EXPECT_EQ(label.heightForWidth(4000), line);
+}
+
+TEST(Label, AShortWrappingTextCentredBetweenStretchesStaysOnOneLine)
+{
+    QWidget row;
+    auto* layout = new QHBoxLayout(&row);
+    layout->addStretch(1);
+    auto* label = new ui::Label(QStringLiteral("Free tier available, Pro plan for more usage"), ui::Theme::caption());
+    label->setWrapping(true);
+    layout->addWidget(label);
+    layout->addStretch(1);
+    row.resize(900, 200);
+    row.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&row));
+    const int lineSpacing = QFontMetrics(label->font()).lineSpacing();
+    EXPECT_LT(label->heightForWidth(label->width()), 2 * lineSpacing) << "one line";
+    EXPECT_GE(label->width(), QFontMetrics(label->font()).horizontalAdvance(label->text()));
+
+    // Narrowed, it wraps rather than running out of its row.
+    row.resize(140, 200);
+    QTRY_VERIFY(label->width() <= 140);
+    EXPECT_GE(label->heightForWidth(label->width()), 2 * lineSpacing);
 }
 
 TEST(Button, ReportsClicksAndNamesItself)

@@ -1,10 +1,7 @@
 #pragma once
 
-#include "RoundedCard.h"
-
 #include <QObject>
-
-#include <functional>
+#include <QString>
 
 namespace qf {
 
@@ -34,18 +31,6 @@ private:
     QString m_command;
     int m_launches = 0;
     bool m_failed = false;
-};
-
-// Says that no terminal window could be opened and shows the line to type in one, with a
-// button that copies it.
-class TerminalFallbackRow : public ui::RoundedCard {
-    Q_OBJECT
-
-public:
-    TerminalFallbackRow(const QString& line, std::function<void()> onCopy, QWidget* parent = nullptr);
-    // The same for any action that could not run: what happened, what to do, what to copy.
-    TerminalFallbackRow(const QString& title, const QString& hint, const QString& line, std::function<void()> onCopy,
-                        QWidget* parent = nullptr);
 };
 
 } // namespace qf

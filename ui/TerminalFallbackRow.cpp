@@ -1,36 +1,11 @@
-#include "TerminalFallback.h"
+#include "TerminalFallbackRow.h"
 
-#include "SharedComponents.h"
-#include "TerminalLauncher.h"
-
+#include "CopyButton.h"
 #include "Label.h"
 #include "Layout.h"
 #include "Symbol.h"
 
-#include <QPointer>
-
-namespace qf {
-
-using namespace ui;
-
-ToolLaunch::ToolLaunch(TerminalLauncher& launcher, const QString& command, QObject* parent)
-    : QObject(parent), m_launcher(launcher), m_command(command)
-{
-}
-
-void ToolLaunch::open()
-{
-    const int launch = ++m_launches;
-    QPointer<ToolLaunch> self(this);
-    m_launcher.openInTerminal(m_command, TerminalLauncher::projectsDirectory(), [self, launch](bool opened) {
-        if (!self || launch != self->m_launches || self->m_failed == !opened)
-            return;
-        self->m_failed = !opened;
-        Q_EMIT self->failedChanged();
-    });
-}
-
-QString ToolLaunch::typedLine() const { return TerminalLauncher::typedLine(m_command); }
+namespace qf::ui {
 
 TerminalFallbackRow::TerminalFallbackRow(const QString& line, std::function<void()> onCopy, QWidget* parent)
     : TerminalFallbackRow(tr("No terminal window could be opened"), tr("Open a terminal yourself and type this line:"),
@@ -76,4 +51,4 @@ TerminalFallbackRow::TerminalFallbackRow(const QString& title, const QString& hi
     row->addLayout(column, 1);
 }
 
-} // namespace qf
+} // namespace qf::ui

@@ -1,0 +1,50 @@
+#include "CopyButton.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+
+namespace qf::ui {
+
+namespace {
+
+Button::Style buttonStyle(CopyButton::CopyButtonStyle style)
+{
+    return style == CopyButton::CopyButtonStyle::bordered ? Button::Style::bordered : Button::Style::borderless;
+}
+
+} // namespace
+
+qreal CopyButton::symbolSize(CopyButtonStyle style)
+{
+    // Caption-sized for the regular and bordered styles, a step smaller for the small one.
+    return style == CopyButtonStyle::small ? 9.0 : 11.0;
+}
+
+CopyButton::CopyButton(const QString& text, CopyButtonStyle style, std::function<void()> onCopy, QWidget* parent)
+    : Button(QString(), buttonStyle(style), Size::regular, parent),
+      m_text(text),
+      m_copyStyle(style),
+      m_onCopy(std::move(onCopy))
+{
+    setObjectName(QStringLiteral("copyButton"));
+    setAccessibleName(tr("Copy"));
+    setAccessibleDescription(text);
+    setToolTip(tr("Copy"));
+    setLeadingSymbol(QStringLiteral("doc.on.clipboard"), symbolSize(style));
+    if (style == CopyButtonStyle::bordered)
+        setContentPadding(8, 4);
+    else
+        setContentTint(Tint(Role::secondary));
+    connect(this, &QAbstractButton::clicked, this, &CopyButton::copy);
+}
+
+void CopyButton::copy()
+{
+    QClipboard* clipboard = QGuiApplication::clipboard();
+    clipboard->clear();
+    clipboard->setText(m_text);
+    if (m_onCopy)
+        m_onCopy();
+}
+
+} // namespace qf::ui
