@@ -132,12 +132,12 @@ public:
     Result(ServiceError error) : m_error(std::move(error)) {}
     Result(ShellError error) : m_error(ServiceError(std::move(error))) {}
 
-    bool ok() const { return !m_error.has_value(); }
+    bool ok() const { return std::holds_alternative<std::monostate>(m_error); }
     explicit operator bool() const { return ok(); }
-    const ServiceError& error() const { return m_error.value(); }
+    const ServiceError& error() const { return std::get<ServiceError>(m_error); }
 
 private:
-    std::optional<ServiceError> m_error;
+    std::variant<std::monostate, ServiceError> m_error;
 };
 
 // The result of removing `name` by a line run with administrator rights: a cancelled password

@@ -19,7 +19,7 @@ std::optional<NodeRelease> newestLTS(const QByteArray& index, const NodeReleaseT
         return std::nullopt;
     std::optional<NodeRelease> newest;
     QVersionNumber newestNumber;
-    for (const QJsonValue& value : document.array()) {
+    for (const QJsonValue value : document.array()) {
         const QJsonObject entry = value.toObject();
         // "lts" is false for current releases and the line's name for long-term ones.
         const QJsonValue lts = entry.value(QLatin1String("lts"));

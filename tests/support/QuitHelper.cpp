@@ -22,7 +22,7 @@ int main(int argc, char* argv[])
     if (arguments.size() != 3)
         return 2;
     const bool stopped = arguments.at(1) == QLatin1String("stopped");
-    const QString pidFile = arguments.at(2);
+    const QString& pidFile = arguments.at(2);
 
     qf::ShellRunner::Configuration configuration;
     configuration.shell = QStringLiteral("/bin/sh");
