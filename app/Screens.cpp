@@ -22,11 +22,12 @@ QWidget* makeScreen(InstallationStep step, InstallationState& state, Services& s
     case InstallationStep::home: return new HomeView(state, services);
     case InstallationStep::welcome: return new WelcomeView(state, services.platform);
     case InstallationStep::accountSetup: return new AccountSetupView(state, services.platform);
-    case InstallationStep::systemCheck: return new SystemCheckView(state, services);
+    case InstallationStep::systemCheck: return new SystemCheckView(state, services.detector, services.platform);
     case InstallationStep::installation: return new InstallationView(state, installation, services.platform);
-    case InstallationStep::apiKey: return new APIKeyView(state, services);
-    case InstallationStep::completion: return new CompletionView(state, services);
-    case InstallationStep::terminal: return new TerminalScreenView(state, services);
+    case InstallationStep::apiKey:
+        return new APIKeyView(state, services.keys, services.platform, services.detector.shellProfilePath());
+    case InstallationStep::completion: return new CompletionView(state, services.terminal);
+    case InstallationStep::terminal: return new TerminalScreenView(state, services.terminal, services.platform);
     }
     Q_UNREACHABLE();
 }

@@ -2,7 +2,7 @@
 
 #include "APIKeyStore.h"
 #include "InstallationState.h"
-#include "Services.h"
+#include "Platform.h"
 
 #include "IconTile.h"
 #include "Label.h"
@@ -31,12 +31,13 @@ QVBoxLayout* card(QVBoxLayout* column, const QString& objectName)
 
 } // namespace
 
-APIKeyView::APIKeyView(InstallationState& state, Services& services, QWidget* parent)
-    : FlowScreen(QStringLiteral("apiKeyView"), tr("Set Up API Key"), parent), m_state(state), m_keys(services.keys)
+APIKeyView::APIKeyView(InstallationState& state, APIKeyStore& keys, Platform& platform, const QString& profilePath,
+                       QWidget* parent)
+    : FlowScreen(QStringLiteral("apiKeyView"), tr("Set Up API Key"), parent), m_state(state), m_keys(keys)
 {
     QVBoxLayout* column = makeColumn(20, 32);
     if (const std::optional<CLITool> tool = m_state.selectedTool())
-        buildContent(*tool, services.platform, services.detector.shellProfilePath(), column);
+        buildContent(*tool, platform, profilePath, column);
     column->addStretch(1);
 
     m_skip = new Button(tr("Skip for Now"), Button::Style::bordered, Button::Size::large);

@@ -8,7 +8,8 @@ namespace qf {
 
 class InstallationState;
 class Platform;
-class Services;
+class APIKeyStore;
+class Platform;
 class APIKeyStore;
 
 namespace ui {
@@ -26,7 +27,8 @@ class APIKeyView : public FlowScreen {
     Q_OBJECT
 
 public:
-    APIKeyView(InstallationState& state, Services& services, QWidget* parent = nullptr);
+    APIKeyView(InstallationState& state, APIKeyStore& keys, Platform& platform, const QString& profilePath,
+               QWidget* parent = nullptr);
 
     bool isSaving() const { return m_isSaving; }
     bool showKey() const { return m_showKey; }

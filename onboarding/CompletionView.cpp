@@ -2,7 +2,7 @@
 
 #include "FlowScreen.h"
 #include "InstallationState.h"
-#include "Services.h"
+#include "TerminalLauncher.h"
 #include "ToolLaunch.h"
 
 #include "CopiedToast.h"
@@ -143,7 +143,7 @@ FirstProjectTipsCard::FirstProjectTipsCard(const std::function<void()>& onCopy, 
 
 QList<StepRow*> FirstProjectTipsCard::steps() const { return findChildren<StepRow*>(); }
 
-CompletionView::CompletionView(InstallationState& state, Services& services, QWidget* parent)
+CompletionView::CompletionView(InstallationState& state, TerminalLauncher& terminal, QWidget* parent)
     : QWidget(parent), m_state(state)
 {
     setObjectName(QStringLiteral("completionView"));
@@ -174,7 +174,7 @@ CompletionView::CompletionView(InstallationState& state, Services& services, QWi
     barRow->addStretch(1);
     m_main = home;
     if (tool) {
-        m_launch = new ToolLaunch(services.terminal, tool->commandName(), this);
+        m_launch = new ToolLaunch(terminal, tool->commandName(), this);
         auto* open = new Button(tr("Open in Terminal"), Button::Style::prominent, Button::Size::large);
         open->setObjectName(QStringLiteral("openInTerminalButton"));
         open->setTint(Tint(tool->brandColor()));

@@ -20,7 +20,7 @@ class TerminalFallbackRow;
 } // namespace ui
 
 class InstallationState;
-class Services;
+class TerminalLauncher;
 class ToolLaunch;
 
 // One of a tool's common commands: the command in a code box with a copy button, and what it
@@ -82,7 +82,7 @@ class CompletionView : public QWidget {
     Q_OBJECT
 
 public:
-    CompletionView(InstallationState& state, Services& services, QWidget* parent = nullptr);
+    CompletionView(InstallationState& state, TerminalLauncher& terminal, QWidget* parent = nullptr);
 
     ui::CopiedToastPresenter* toastPresenter() const { return m_toast; }
     ToolLaunch* launch() const { return m_launch; }

@@ -1,7 +1,8 @@
 #include "SystemCheckView.h"
 
 #include "InstallationState.h"
-#include "Services.h"
+#include "Platform.h"
+#include "SystemDetector.h"
 
 #include "ActivityIndicator.h"
 #include "Expander.h"
@@ -126,8 +127,12 @@ void RequirementRow::render(bool animated)
     m_help->setAccessibleDescription(m_showHelp ? tr("Expanded") : tr("Collapsed"));
 }
 
-SystemCheckView::SystemCheckView(InstallationState& state, Services& services, QWidget* parent)
-    : FlowScreen(QStringLiteral("systemCheckView"), tr("System Check"), parent), m_state(state), m_services(services)
+SystemCheckView::SystemCheckView(InstallationState& state, SystemDetector& detector, Platform& platform,
+                                 QWidget* parent)
+    : FlowScreen(QStringLiteral("systemCheckView"), tr("System Check"), parent),
+      m_state(state),
+      m_detector(detector),
+      m_platform(platform)
 {
     QVBoxLayout* column = makeColumn(24, 32);
     const std::optional<CLITool> tool = m_state.selectedTool();
@@ -231,7 +236,7 @@ void SystemCheckView::startCheck()
     delete m_installerFallback;
     m_installerFallback = nullptr;
     render();
-    QCoro::connect(m_services.detector.checkForTool(*tool), this, [this](const ToolCheck& check) {
+    QCoro::connect(m_detector.checkForTool(*tool), this, [this](const ToolCheck& check) {
         if (check.isInstalled) {
             m_installedVersion = check.version;
             m_toolAlreadyInstalled = true;
@@ -249,7 +254,7 @@ void SystemCheckView::startCheck()
 void SystemCheckView::rebuildRequirementRows()
 {
     qDeleteAll(requirementRows());
-    const SystemWording& wording = m_services.platform.wording();
+    const SystemWording& wording = m_platform.wording();
     const std::optional<CLITool> tool = m_state.selectedTool();
     for (const RequirementStatus& status : m_state.requirements()) {
         // The Node.js row says which version the chosen tool needs.
@@ -269,8 +274,8 @@ void SystemCheckView::startDeveloperToolsInstaller()
 {
     delete m_installerFallback;
     m_installerFallback = nullptr;
-    const QString line = m_services.platform.developerToolsItem().installLine;
-    m_services.platform.startDeveloperToolsInstaller([screen = QPointer(this), line](bool started) {
+    const QString line = m_platform.developerToolsItem().installLine;
+    m_platform.startDeveloperToolsInstaller([screen = QPointer(this), line](bool started) {
         if (!screen || started || line.isEmpty())
             return;
         delete screen->m_installerFallback;
@@ -325,8 +330,8 @@ void SystemCheckView::render()
     QStringList blocking;
     for (const RequirementStatus& status : m_state.requirements()) {
         if (!status.isMet && !status.requirement.isInstalledBySetup())
-            blocking << status.requirement.title(m_services.platform.wording()) + QStringLiteral(" (") +
-                            status.details + QLatin1Char(')');
+            blocking << status.requirement.title(m_platform.wording()) + QStringLiteral(" (") + status.details +
+                            QLatin1Char(')');
     }
     const bool blocked = !m_isChecking && !m_toolAlreadyInstalled && !blocking.isEmpty();
     m_blocked->setVisible(blocked);

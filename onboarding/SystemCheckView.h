@@ -13,7 +13,8 @@
 namespace qf {
 
 class InstallationState;
-class Services;
+class Platform;
+class SystemDetector;
 
 namespace ui {
 class Expander;
@@ -59,7 +60,7 @@ class SystemCheckView : public FlowScreen {
     Q_OBJECT
 
 public:
-    SystemCheckView(InstallationState& state, Services& services, QWidget* parent = nullptr);
+    SystemCheckView(InstallationState& state, SystemDetector& detector, Platform& platform, QWidget* parent = nullptr);
 
     bool isChecking() const { return m_isChecking; }
     bool toolAlreadyInstalled() const { return m_toolAlreadyInstalled; }
@@ -85,7 +86,8 @@ private:
     void rebuildRequirementRows();
 
     InstallationState& m_state;
-    Services& m_services;
+    SystemDetector& m_detector;
+    Platform& m_platform;
     bool m_isChecking = false;
     bool m_toolAlreadyInstalled = false;
     std::optional<QString> m_installedVersion;

@@ -2,7 +2,8 @@
 
 #include "FlowScreen.h"
 #include "InstallationState.h"
-#include "Services.h"
+#include "Platform.h"
+#include "TerminalLauncher.h"
 #include "ToolLaunch.h"
 
 #include "CopiedToast.h"
@@ -121,13 +122,15 @@ void TerminalLaunchedView::render()
     m_scroll->setAccessibleName(m_title->text());
 }
 
-TerminalScreenView::TerminalScreenView(InstallationState& state, Services& services, QWidget* parent) : QWidget(parent)
+TerminalScreenView::TerminalScreenView(InstallationState& state, TerminalLauncher& terminal, const Platform& platform,
+                                       QWidget* parent)
+    : QWidget(parent)
 {
     setObjectName(QStringLiteral("terminalScreenView"));
     auto* root = vstack(this, 0);
     if (const std::optional<CLITool> tool = state.selectedTool()) {
-        m_launch = new ToolLaunch(services.terminal, tool->commandName(), this);
-        root->addWidget(new TerminalLaunchedView(state, *tool, *m_launch, services.platform.wording()));
+        m_launch = new ToolLaunch(terminal, tool->commandName(), this);
+        root->addWidget(new TerminalLaunchedView(state, *tool, *m_launch, platform.wording()));
         return;
     }
     setAccessibleName(tr("No tool selected"));

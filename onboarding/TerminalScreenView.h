@@ -7,7 +7,8 @@
 namespace qf {
 
 class InstallationState;
-class Services;
+class Platform;
+class TerminalLauncher;
 class ToolLaunch;
 struct SystemWording;
 
@@ -47,7 +48,8 @@ class TerminalScreenView : public QWidget {
     Q_OBJECT
 
 public:
-    TerminalScreenView(InstallationState& state, Services& services, QWidget* parent = nullptr);
+    TerminalScreenView(InstallationState& state, TerminalLauncher& terminal, const Platform& platform,
+                       QWidget* parent = nullptr);
 
     bool hasLaunched() const { return m_hasLaunched; }
     ToolLaunch* launch() const { return m_launch; }
