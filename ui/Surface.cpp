@@ -281,21 +281,21 @@ void SurfaceEffect::sourceChanged(ChangeFlags flags)
     QGraphicsEffect::sourceChanged(flags);
 }
 
-QImage SurfaceEffect::alphaShadow(const QRectF& sourceRect, qreal dpr)
+QImage SurfaceEffect::alphaShadow(const ShadowStyle& shadow, const QRectF& sourceRect, qreal dpr)
 {
-    const QColor color = m_shadow->color.resolve();
+    const QColor color = shadow.color.resolve();
     const QString key = QStringLiteral("%1x%2:%3:%4:%5")
                             .arg(sourceRect.width())
                             .arg(sourceRect.height())
                             .arg(color.rgba(), 0, 16)
-                            .arg(m_shadow->radius)
+                            .arg(shadow.radius)
                             .arg(dpr);
     if (key == m_alphaShadowKey)
         return m_alphaShadowCache;
 
     QPoint offset;
     const QPixmap source = sourcePixmap(Qt::LogicalCoordinates, &offset, QGraphicsEffect::NoPad);
-    m_alphaShadowCache = renderShadow(sourceRect.size(), m_shadow->radius, color, dpr,
+    m_alphaShadowCache = renderShadow(sourceRect.size(), shadow.radius, color, dpr,
                                       [&](QPainter& painter) { painter.drawPixmap(QPointF(0, 0), source); });
     m_alphaShadowKey = key;
     return m_alphaShadowCache;
@@ -310,7 +310,7 @@ void SurfaceEffect::drawShadow(QPainter* painter, const QRectF& sourceRect)
         return;
     const qreal dpr = painter->device() ? painter->device()->devicePixelRatioF() : 1.0;
     const QImage image = m_shape.kind == Shape::alpha
-                             ? alphaShadow(sourceRect, dpr)
+                             ? alphaShadow(*m_shadow, sourceRect, dpr)
                              : shadowImage(sourceRect.size(), m_shape, m_shadow->radius, color, dpr);
     const int margin = shadowMargin(m_shadow->radius);
     painter->drawImage(sourceRect.topLeft() + m_shadow->offset - QPointF(margin, margin), image);

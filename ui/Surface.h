@@ -87,7 +87,7 @@ protected:
 
 private:
     void drawShadow(QPainter* painter, const QRectF& sourceRect);
-    QImage alphaShadow(const QRectF& sourceRect, qreal dpr);
+    QImage alphaShadow(const ShadowStyle& shadow, const QRectF& sourceRect, qreal dpr);
 
     std::optional<ShadowStyle> m_shadow;
     Shape m_shape;
