@@ -28,7 +28,7 @@ QString RequirementRow::statusWord(const RequirementStatus& status)
         return tr("Ready");
     if (status.requirement.isInstalledBySetup())
         return tr("Will be installed for you");
-    switch (status.requirement) {
+    switch (static_cast<SystemRequirement::Case>(status.requirement)) {
     case SystemRequirement::diskSpace: return tr("Not enough space");
     case SystemRequirement::git: return tr("Not installed");
     case SystemRequirement::macOSVersion:

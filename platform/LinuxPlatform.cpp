@@ -281,7 +281,7 @@ std::optional<QString> LinuxPlatform::findTerminalEmulator(const QString& search
     if (directories.isEmpty())
         return std::nullopt;
     for (const QString& emulator : terminalEmulators()) {
-        const QString path = QStandardPaths::findExecutable(emulator, directories);
+        QString path = QStandardPaths::findExecutable(emulator, directories);
         if (!path.isEmpty())
             return path;
     }

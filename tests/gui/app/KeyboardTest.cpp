@@ -116,8 +116,8 @@ void sweep(QWidget* window)
     // Each stop shows that it has the focus: a ring standing 3:1 from what was there before,
     // at least all the way round the control.
     QList<QImage> focused;
-    for (qsizetype i = 0; i < stops.size(); ++i) {
-        EXPECT_EQ(QApplication::focusWidget(), stops[i]);
+    for (QWidget* stop : stops) {
+        EXPECT_EQ(QApplication::focusWidget(), stop);
         focused << window->grab().toImage();
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
         test::settle();
