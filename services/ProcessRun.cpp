@@ -1,11 +1,15 @@
 #include "ProcessRun.h"
 
 #include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+#include <QStandardPaths>
 
 #include <algorithm>
 #include <csignal>
 #include <set>
 
+#include <signal.h>
 #include <sys/types.h>
 #include <unistd.h>
 
@@ -47,15 +51,47 @@ ProcessRun::ProcessRun(Options options) : m_options(std::move(options)), m_proce
 {
     m_process->setProgram(m_options.program);
     m_process->setArguments(m_options.arguments);
-    m_process->setProcessEnvironment(m_options.environment);
     if (!m_options.workingDirectory.isEmpty())
         m_process->setWorkingDirectory(m_options.workingDirectory);
     m_process->setStandardInputFile(QProcess::nullDevice());
     m_process->setProcessChannelMode(m_options.channels == Channels::merged ? QProcess::MergedChannels
                                                                             : QProcess::SeparateChannels);
+
+    // QProcess would pass the environment as text, which loses bytes that are not UTF-8: the
+    // child starts the program itself, with the entries as they are. Should that fail, QProcess
+    // starts the same program and reports why it could not.
+    QString executable = m_options.program;
+    if (!QFileInfo(executable).isAbsolute()) {
+        const QString found = QStandardPaths::findExecutable(executable);
+        if (!found.isEmpty())
+            executable = found;
+    }
+    m_executable = QFile::encodeName(executable);
+    m_argumentBytes << QFile::encodeName(m_options.program);
+    for (const QString& argument : std::as_const(m_options.arguments))
+        m_argumentBytes << argument.toLocal8Bit();
+    for (const QByteArray& argument : std::as_const(m_argumentBytes))
+        m_argv.push_back(const_cast<char*>(argument.constData()));
+    m_argv.push_back(nullptr);
+    for (const QByteArray& entry : std::as_const(m_options.environment))
+        m_envp.push_back(const_cast<char*>(entry.constData()));
+    m_envp.push_back(nullptr);
+
     // A session of its own: no controlling terminal (so sudo or a login file cannot ask a
     // question on the terminal Quillforge was started from) and one process group to stop.
-    m_process->setChildProcessModifier([] { ::setsid(); });
+    // Newer versions of Qt call this before they put SIGPIPE and the signal mask back as the
+    // program should find them; so does this, before it starts the program.
+    m_process->setChildProcessModifier(
+        [executable = m_executable.constData(), argv = m_argv.data(), envp = m_envp.data()] {
+            ::setsid();
+            struct sigaction byDefault {};
+            byDefault.sa_handler = SIG_DFL;
+            ::sigaction(SIGPIPE, &byDefault, nullptr);
+            sigset_t none;
+            sigemptyset(&none);
+            ::sigprocmask(SIG_SETMASK, &none, nullptr);
+            ::execve(executable, argv, envp);
+        });
 
     connect(m_process, &QProcess::readyReadStandardOutput, this, &ProcessRun::readOutput);
     connect(m_process, &QProcess::readyReadStandardError, this, &ProcessRun::readError);
