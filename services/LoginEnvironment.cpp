@@ -13,7 +13,8 @@ bool isShellBookkeeping(const QByteArray& name)
 }
 
 QByteArray beginMarker(const QByteArray& token) { return "quillforge-environment-" + token + "-begin"; }
-QByteArray endMarker(const QByteArray& token) { return "quillforge-environment-" + token + "-end"; }
+// A variable that env prints with the others: the list is whole when it is there.
+QByteArray endEntry(const QByteArray& token) { return "quillforge_environment_" + token + "_end=1"; }
 
 } // namespace
 
@@ -52,9 +53,10 @@ QList<QByteArray> entries(const EnvironmentVariables& variables)
 
 QString script(const QByteArray& token)
 {
-    // env is called by its path: a start-up file may have left a search path without it.
-    return QStringLiteral("printf '%s' '%1'; /usr/bin/env -0; printf '%s' '%2'")
-        .arg(QString::fromLatin1(beginMarker(token)), QString::fromLatin1(endMarker(token)));
+    // env is called by its path: a start-up file may have left a search path without it. It
+    // takes the shell's place, which saves starting one more process.
+    return QStringLiteral("printf '%s' '%1'; exec /usr/bin/env -0 '%2'")
+        .arg(QString::fromLatin1(beginMarker(token)), QString::fromLatin1(endEntry(token)));
 }
 
 std::optional<EnvironmentVariables> parse(const QByteArray& output, const QByteArray& token)
@@ -63,26 +65,32 @@ std::optional<EnvironmentVariables> parse(const QByteArray& output, const QByteA
     const qsizetype start = output.indexOf(begin);
     if (start < 0)
         return std::nullopt;
+    // NAME=value entries, each ended by a NUL (a value may hold anything but a NUL), up to the
+    // last NUL: what a start-up file left running may print after it.
     const qsizetype from = start + begin.size();
-    const qsizetype end = output.indexOf(endMarker(token), from);
-    if (end < 0)
+    const qsizetype last = output.lastIndexOf('\0');
+    if (last < from)
         return std::nullopt;
-
-    // NAME=value entries, each ended by a NUL; a value may hold anything but a NUL.
-    const QByteArrayView block = QByteArrayView(output).sliced(from, end - from);
-    if (!block.isEmpty() && !block.endsWith('\0'))
-        return std::nullopt;
+    const QByteArrayView block = QByteArrayView(output).sliced(from, last + 1 - from);
+    const QByteArray end = endEntry(token);
+    bool whole = false;
     EnvironmentVariables variables;
     qsizetype position = 0;
     while (position < block.size()) {
         const qsizetype terminator = block.indexOf('\0', position);
         const QByteArrayView entry = block.sliced(position, terminator - position);
         position = terminator + 1;
+        if (entry == end) {
+            whole = true;
+            continue;
+        }
         const qsizetype equals = entry.indexOf('=');
         if (equals <= 0)
             return std::nullopt;
         variables.insert(entry.first(equals).toByteArray(), entry.sliced(equals + 1).toByteArray());
     }
+    if (!whole)
+        return std::nullopt;
     return variables;
 }
 

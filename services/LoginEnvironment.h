@@ -35,13 +35,13 @@ EnvironmentVariables applicationEnvironment();
 QList<QByteArray> entries(const EnvironmentVariables& variables);
 
 // The line the login shell runs once its start-up files are done: its whole environment,
-// NUL-separated, between two markers made from `token`, so that nothing a start-up file prints
-// (before, or after in the background) is taken for part of it. Every shell understands it:
-// sh, bash, zsh, fish and csh alike.
+// NUL-separated, after a marker and ending in a variable of its own, both made from `token`,
+// so that nothing a start-up file prints (before, or after in the background) is taken for
+// part of it. Every shell understands it: sh, bash, zsh, fish and csh alike.
 QString script(const QByteArray& token);
 
-// The variables the shell printed between the markers in `output`; nothing when the markers
-// are missing or what lies between them is not an environment.
+// The variables the shell printed after the marker in `output`; nothing when the marker or
+// the closing variable is missing or what lies between is not an environment.
 std::optional<EnvironmentVariables> parse(const QByteArray& output, const QByteArray& token);
 
 // What the start-up files changed, from the environment the shell was `started` with to the

@@ -112,6 +112,7 @@ ProcessRun::ProcessRun(Options options) : m_options(std::move(options)), m_proce
     });
 
     m_deadline.setSingleShot(true);
+    m_deadline.setTimerType(Qt::PreciseTimer); // never before the time it names
     connect(&m_deadline, &QTimer::timeout, this, [this] { stop(ProcessOutcome::timedOut); });
     m_idle.setSingleShot(true);
     connect(&m_idle, &QTimer::timeout, this, &ProcessRun::quietTimeOver);

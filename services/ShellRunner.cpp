@@ -282,7 +282,8 @@ QCoro::Task<std::shared_ptr<const LoginEnvironment>> ShellRunner::readLoginShell
     switch (outcome.kind) {
     case ProcessOutcome::failedToStart: failure = QStringLiteral("could not be started: ") + outcome.launchError; break;
     case ProcessOutcome::timedOut:
-        failure = QStringLiteral("did not finish within %1 ms").arg(m_configuration.loginEnvironmentTimeoutMs);
+        failure = QStringLiteral("did not finish within ") +
+                  ShellError::durationText(m_configuration.loginEnvironmentTimeoutMs / 1000.0);
         break;
     case ProcessOutcome::outputLimitReached: failure = QStringLiteral("printed too much"); break;
     case ProcessOutcome::stalled:
@@ -313,9 +314,11 @@ QCoro::Task<std::shared_ptr<const LoginEnvironment>> ShellRunner::readLoginShell
         }
         co_return std::shared_ptr<const LoginEnvironment>();
     }
-    m_state.source = EnvironmentState::Source::loginShellOnce;
-    m_state.path = QString::fromLocal8Bit(read->path);
-    m_state.reason.clear();
+    // A reading that was under way when another one failed is no reason to go back.
+    if (m_state.source != EnvironmentState::Source::loginShellPerCommand) {
+        m_state.source = EnvironmentState::Source::loginShellOnce;
+        m_state.path = QString::fromLocal8Bit(read->path);
+    }
     std::shared_ptr<const LoginEnvironment> result = std::move(read);
     co_return result;
 }

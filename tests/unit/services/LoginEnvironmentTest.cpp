@@ -93,26 +93,32 @@ protected:
 
 } // namespace
 
-TEST(LoginEnvironmentParsing, TheEnvironmentIsWhatLiesBetweenTheMarkers)
+TEST(LoginEnvironmentParsing, TheEnvironmentIsWhatFollowsTheMarkerUpToItsClosingVariable)
 {
     const QByteArray token = "0123abcd";
     const QByteArray begin = "quillforge-environment-" + token + "-begin";
-    const QByteArray end = "quillforge-environment-" + token + "-end";
-    // Noise before and after; values with line breaks, '=' and bytes that are not UTF-8.
-    QByteArray block;
-    for (const char* entry : {"PATH=/usr/bin:/bin", "ODD=a\nb=c\xff", "EMPTY="})
-        block.append(entry).append('\0');
-    const QByteArray output = "Welcome back\nquillforge-environment-" + token + "-bogus\n" + begin + block + end +
-                              "\nAgent pid 1234\n";
+    const auto block = [](std::initializer_list<const char*> entries) {
+        QByteArray bytes;
+        for (const char* entry : entries)
+            bytes.append(entry).append('\0');
+        return bytes;
+    };
+    // Noise before and after (from something a start-up file left running); values with line
+    // breaks, '=' and bytes that are not UTF-8; the closing variable anywhere in the list.
+    const QByteArray output =
+        "Welcome back\nquillforge-environment-" + token + "-bogus\n" + begin +
+        block({"PATH=/usr/bin:/bin", "quillforge_environment_0123abcd_end=1", "ODD=a\nb=c\xff", "EMPTY="}) +
+        "\nAgent pid 1234\n";
     const std::optional<EnvironmentVariables> parsed = loginEnvironment::parse(output, token);
     ASSERT_TRUE(parsed.has_value());
     EXPECT_EQ(*parsed, (EnvironmentVariables{{"PATH", "/usr/bin:/bin"}, {"ODD", "a\nb=c\xff"}, {"EMPTY", ""}}));
 
-    // No end, no beginning, a truncated or malformed block: nothing usable.
-    EXPECT_FALSE(loginEnvironment::parse(begin + QByteArray("PATH=/bin\0", 10), token));
-    EXPECT_FALSE(loginEnvironment::parse(QByteArray("PATH=/bin\0", 10) + end, token));
-    EXPECT_FALSE(loginEnvironment::parse(begin + "PATH=/bin" + end, token));
-    EXPECT_FALSE(loginEnvironment::parse(begin + QByteArray("no equals sign\0", 15) + end, token));
+    // Without the marker or the closing variable, cut short or malformed: nothing usable.
+    const QByteArray end = "quillforge_environment_0123abcd_end=1";
+    EXPECT_FALSE(loginEnvironment::parse(begin + block({"PATH=/bin"}), token));
+    EXPECT_FALSE(loginEnvironment::parse(block({"PATH=/bin", end.constData()}), token));
+    EXPECT_EQ(loginEnvironment::parse(begin + block({end.constData()}) + "PATH=/bin", token), EnvironmentVariables());
+    EXPECT_FALSE(loginEnvironment::parse(begin + block({"no equals sign", end.constData()}), token));
     EXPECT_FALSE(loginEnvironment::parse(output, "another"));
 
     // The script prints what the parser looks for.
@@ -343,4 +349,21 @@ TEST_F(LoginEnvironmentTest, OddValuesArriveByteForByte)
     const Result<QString> written = run(perCommand, QStringLiteral("printf %s \"$FROM_APP\" > ~/value.out"));
     ASSERT_TRUE(written.ok());
     EXPECT_EQ(sandbox.readFile(QStringLiteral("value.out")), odd);
+}
+
+TEST_F(LoginEnvironmentTest, AnInstallationWhosePrerequisitesAreMetReadsTheStartupFilesAtMostTwice)
+{
+    // Node.js and git are there, and new terminal windows already search ~/.local/bin: once
+    // for the environment, once to ask what a new terminal window searches.
+    sandbox.installFakes({"git"});
+    sandbox.writeFile(QStringLiteral(".zprofile"),
+                      QByteArray(kCountingProfile) + "export PATH=\"$HOME/.local/bin:$PATH\"\n");
+    sandbox.setEnv("FAKE_NPM_PREFIX", sandbox.path(QStringLiteral(".local")).toUtf8());
+    QString log;
+    const auto finished = await(services.installer.runSetup(
+        CLITool::codex, [](SetupStepType, const SetupStepStatus&, const std::optional<QString>&) {},
+        [&log](const QString& text) { log += text; }));
+    ASSERT_TRUE(finished && finished->ok()) << log.toStdString();
+    EXPECT_LE(startupReads(), 2) << log.toStdString();
+    EXPECT_GE(startupReads(), 1);
 }
