@@ -77,21 +77,22 @@ ProcessRun::ProcessRun(Options options) : m_options(std::move(options)), m_proce
         m_envp.push_back(const_cast<char*>(entry.constData()));
     m_envp.push_back(nullptr);
 
+    // Newer versions of Qt call the modifier before they put SIGPIPE and the signal mask back as
+    // a program should find them; so does the modifier, before it starts the program. The child
+    // may share this process's memory until it starts the program, so all it uses is prepared
+    // here and it keeps nothing of its own.
+    m_defaultAction.sa_handler = SIG_DFL;
+    sigemptyset(&m_defaultAction.sa_mask);
+    sigemptyset(&m_noSignals);
     // A session of its own: no controlling terminal (so sudo or a login file cannot ask a
     // question on the terminal Quillforge was started from) and one process group to stop.
-    // Newer versions of Qt call this before they put SIGPIPE and the signal mask back as the
-    // program should find them; so does this, before it starts the program.
-    m_process->setChildProcessModifier(
-        [executable = m_executable.constData(), argv = m_argv.data(), envp = m_envp.data()] {
-            ::setsid();
-            struct sigaction byDefault {};
-            byDefault.sa_handler = SIG_DFL;
-            ::sigaction(SIGPIPE, &byDefault, nullptr);
-            sigset_t none;
-            sigemptyset(&none);
-            ::sigprocmask(SIG_SETMASK, &none, nullptr);
-            ::execve(executable, argv, envp);
-        });
+    m_process->setChildProcessModifier([executable = m_executable.constData(), argv = m_argv.data(),
+                                        envp = m_envp.data(), byDefault = &m_defaultAction, none = &m_noSignals] {
+        ::setsid();
+        ::sigaction(SIGPIPE, byDefault, nullptr);
+        ::sigprocmask(SIG_SETMASK, none, nullptr);
+        ::execve(executable, argv, envp);
+    });
 
     connect(m_process, &QProcess::readyReadStandardOutput, this, &ProcessRun::readOutput);
     connect(m_process, &QProcess::readyReadStandardError, this, &ProcessRun::readError);

@@ -11,6 +11,7 @@
 #include <coroutine>
 #include <functional>
 #include <optional>
+#include <signal.h>
 #include <vector>
 
 namespace qf {
@@ -98,6 +99,8 @@ private:
     QList<QByteArray> m_argumentBytes;
     std::vector<char*> m_argv;
     std::vector<char*> m_envp;
+    struct sigaction m_defaultAction {};
+    sigset_t m_noSignals{};
     QProcess* m_process;
     QTimer m_deadline;
     QTimer m_idle;

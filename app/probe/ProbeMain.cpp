@@ -1,11 +1,13 @@
 // quillforge-probe: the support tool. Runs the real services against the current HOME and
 // prints, as plain text, what the dashboard and the system check would show on this machine:
-// the AI tools found and their versions, the supporting items, the requirement list of each
-// tool, the shell profile and the terminal Quillforge would open, and the texts on this system
-// that name the system or its tools.
+// where the environment of commands comes from (the login shell read once, or a login shell
+// per command) with its search path, the AI tools found and their versions, the supporting
+// items, the requirement list of each tool, the shell profile and the terminal Quillforge
+// would open, and the texts on this system that name the system or its tools.
 //
 // It only looks. Nothing is installed, removed, written or created; the commands it runs are
-// the detection commands of the services themselves (`which`, `--version`).
+// the user's login shell (once, for the environment) and the detection commands of the
+// services themselves (`which`, `--version`).
 #include "CLITool.h"
 #include "Errors.h"
 #include "Platform.h"
