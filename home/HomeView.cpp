@@ -170,8 +170,18 @@ void HomeView::showEvent(QShowEvent* event)
     focusUnlessTaken(this, mainControl());
 }
 
+bool HomeView::event(QEvent* event)
+{
+    // Its window went to the background (the event reaches the window's visible children).
+    if (event->type() == QEvent::WindowDeactivate)
+        m_wasInactive = true;
+    return QWidget::event(event);
+}
+
 void HomeView::loadData()
 {
+    if (std::exchange(m_wasInactive, false))
+        m_services.runner.invalidateEnvironment();
     m_isLoading = true;
     render();
     const int generation = ++m_loadGeneration;

@@ -56,6 +56,7 @@ Q_SIGNALS:
 
 protected:
     void showEvent(QShowEvent* event) override;
+    bool event(QEvent* event) override;
 
 private:
     // Shows, above the items, what to do when an item's action could not run.
@@ -85,6 +86,9 @@ private:
     std::optional<SystemTool> m_systemToolToUninstall;
     std::optional<QString> m_hoveredKey;
     bool m_appeared = false;
+    // The window was in the background since the last load: the user may have changed a
+    // start-up file meanwhile.
+    bool m_wasInactive = false;
     int m_loadGeneration = 0;
 
     ui::ScrollView* m_scroll;

@@ -29,4 +29,12 @@ QMargins reportedWindowFrame(const QWidget* window)
 
 void Platform::openURL(const QUrl& url) { QDesktopServices::openUrl(url); }
 
+QStringList Platform::loginShellInvocation(const QString& line) const
+{
+    const QString shell = loginShell();
+    if (QFileInfo(shell).fileName().endsWith(QLatin1String("csh")))
+        return {shell, QStringLiteral("-c"), line};
+    return {shell, QStringLiteral("-l"), QStringLiteral("-c"), line};
+}
+
 } // namespace qf

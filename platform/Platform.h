@@ -148,6 +148,11 @@ public:
     virtual QStringList terminalShellInvocation(const QString& line) const = 0;
     // The user's shell: the one a new terminal window starts.
     virtual QString loginShell() const = 0;
+    // The program and arguments that run `line` in the user's shell started as a login shell,
+    // without a terminal, so that it reads the start-up files that give a terminal its
+    // environment: "-l -c", except csh and tcsh, which take "-l" only alone and run it with "-c"
+    // (reading ~/.cshrc or ~/.tcshrc).
+    virtual QStringList loginShellInvocation(const QString& line) const;
     // Whether a new terminal window starts it as a login shell (bash then reads
     // ~/.bash_profile instead of ~/.bashrc).
     virtual bool terminalStartsLoginShell() const = 0;

@@ -7,7 +7,7 @@
 
 namespace qf {
 
-APIKeyStore::APIKeyStore(SystemDetector& detector) : m_detector(detector) {}
+APIKeyStore::APIKeyStore(ShellRunner& shell, SystemDetector& detector) : m_shell(shell), m_detector(detector) {}
 
 QCoro::Task<Result<QString>> APIKeyStore::save(QString key, CLITool tool)
 {
@@ -32,6 +32,8 @@ QCoro::Task<Result<QString>> APIKeyStore::save(QString key, CLITool tool)
         co_return ServiceError::message(reason.replace(profile.path, displayedPath(profile.path)));
     }
     qputenv(variable.toUtf8().constData(), key.toUtf8());
+    // Commands read the start-up files again, and with them the new line.
+    m_shell.invalidateEnvironment();
     if (stored.value().afterComputedValue)
         co_return computedValueNotice(variable, displayedPath(profile.path));
     co_return QString();

@@ -2,6 +2,7 @@
 
 #include "CLITool.h"
 #include "Errors.h"
+#include "ShellRunner.h"
 #include "SystemDetector.h"
 
 #include <QCoreApplication>
@@ -16,7 +17,7 @@ class APIKeyStore {
     Q_DECLARE_TR_FUNCTIONS(APIKeyStore)
 
 public:
-    explicit APIKeyStore(SystemDetector& detector);
+    APIKeyStore(ShellRunner& shell, SystemDetector& detector);
     APIKeyStore(const APIKeyStore&) = delete;
     APIKeyStore& operator=(const APIKeyStore&) = delete;
 
@@ -31,6 +32,7 @@ public:
     static QString displayedPath(const QString& path, const QString& home = QDir::homePath());
 
 private:
+    ShellRunner& m_shell;
     SystemDetector& m_detector;
 };
 

@@ -28,8 +28,10 @@ QCoro::Task<Result<void>> NodeInstaller::install(Output onOutput)
         const QString activity = tr("The installation of Node.js through Homebrew");
         const Result<void> ran = co_await m_shell.runWithStreaming(QStringLiteral("brew install node"), onOutput,
                                                                    nullptr, activity);
-        if (!ran)
+        if (!ran) {
+            m_shell.invalidateEnvironment(); // it may have got part of the way
             co_return ran.error();
+        }
         installed = co_await m_shell.run(QStringLiteral("\"$(brew --prefix)/bin/node\" --version"));
     } else {
         onOutput(QStringLiteral("Installing Node.js via official installer...\n"));
@@ -37,6 +39,9 @@ QCoro::Task<Result<void>> NodeInstaller::install(Output onOutput)
         if (!installed)
             co_return installed.error();
     }
+    // A new Node.js (and Homebrew's start-up line, once it is there) may change what the
+    // user's start-up files set up.
+    m_shell.invalidateEnvironment();
 
     const NodeCheck node = co_await m_detector.checkNodeJS();
     if (!node.isInstalled)

@@ -1,11 +1,15 @@
 #include "ProcessRun.h"
 
 #include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+#include <QStandardPaths>
 
 #include <algorithm>
 #include <csignal>
 #include <set>
 
+#include <signal.h>
 #include <sys/types.h>
 #include <unistd.h>
 
@@ -47,15 +51,48 @@ ProcessRun::ProcessRun(Options options) : m_options(std::move(options)), m_proce
 {
     m_process->setProgram(m_options.program);
     m_process->setArguments(m_options.arguments);
-    m_process->setProcessEnvironment(m_options.environment);
     if (!m_options.workingDirectory.isEmpty())
         m_process->setWorkingDirectory(m_options.workingDirectory);
     m_process->setStandardInputFile(QProcess::nullDevice());
     m_process->setProcessChannelMode(m_options.channels == Channels::merged ? QProcess::MergedChannels
                                                                             : QProcess::SeparateChannels);
+
+    // QProcess would pass the environment as text, which loses bytes that are not UTF-8: the
+    // child starts the program itself, with the entries as they are. Should that fail, QProcess
+    // starts the same program and reports why it could not.
+    QString executable = m_options.program;
+    if (!QFileInfo(executable).isAbsolute()) {
+        const QString found = QStandardPaths::findExecutable(executable);
+        if (!found.isEmpty())
+            executable = found;
+    }
+    m_executable = QFile::encodeName(executable);
+    m_argumentBytes << QFile::encodeName(m_options.program);
+    for (const QString& argument : std::as_const(m_options.arguments))
+        m_argumentBytes << argument.toLocal8Bit();
+    for (const QByteArray& argument : std::as_const(m_argumentBytes))
+        m_argv.push_back(const_cast<char*>(argument.constData()));
+    m_argv.push_back(nullptr);
+    for (const QByteArray& entry : std::as_const(m_options.environment))
+        m_envp.push_back(const_cast<char*>(entry.constData()));
+    m_envp.push_back(nullptr);
+
+    // Newer versions of Qt call the modifier before they put SIGPIPE and the signal mask back as
+    // a program should find them; so does the modifier, before it starts the program. The child
+    // may share this process's memory until it starts the program, so all it uses is prepared
+    // here and it keeps nothing of its own.
+    m_defaultAction.sa_handler = SIG_DFL;
+    sigemptyset(&m_defaultAction.sa_mask);
+    sigemptyset(&m_noSignals);
     // A session of its own: no controlling terminal (so sudo or a login file cannot ask a
     // question on the terminal Quillforge was started from) and one process group to stop.
-    m_process->setChildProcessModifier([] { ::setsid(); });
+    m_process->setChildProcessModifier([executable = m_executable.constData(), argv = m_argv.data(),
+                                        envp = m_envp.data(), byDefault = &m_defaultAction, none = &m_noSignals] {
+        ::setsid();
+        ::sigaction(SIGPIPE, byDefault, nullptr);
+        ::sigprocmask(SIG_SETMASK, none, nullptr);
+        ::execve(executable, argv, envp);
+    });
 
     connect(m_process, &QProcess::readyReadStandardOutput, this, &ProcessRun::readOutput);
     connect(m_process, &QProcess::readyReadStandardError, this, &ProcessRun::readError);
@@ -76,6 +113,7 @@ ProcessRun::ProcessRun(Options options) : m_options(std::move(options)), m_proce
     });
 
     m_deadline.setSingleShot(true);
+    m_deadline.setTimerType(Qt::PreciseTimer); // never before the time it names
     connect(&m_deadline, &QTimer::timeout, this, [this] { stop(ProcessOutcome::timedOut); });
     m_idle.setSingleShot(true);
     connect(&m_idle, &QTimer::timeout, this, &ProcessRun::quietTimeOver);

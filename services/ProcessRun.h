@@ -11,6 +11,8 @@
 #include <coroutine>
 #include <functional>
 #include <optional>
+#include <signal.h>
+#include <vector>
 
 namespace qf {
 
@@ -39,7 +41,9 @@ public:
     struct Options {
         QString program;
         QStringList arguments;
-        QProcessEnvironment environment;
+        // "NAME=value" entries, given to the program byte for byte: values may hold line
+        // breaks and bytes that are not UTF-8.
+        QList<QByteArray> environment;
         QString workingDirectory;
         Channels channels = Channels::separate;
         int timeoutMs = 0; // 0: no limit
@@ -90,6 +94,13 @@ private:
     void finish();
 
     Options m_options;
+    // What the child is started with, prepared before the fork: the child only reads it.
+    QByteArray m_executable;
+    QList<QByteArray> m_argumentBytes;
+    std::vector<char*> m_argv;
+    std::vector<char*> m_envp;
+    struct sigaction m_defaultAction {};
+    sigset_t m_noSignals{};
     QProcess* m_process;
     QTimer m_deadline;
     QTimer m_idle;

@@ -18,16 +18,26 @@ SearchPathFix::SearchPathFix(ShellRunner& shell, SystemDetector& detector, const
 QCoro::Task<bool> SearchPathFix::newTerminalSearches(QString folder)
 {
     // The line runs as a new terminal window's shell would run it: the user's shell, reading
-    // its start-up files, from the search path the application was started with.
+    // its start-up files, from the search path the application was started with. It prints
+    // the search path between two marks, so that what a start-up file prints is not taken
+    // for a folder.
+    const QString begin = QStringLiteral("<quillforge-path>");
+    const QString end = QStringLiteral("</quillforge-path>");
     QString line = QStringLiteral("PATH=") + shellQuote(m_shell.inheritedSearchPath()) +
                    QStringLiteral("; export PATH; exec");
-    for (const QString& word : m_platform.terminalShellInvocation(QStringLiteral("printf '%s' \"$PATH\"")))
+    for (const QString& word :
+         m_platform.terminalShellInvocation(QStringLiteral("printf '%1%s%2' \"$PATH\"").arg(begin, end)))
         line += QLatin1Char(' ') + shellQuote(word);
-    const Result<QString> path = co_await m_shell.run(line, 30);
-    if (!path)
+    const Result<QString> printed = co_await m_shell.run(line, 30);
+    if (!printed)
         co_return false;
+    const qsizetype from = printed.value().lastIndexOf(begin);
+    const qsizetype to = printed.value().indexOf(end, from);
+    if (from < 0 || to < 0)
+        co_return false;
+    const QString path = printed.value().sliced(from + begin.size(), to - from - begin.size());
     const QString home = QDir::homePath();
-    for (QString entry : path.value().split(QLatin1Char(':'))) {
+    for (QString entry : path.split(QLatin1Char(':'))) {
         if (entry.startsWith(QLatin1String("~/")))
             entry.replace(0, 1, home);
         while (entry.size() > 1 && entry.endsWith(QLatin1Char('/')))
@@ -52,6 +62,8 @@ QCoro::Task<std::optional<QString>> SearchPathFix::addLocalPrograms(CLITool tool
     QFuture<Result<bool>> adding =
         QtConcurrent::run([profile] { return ProfileWriter::addSearchPathBlock(profile.path, profile.family); });
     const Result<bool> added = co_await adding;
+    if (added && added.value())
+        m_shell.invalidateEnvironment(); // the start-up file changed
     if (!added) {
         log(QStringLiteral("Note: ") + added.error().errorDescription() +
             QStringLiteral("\nTo start %1 from a terminal, add this line to %2:\n%3\n")

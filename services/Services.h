@@ -22,14 +22,14 @@ public:
     explicit Services(Platform& platform) : Services(platform, ShellRunner::standardConfiguration(platform)) {}
     Services(Platform& platform, ShellRunner::Configuration shell)
         : platform(platform),
-          runner(std::move(shell)),
+          runner(std::move(shell), &platform),
           detector(runner, platform),
           supportTools(runner, platform),
           nodeInstaller(runner, detector, platform),
           searchPath(runner, detector, platform),
           installer(runner, detector, platform, nodeInstaller, searchPath),
           remover(runner, platform),
-          keys(detector),
+          keys(runner, detector),
           terminal(platform),
           logs(platform.logFolder())
     {

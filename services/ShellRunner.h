@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Errors.h"
+#include "LoginEnvironment.h"
 #include "ProcessRun.h"
 
 #include <QCoro/QCoroTask>
@@ -9,13 +10,23 @@
 #include <QStringList>
 
 #include <functional>
+#include <memory>
 #include <optional>
 
 namespace qf {
 
-// Runs one shell command line at a time as a child process: `/bin/zsh -l -c LINE`, in the
-// user's home folder, with the application's environment and a search path that also covers
-// Node.js versions installed through nvm, ~/.local/bin and both usual Homebrew locations.
+class Platform;
+
+// Runs one shell command line at a time as a child process, in the user's home folder, with
+// the environment of the user's terminal and a search path that also covers Node.js versions
+// installed through nvm, ~/.local/bin and both usual Homebrew locations.
+//
+// The environment comes from the user's login shell, started once (and again after
+// `invalidateEnvironment()`): its start-up files are read once, not for every command, and
+// whatever they print never reaches an answer. Each command then runs as `zsh -f -c LINE`,
+// reading no start-up file. Where that login shell cannot be read (it fails, takes too long or
+// gives no environment), or no platform says which shell it is, every command is a login shell
+// of its own, `zsh -l -c LINE`, and only what the command itself prints is kept.
 //
 // Commands never read from a terminal: standard input is the null device and the child runs
 // in a session of its own, so a command that would ask a question fails at once instead of
@@ -28,6 +39,7 @@ public:
     static constexpr double defaultTimeoutSeconds = 600;
 
     struct Configuration {
+        // The shell of every command: zsh, or a shell that takes zsh's "-f" and "-l".
         QString shell = QStringLiteral("/bin/zsh");
         // The search path's fixed folders, after ~/.local/bin.
         QStringList fixedDirectories;
@@ -40,14 +52,38 @@ public:
         qsizetype outputLimitBytes = 16 * 1024 * 1024;
         // A streamed command without output for this long is stopped.
         int streamInactivityMs = 15 * 60 * 1000;
+        // How long the login shell may take to give its environment before it is stopped and
+        // every command becomes a login shell of its own.
+        int loginEnvironmentTimeoutMs = 10 * 1000;
+    };
+
+    // Where the environment of commands comes from.
+    struct EnvironmentState {
+        enum class Source {
+            notReadYet,           // no command has run yet
+            loginShellOnce,       // read once from the login shell
+            loginShellPerCommand, // every command is a login shell of its own
+        };
+        Source source = Source::notReadYet;
+        // The login shell read (or tried), as a command line: "/bin/zsh -l".
+        QString loginShell;
+        // The search path it gave, which commands search after their own folders.
+        QString path;
+        // How long the last reading took.
+        double readingMs = 0;
+        // Why every command is a login shell of its own.
+        QString reason;
     };
 
     // The shell and the search path of this system.
     static Configuration standardConfiguration(const Platform& platform);
 
-    explicit ShellRunner(Configuration configuration);
+    // With `platform`, commands get the environment of its login shell (loginShellInvocation),
+    // read once; without, every command is a login shell of its own.
+    explicit ShellRunner(Configuration configuration, const Platform* platform = nullptr);
     ShellRunner(const ShellRunner&) = delete;
     ShellRunner& operator=(const ShellRunner&) = delete;
+    ~ShellRunner();
 
     const Configuration& configuration() const { return m_configuration; }
 
@@ -67,23 +103,61 @@ public:
     QCoro::Task<Result<void>> runWithStreaming(QString command, OutputHandler onOutput, QObject* context = nullptr,
                                                QString activity = QString());
 
+    // The start-up files may have changed (a profile was written, Node.js or Homebrew were
+    // installed, the user was away): the next command reads the login shell's environment
+    // again. Commands already waiting for a reading keep theirs.
+    void invalidateEnvironment();
+
+    // Where the environment of commands comes from, as far as known now.
+    const EnvironmentState& environmentState() const { return m_state; }
+    // The same, once the environment has been read (reading it now unless it is known).
+    QCoro::Task<EnvironmentState> readEnvironment();
+
     // The search path the application itself was started with, which a new terminal window
     // starts from too.
     QString inheritedSearchPath() const;
 
-    // The environment a command gets: the application's own, with PATH extended.
+    // The environment the next command gets, as far as known now: the login shell's or, before
+    // it was read, the application's own, with PATH extended. As text, for showing it.
     QProcessEnvironment commandEnvironment() const;
 
     // PATH for a command: nvm's Node.js versions (names in descending text order), then
-    // ~/.local/bin, the fixed directories, and last the application's own PATH (if any).
-    // Empty elements, which would mean the current folder, are left out.
+    // ~/.local/bin, the fixed directories, and last the inherited PATH (the login shell's, or
+    // the application's own; if any). Empty elements, which would mean the current folder,
+    // are left out.
     static QString searchPath(const QString& home, QStringList nvmVersionNames, const QStringList& fixedDirectories,
                               const std::optional<QString>& inheritedPath);
 
 private:
-    ProcessRun::Options processOptions(const QString& command) const;
+    class Reading;
+    // How a command's shell is started.
+    enum class Start {
+        withoutStartupFiles, // `-f -c`, with the login shell's environment
+        asLoginShell,        // `-l -c`, the command after a marker
+        bare,                // `-f -c`, with the application's environment
+    };
+
+    // The login shell's environment; nothing when every command is a login shell of its own.
+    QCoro::Task<std::shared_ptr<const LoginEnvironment>> environment();
+    // Starts the login shell and reads its environment.
+    QCoro::Task<std::shared_ptr<const LoginEnvironment>> readLoginShell();
+    // The variables a command gets.
+    EnvironmentVariables commandVariables(const LoginEnvironment* login) const;
+    ProcessRun::Options processOptions(const QString& command, const LoginEnvironment* login, Start start,
+                                       ProcessRun::Channels channels) const;
 
     Configuration m_configuration;
+    const Platform* m_platform;
+    // Marks where a login shell's start-up files end and the command's own output begins.
+    QByteArray m_marker;
+    // The newest environment read, and the generation it belongs to.
+    std::shared_ptr<const LoginEnvironment> m_environment;
+    quint64 m_environmentGeneration = 0;
+    // The reading in flight, if any; its generation says whether it is still current.
+    std::shared_ptr<Reading> m_reading;
+    // Grows with every invalidation.
+    quint64 m_generation = 1;
+    EnvironmentState m_state;
 };
 
 } // namespace qf

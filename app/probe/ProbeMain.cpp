@@ -1,11 +1,13 @@
 // quillforge-probe: the support tool. Runs the real services against the current HOME and
 // prints, as plain text, what the dashboard and the system check would show on this machine:
-// the AI tools found and their versions, the supporting items, the requirement list of each
-// tool, the shell profile and the terminal Quillforge would open, and the texts on this system
-// that name the system or its tools.
+// where the environment of commands comes from (the login shell read once, or a login shell
+// per command) with its search path, the AI tools found and their versions, the supporting
+// items, the requirement list of each tool, the shell profile and the terminal Quillforge
+// would open, and the texts on this system that name the system or its tools.
 //
 // It only looks. Nothing is installed, removed, written or created; the commands it runs are
-// the detection commands of the services themselves (`which`, `--version`).
+// the user's login shell (once, for the environment) and the detection commands of the
+// services themselves (`which`, `--version`).
 #include "CLITool.h"
 #include "Errors.h"
 #include "Platform.h"
@@ -123,7 +125,20 @@ QString describeFailure(const ServiceError& error)
     return text.isEmpty() ? QStringLiteral("failed") : text;
 }
 
-void printHeader(Services& services)
+// One directory a line; missing ones are marked.
+QString directoryLines(const QString& path)
+{
+    QStringList directories;
+    for (const QString& directory : path.split(QLatin1Char(':'))) {
+        const QFileInfo info(directory);
+        directories << (directory.isEmpty() ? QStringLiteral("(empty entry: the current folder)")
+                        : info.isDir()      ? directory
+                                            : directory + QStringLiteral("  (missing)"));
+    }
+    return directories.join(QLatin1Char('\n'));
+}
+
+QCoro::Task<void> printHeader(Services& services)
 {
     printLine(QStringLiteral("Quillforge support probe"));
     printLine(QStringLiteral("========================"));
@@ -135,19 +150,31 @@ void printHeader(Services& services)
                    (os.isMet ? QStringLiteral(" (supported)") : QStringLiteral(" (not supported)")));
     printField(QStringLiteral("Home folder"), QDir::homePath());
 
-    const ShellRunner& runner = services.runner;
-    printField(QStringLiteral("Shell"), runner.configuration().shell + QStringLiteral(" -l -c <command>"));
-
-    // The search path every command gets, one directory a line; missing ones are marked.
-    QStringList directories;
-    const QString path = runner.commandEnvironment().value(QStringLiteral("PATH"));
-    for (const QString& directory : path.split(QLatin1Char(':'))) {
-        const QFileInfo info(directory);
-        directories << (directory.isEmpty() ? QStringLiteral("(empty entry: the current folder)")
-                        : info.isDir()      ? directory
-                                            : directory + QStringLiteral("  (missing)"));
+    // Where the environment of commands comes from: the login shell read once, or a login
+    // shell for every command when it could not be read.
+    ShellRunner& runner = services.runner;
+    using Source = ShellRunner::EnvironmentState::Source;
+    const ShellRunner::EnvironmentState environment = co_await runner.readEnvironment();
+    const bool once = environment.source == Source::loginShellOnce;
+    printField(QStringLiteral("Shell"), runner.configuration().shell + (once ? QStringLiteral(" -f -c <command>")
+                                                                             : QStringLiteral(" -l -c <command>")));
+    const QString took = QString::number(environment.readingMs, 'f', 0) + QStringLiteral(" ms");
+    if (once) {
+        printField(QStringLiteral("Environment"),
+                   QStringLiteral("read once from ") + environment.loginShell + QStringLiteral(" in ") + took);
+        printField(QStringLiteral("Login PATH"), directoryLines(environment.path));
+    } else if (environment.loginShell.isEmpty()) {
+        printField(QStringLiteral("Environment"),
+                   QStringLiteral("a login shell for every command (") + environment.reason + QLatin1Char(')'));
+    } else {
+        printField(QStringLiteral("Environment"), QStringLiteral("a login shell for every command: ") +
+                                                      environment.reason + QStringLiteral(" (after ") + took +
+                                                      QLatin1Char(')'));
     }
-    printField(QStringLiteral("Command PATH"), directories.join(QLatin1Char('\n')));
+
+    // The search path every command gets.
+    printField(QStringLiteral("Command PATH"),
+               directoryLines(runner.commandEnvironment().value(QStringLiteral("PATH"))));
 }
 
 QCoro::Task<void> printAiTools(Services& services)
@@ -330,7 +357,7 @@ void printSystemTexts(const Services& services)
 
 QCoro::Task<void> probe(Services& services)
 {
-    printHeader(services);
+    co_await printHeader(services);
     std::fflush(stdout);
     co_await printAiTools(services);
     std::fflush(stdout);

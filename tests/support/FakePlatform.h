@@ -4,6 +4,7 @@
 #include "ShellQuote.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QList>
 #include <QPair>
 
@@ -76,6 +77,25 @@ public:
         return {terminalShell, QStringLiteral("-l"), QStringLiteral("-i"), QStringLiteral("-c"), line};
     }
     QString loginShell() const override { return terminalShell; }
+    // As the real systems start it, except that only the start-up files of the test's home are
+    // read, never the machine's own (/etc/zprofile, /etc/profile), which would put this
+    // machine's programs on the search path: zsh without its global files, and sh and bash
+    // reading the first file a login shell of theirs reads, as a login shell would.
+    QStringList loginShellInvocation(const QString& line) const override
+    {
+        const QString name = QFileInfo(terminalShell).fileName();
+        if (name == QLatin1String("zsh"))
+            return {terminalShell, QStringLiteral("-d"), QStringLiteral("-l"), QStringLiteral("-c"), line};
+        if (name == QLatin1String("bash") || name == QLatin1String("dash") || name == QLatin1String("sh")) {
+            const QString files = name == QLatin1String("bash")
+                                      ? QStringLiteral("~/.bash_profile ~/.bash_login ~/.profile")
+                                      : QStringLiteral("~/.profile");
+            return {
+                terminalShell, QStringLiteral("-c"),
+                QStringLiteral("for f in %1; do if [ -r \"$f\" ]; then . \"$f\"; break; fi; done; ").arg(files) + line};
+        }
+        return Platform::loginShellInvocation(line);
+    }
     bool terminalStartsLoginShell() const override { return loginTerminals; }
     std::optional<NodeReleaseTarget> nodeReleaseTarget() const override { return releaseTarget; }
     // Through the fake `sudo`, which runs the command unless told to refuse.

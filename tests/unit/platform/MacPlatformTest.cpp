@@ -3,6 +3,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -89,6 +90,31 @@ TEST(MacPlatformTerminal, LaunchFailureIsOneDiagnosticLine)
     EXPECT_GT(text.trimmed().size(), QStringLiteral("AppleScript error:").size()) << "the reason is missing";
     EXPECT_EQ(text.count(QLatin1Char('\n')), 1) << text.toStdString();
     EXPECT_TRUE(text.endsWith(QLatin1Char('\n')));
+}
+
+// The environment of commands comes from the account's shell as a login shell: zsh when the
+// account names none that can run.
+TEST(MacPlatformShell, TheLoginEnvironmentComesFromTheAccountsShell)
+{
+    QTemporaryDir folder;
+    ASSERT_TRUE(folder.isValid());
+    const QString line = QStringLiteral("printf x");
+    {
+        qf::test::ScopedEnv shell("SHELL", folder.filePath(QStringLiteral("missing")).toUtf8());
+        EXPECT_EQ(MacPlatform().loginShellInvocation(line),
+                  (QStringList{QStringLiteral("/bin/zsh"), QStringLiteral("-l"), QStringLiteral("-c"), line}));
+    }
+    for (const char* name : {"bash", "tcsh"}) {
+        const QString path = folder.filePath(QLatin1String(name));
+        ASSERT_TRUE(qf::test::writeExecutable(path, "#!/bin/sh\n"));
+        qf::test::ScopedEnv shell("SHELL", path.toUtf8());
+        // csh and tcsh take "-l" only alone.
+        const QStringList expected = QLatin1String(name) == QLatin1String("tcsh")
+                                         ? QStringList{path, QStringLiteral("-c"), line}
+                                         : QStringList{path, QStringLiteral("-l"), QStringLiteral("-c"), line};
+        EXPECT_EQ(MacPlatform().loginShellInvocation(line), expected);
+        EXPECT_EQ(qf::LinuxPlatform().loginShellInvocation(line), expected);
+    }
 }
 
 } // namespace

@@ -195,6 +195,24 @@ TEST_F(ShellRunnerTest, CommandsCannotWaitForAnswers)
     EXPECT_NE(fields[3].toLongLong(), static_cast<long long>(getsid(0)));
 }
 
+TEST_F(ShellRunnerTest, CommandsStartWithNoSignalBlockedAndSigpipeAtItsDefault)
+{
+    if (!QFile::exists(QStringLiteral("/proc/self/status")))
+        GTEST_SKIP() << "no /proc";
+    // The writer of a pipeline whose reader is gone must end, not write into the void; and a
+    // command must hear TERM when it is stopped.
+    ShellRunner perCommand(sandbox.shellConfiguration());
+    for (ShellRunner* runner : {&services.runner, &perCommand}) {
+        const Result<QString> status = run(*runner, QStringLiteral("grep -E '^Sig(Blk|Ign)' /proc/self/status"));
+        ASSERT_TRUE(status.ok()) << message(status).toStdString();
+        const QStringList lines = status.value().split(QLatin1Char('\n'));
+        ASSERT_EQ(lines.size(), 2);
+        EXPECT_EQ(lines[0].section(QLatin1Char('\t'), 1).toULongLong(nullptr, 16), 0u) << lines[0].toStdString();
+        const qulonglong ignored = lines[1].section(QLatin1Char('\t'), 1).toULongLong(nullptr, 16);
+        EXPECT_EQ(ignored & (1u << (SIGPIPE - 1)), 0u) << lines[1].toStdString();
+    }
+}
+
 TEST_F(ShellRunnerTest, BackgroundChildrenHoldingThePipeDoNotDelayTheResult)
 {
     const QString pidFile = sandbox.path(QStringLiteral("background.pid"));

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+#include <QMap>
+#include <QString>
+
+#include <optional>
+
+namespace qf {
+
+// Environment variables byte for byte, by name: values may hold line breaks, '=' and bytes
+// that are not UTF-8.
+using EnvironmentVariables = QMap<QByteArray, QByteArray>;
+
+// What the start-up files of the user's login shell make of the application's environment:
+// the variables they set or changed and the ones they removed, and the search path they built.
+// Commands get the application's environment of the moment with these changes on top, so a
+// variable the application sets later (an API key just saved) still reaches them.
+struct LoginEnvironment {
+    EnvironmentVariables changed;
+    QList<QByteArray> removed;
+    QByteArray path;
+
+    // `variables` with the changes made: set, changed and removed (PATH is left as it is).
+    EnvironmentVariables appliedTo(EnvironmentVariables variables) const;
+};
+
+namespace loginEnvironment {
+
+// The application's own environment as it is now.
+EnvironmentVariables applicationEnvironment();
+
+// "NAME=value" entries, as a process is given them.
+QList<QByteArray> entries(const EnvironmentVariables& variables);
+
+// The line the login shell runs once its start-up files are done: its whole environment,
+// NUL-separated, after a marker and ending in a variable of its own, both made from `token`,
+// so that nothing a start-up file prints (before, or after in the background) is taken for
+// part of it. Every shell understands it: sh, bash, zsh, fish and csh alike.
+QString script(const QByteArray& token);
+
+// The variables the shell printed after the marker in `output`; nothing when the marker or
+// the closing variable is missing or what lies between is not an environment.
+std::optional<EnvironmentVariables> parse(const QByteArray& output, const QByteArray& token);
+
+// What the start-up files changed, from the environment the shell was `started` with to the
+// one it `printed`. What the shell keeps for itself (its level, the last command, the current
+// folder) is left out.
+LoginEnvironment difference(const EnvironmentVariables& started, const EnvironmentVariables& printed);
+
+// `front` (the folders a command always searches first) followed by the non-empty elements of
+// `tail`, byte for byte: an empty element would mean the current folder.
+QByteArray joinSearchPath(const QString& front, const QByteArray& tail);
+
+} // namespace loginEnvironment
+
+} // namespace qf

@@ -1,0 +1,369 @@
+// The environment of commands comes from the user's login shell, read once: how often the
+// start-up files are read, that what they print never reaches an answer, that a shell that
+// cannot be read falls back to a login shell per command, and that values arrive byte for byte.
+#include "CoroTest.h"
+#include "DashboardLoad.h"
+#include "HomeView.h"
+#include "InstallationState.h"
+#include "LoginEnvironment.h"
+#include "StdoutCapture.h"
+#include "TestMachine.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTest>
+#include <QVBoxLayout>
+
+#include <memory>
+
+using namespace qf;
+using qf::test::await;
+using Source = ShellRunner::EnvironmentState::Source;
+
+namespace {
+
+// A start-up file that counts how often it is read.
+constexpr auto kCountingProfile = "echo read >> \"$HOME/startup-reads\"\n";
+
+// What a chatty start-up file prints: a greeting, an agent's pid, a complaint on standard error.
+constexpr auto kChattyProfile = "echo 'Welcome back'\n"
+                                "echo 'Agent pid 1234'\n"
+                                "echo 'could not reach the license server' >&2\n";
+
+class LoginEnvironmentTest : public ::testing::Test, protected test::TestMachine {
+protected:
+    void SetUp() override
+    {
+        sandbox.installFakes({"claude", "node", "npm", "brew", "xcode-select", "xcodebuild"});
+        sandbox.setEnv("FAKE_NPM_PREFIX", sandbox.path(QStringLiteral("npm-global")).toUtf8());
+    }
+
+    int startupReads() const { return sandbox.readFile(QStringLiteral("startup-reads")).count("read\n"); }
+
+    static DashboardSnapshot load(Services& set)
+    {
+        std::optional<DashboardSnapshot> snapshot = await(loadDashboard(set.detector, set.supportTools));
+        return snapshot.value_or(DashboardSnapshot{});
+    }
+
+    static Result<QString> run(ShellRunner& runner, const QString& command)
+    {
+        std::optional<Result<QString>> result = await(runner.run(command));
+        return result.value_or(ServiceError::message(QStringLiteral("did not finish")));
+    }
+
+    static QString streamed(ShellRunner& runner, const QString& command)
+    {
+        QString text;
+        const auto result = await(runner.runWithStreaming(command, [&text](const QString& chunk) { text += chunk; }));
+        EXPECT_TRUE(result && result->ok());
+        return text;
+    }
+
+    // What the dashboard should show for the fakes: Claude Code, and Node.js with its version.
+    static void expectFakesFound(const DashboardSnapshot& snapshot)
+    {
+        EXPECT_EQ(snapshot.installedTools, QList<CLITool>{CLITool::claudeCode});
+        bool nodeSeen = false;
+        for (const SystemTool& tool : snapshot.systemTools) {
+            if (tool.id != SystemToolID::node)
+                continue;
+            nodeSeen = true;
+            EXPECT_TRUE(tool.isInstalled);
+            EXPECT_EQ(tool.version, QStringLiteral("v20.10.0"));
+        }
+        EXPECT_TRUE(nodeSeen);
+    }
+
+    // Every kind of answer is exactly the command's own output.
+    void expectExactAnswers(ShellRunner& runner, SystemDetector& detector)
+    {
+        EXPECT_EQ(run(runner, QStringLiteral("node --version")).value(), QStringLiteral("v20.10.0"));
+        const std::optional<std::optional<QString>> version = await(detector.getNodeVersion());
+        EXPECT_EQ(version.value_or(std::nullopt), QStringLiteral("v20.10.0"));
+        EXPECT_EQ(run(runner, QStringLiteral("which node")).value(), sandbox.binDirectory() + QStringLiteral("/node"));
+        EXPECT_EQ(run(runner, QStringLiteral("npm prefix -g")).value(), sandbox.path(QStringLiteral("npm-global")));
+        const Result<QString> failed = run(runner, QStringLiteral("echo out; echo err >&2; exit 1"));
+        ASSERT_FALSE(failed.ok());
+        EXPECT_EQ(failed.error().shellError()->output(), QStringLiteral("out\n\nerr"));
+        EXPECT_EQ(streamed(runner, QStringLiteral("echo one; echo two >&2; echo three")),
+                  QStringLiteral("one\ntwo\nthree\n"));
+    }
+};
+
+} // namespace
+
+TEST(LoginEnvironmentParsing, TheEnvironmentIsWhatFollowsTheMarkerUpToItsClosingVariable)
+{
+    const QByteArray token = "0123abcd";
+    const QByteArray begin = "quillforge-environment-" + token + "-begin";
+    const auto block = [](std::initializer_list<const char*> entries) {
+        QByteArray bytes;
+        for (const char* entry : entries)
+            bytes.append(entry).append('\0');
+        return bytes;
+    };
+    // Noise before and after (from something a start-up file left running); values with line
+    // breaks, '=' and bytes that are not UTF-8; the closing variable anywhere in the list.
+    const QByteArray output =
+        "Welcome back\nquillforge-environment-" + token + "-bogus\n" + begin +
+        block({"PATH=/usr/bin:/bin", "quillforge_environment_0123abcd_end=1", "ODD=a\nb=c\xff", "EMPTY="}) +
+        "\nAgent pid 1234\n";
+    const std::optional<EnvironmentVariables> parsed = loginEnvironment::parse(output, token);
+    ASSERT_TRUE(parsed.has_value());
+    EXPECT_EQ(*parsed, (EnvironmentVariables{{"PATH", "/usr/bin:/bin"}, {"ODD", "a\nb=c\xff"}, {"EMPTY", ""}}));
+
+    // Without the marker or the closing variable, cut short or malformed: nothing usable.
+    const QByteArray end = "quillforge_environment_0123abcd_end=1";
+    EXPECT_FALSE(loginEnvironment::parse(begin + block({"PATH=/bin"}), token));
+    EXPECT_FALSE(loginEnvironment::parse(block({"PATH=/bin", end.constData()}), token));
+    EXPECT_EQ(loginEnvironment::parse(begin + block({end.constData()}) + "PATH=/bin", token), EnvironmentVariables());
+    EXPECT_FALSE(loginEnvironment::parse(begin + block({"no equals sign", end.constData()}), token));
+    EXPECT_FALSE(loginEnvironment::parse(output, "another"));
+
+    // The script prints what the parser looks for.
+    EXPECT_TRUE(loginEnvironment::script(token).contains(QString::fromLatin1(begin)));
+    EXPECT_TRUE(loginEnvironment::script(token).contains(QString::fromLatin1(end)));
+}
+
+TEST(LoginEnvironmentParsing, CommandsGetTheStartupFilesChangesOnTopOfTheApplicationsEnvironment)
+{
+    const EnvironmentVariables started{{"HOME", "/h"}, {"KEEP", "1"}, {"GONE", "x"}, {"PATH", "/bin"}, {"PWD", "/"}};
+    const EnvironmentVariables printed{{"HOME", "/h"}, {"KEEP", "2"},  {"NEW", "y"},         {"PATH", "/opt:/bin"},
+                                       {"PWD", "/h"},  {"SHLVL", "1"}, {"_", "/usr/bin/env"}};
+    const LoginEnvironment login = loginEnvironment::difference(started, printed);
+    EXPECT_EQ(login.path, QByteArray("/opt:/bin"));
+    // The shell's own bookkeeping is no change of the start-up files.
+    EXPECT_EQ(login.changed, (EnvironmentVariables{{"KEEP", "2"}, {"NEW", "y"}}));
+    EXPECT_EQ(login.removed, QList<QByteArray>{"GONE"});
+
+    // A variable the application set after the reading still arrives; a changed one is the
+    // start-up files' version.
+    const EnvironmentVariables now{{"HOME", "/h"}, {"KEEP", "1"}, {"GONE", "x"}, {"LATER", "k"}};
+    EXPECT_EQ(login.appliedTo(now),
+              (EnvironmentVariables{{"HOME", "/h"}, {"KEEP", "2"}, {"NEW", "y"}, {"LATER", "k"}}));
+
+    EXPECT_EQ(loginEnvironment::joinSearchPath(QStringLiteral("/a:/b"), "::/c::/d:"), QByteArray("/a:/b:/c:/d"));
+}
+
+TEST_F(LoginEnvironmentTest, StartupFilesAreReadOnceForADashboardLoadAndAgainAfterAProfileWrite)
+{
+    sandbox.writeFile(QStringLiteral(".zprofile"), kCountingProfile);
+    EXPECT_EQ(services.runner.environmentState().source, Source::notReadYet);
+
+    expectFakesFound(load(services));
+    EXPECT_EQ(startupReads(), 1);
+    EXPECT_EQ(services.runner.environmentState().source, Source::loginShellOnce);
+    expectFakesFound(load(services));
+    EXPECT_EQ(startupReads(), 1);
+
+    // Saving a key writes the profile: the next load reads the start-up files once more.
+    const std::optional<Result<QString>> saved = await(services.keys.save(QStringLiteral("sk-test"), CLITool::codex));
+    ASSERT_TRUE(saved && saved->ok());
+    EXPECT_EQ(startupReads(), 1); // nothing is read for the save itself
+    expectFakesFound(load(services));
+    EXPECT_EQ(startupReads(), 2);
+    EXPECT_EQ(run(services.runner, QStringLiteral("printf %s \"$OPENAI_API_KEY\"")).value(), QStringLiteral("sk-test"));
+    qunsetenv("OPENAI_API_KEY");
+
+    // So does an installed Node.js.
+    sandbox.setEnv("FAKE_BREW_NODE_VERSION", "v20.10.0");
+    const std::optional<Result<void>> installed = await(services.nodeInstaller.install([](const QString&) {}));
+    ASSERT_TRUE(installed && installed->ok());
+    const int afterInstall = startupReads();
+    EXPECT_EQ(afterInstall, 3); // its check after the installation read them again
+    expectFakesFound(load(services));
+    EXPECT_EQ(startupReads(), afterInstall);
+}
+
+TEST_F(LoginEnvironmentTest, TwoLoadsAtOnceShareOneReading)
+{
+    // Slow enough that the second load surely asks while the first reading runs.
+    sandbox.writeFile(QStringLiteral(".zprofile"), QByteArray(kCountingProfile) + "sleep 0.3\n");
+    QCoro::Task<DashboardSnapshot> first = loadDashboard(services.detector, services.supportTools);
+    QCoro::Task<DashboardSnapshot> second = loadDashboard(services.detector, services.supportTools);
+    const std::optional<DashboardSnapshot> one = await(std::move(first));
+    const std::optional<DashboardSnapshot> two = await(std::move(second));
+    ASSERT_TRUE(one && two);
+    expectFakesFound(*one);
+    expectFakesFound(*two);
+    EXPECT_EQ(startupReads(), 1);
+
+    // A load that starts after an invalidation does not take the reading in flight.
+    services.runner.invalidateEnvironment();
+    QCoro::Task<DashboardSnapshot> before = loadDashboard(services.detector, services.supportTools);
+    services.runner.invalidateEnvironment();
+    QCoro::Task<DashboardSnapshot> after = loadDashboard(services.detector, services.supportTools);
+    ASSERT_TRUE(await(std::move(before)).has_value());
+    ASSERT_TRUE(await(std::move(after)).has_value());
+    EXPECT_EQ(startupReads(), 3);
+}
+
+TEST_F(LoginEnvironmentTest, TheDashboardReadsTheStartupFilesAgainAfterTheWindowWasInactive)
+{
+    sandbox.writeFile(QStringLiteral(".zprofile"), kCountingProfile);
+    // The dashboard inside a window, as in the application.
+    InstallationState state;
+    QWidget window;
+    auto* layout = new QVBoxLayout(&window);
+    auto* home = new HomeView(state, services);
+    layout->addWidget(home);
+    HomeView& view = *home;
+    window.show();
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    const auto loaded = [&view] { return QTest::qWaitFor([&view] { return !view.isLoading(); }, 20000); };
+    ASSERT_TRUE(loaded());
+    EXPECT_EQ(startupReads(), 1);
+
+    // A reload while the window stayed in front uses what was read.
+    view.loadData();
+    ASSERT_TRUE(loaded());
+    EXPECT_EQ(startupReads(), 1);
+
+    // The user was in another window, where a start-up file may have changed.
+    sandbox.writeFile(QStringLiteral(".zprofile"), QByteArray(kCountingProfile) + "export QF_EDITED=yes\n");
+    QWidget elsewhere;
+    elsewhere.show();
+    elsewhere.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&elsewhere));
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    view.loadData();
+    ASSERT_TRUE(loaded());
+    EXPECT_EQ(startupReads(), 2);
+    EXPECT_EQ(run(services.runner, QStringLiteral("printf %s \"$QF_EDITED\"")).value(), QStringLiteral("yes"));
+}
+
+TEST_F(LoginEnvironmentTest, ChattyStartupFilesNeverReachAnAnswer)
+{
+    for (const char* file : {".zshenv", ".zprofile", ".zlogin", ".profile"})
+        sandbox.writeFile(QString::fromLatin1(file), kChattyProfile);
+
+    // Read once from a zsh account and from a bash account.
+    for (const char* shell : {"/bin/zsh", "/bin/bash"}) {
+        SCOPED_TRACE(shell);
+        platform.terminalShell = QString::fromLatin1(shell);
+        services.runner.invalidateEnvironment();
+        expectExactAnswers(services.runner, services.detector);
+        expectFakesFound(load(services));
+        EXPECT_EQ(services.runner.environmentState().source, Source::loginShellOnce);
+    }
+
+    // A login shell for every command: the start-up files speak before each command.
+    SCOPED_TRACE("a login shell per command");
+    ShellRunner perCommand(sandbox.shellConfiguration());
+    SystemDetector detector(perCommand, platform);
+    expectExactAnswers(perCommand, detector);
+    EXPECT_EQ(perCommand.environmentState().source, Source::loginShellPerCommand);
+}
+
+TEST_F(LoginEnvironmentTest, StartupFilesThatHoldTheShellUpOrReplaceItFallBackWithCorrectAnswers)
+{
+    struct Case {
+        const char* what;
+        QByteArray profile;
+        int boundMs;
+        bool fallsBack;
+    };
+    const Case cases[] = {
+        // Standard input is the null device: a question gets no answer and the shell goes on.
+        {"reads standard input", "read answer; cat\n", 10000, false},
+        {"sleeps past the bound", "sleep 0.7\n", 300, true},
+        {"replaces the shell", "exec /bin/sh -c 'echo hijacked'\n", 10000, true},
+    };
+    for (const Case& broken : cases) {
+        SCOPED_TRACE(broken.what);
+        sandbox.writeFile(QStringLiteral(".zprofile"), broken.profile);
+        ShellRunner::Configuration configuration = sandbox.shellConfiguration();
+        configuration.loginEnvironmentTimeoutMs = broken.boundMs;
+        Services impatient(platform, configuration);
+
+        test::StdoutCapture diagnostics;
+        expectFakesFound(load(impatient));
+        expectExactAnswers(impatient.runner, impatient.detector);
+        impatient.runner.invalidateEnvironment(); // tried once, not again
+        EXPECT_EQ(run(impatient.runner, QStringLiteral("echo again")).value(), QStringLiteral("again"));
+        const QString said = diagnostics.text();
+        diagnostics.restore();
+
+        const ShellRunner::EnvironmentState state = impatient.runner.environmentState();
+        EXPECT_EQ(state.source, broken.fallsBack ? Source::loginShellPerCommand : Source::loginShellOnce);
+        EXPECT_EQ(said.count(QStringLiteral("Login environment:")), broken.fallsBack ? 1 : 0) << said.toStdString();
+        if (broken.fallsBack) {
+            EXPECT_TRUE(said.contains(state.reason)) << said.toStdString();
+            EXPECT_LT(state.readingMs, 5000); // stopped, not waited for
+        }
+    }
+}
+
+TEST_F(LoginEnvironmentTest, ABashAccountsProfileSetsTheSearchPath)
+{
+    // Where a Linux user's terminal finds their own programs: ~/.profile of a bash account,
+    // which a zsh login shell would never read.
+    platform.terminalShell = QStringLiteral("/bin/bash");
+    sandbox.writeFile(QStringLiteral(".profile"), "PATH=\"$HOME/own/bin:$PATH\"\nexport GREETING=hello\n");
+    sandbox.writeFile(QStringLiteral("own/bin/mytool"), "#!/bin/sh\necho mine\n");
+    QFile::setPermissions(sandbox.path(QStringLiteral("own/bin/mytool")),
+                          QFileDevice::ReadOwner | QFileDevice::ExeOwner | QFileDevice::WriteOwner);
+
+    EXPECT_EQ(run(services.runner, QStringLiteral("command -v mytool")).value(),
+              sandbox.path(QStringLiteral("own/bin/mytool")));
+    EXPECT_EQ(run(services.runner, QStringLiteral("mytool; printf %s \"$GREETING\"")).value(),
+              QStringLiteral("mine\nhello"));
+    // After the folders every command searches first, and the app's own search path is gone.
+    const QStringList path =
+        run(services.runner, QStringLiteral("printf %s \"$PATH\"")).value().split(QLatin1Char(':'));
+    ASSERT_GE(path.size(), 4);
+    EXPECT_EQ(path.at(0), sandbox.path(QStringLiteral(".local/bin")));
+    EXPECT_EQ(path.at(1), sandbox.binDirectory());
+    EXPECT_EQ(path.at(2), sandbox.path(QStringLiteral("own/bin")));
+    EXPECT_TRUE(services.runner.environmentState().path.startsWith(sandbox.path(QStringLiteral("own/bin"))));
+}
+
+TEST_F(LoginEnvironmentTest, OddValuesArriveByteForByte)
+{
+    // Line breaks, '=' and bytes that are not UTF-8: set by a start-up file, and by the
+    // application itself (also after the reading).
+    sandbox.writeFile(QStringLiteral(".zprofile"), "export FROM_PROFILE=$'one\\ntwo=2\\xff\\xfe end'\n"
+                                                   "unset DROPPED_BY_PROFILE\n");
+    const QByteArray odd("first\nsecond=third \xc3\x28 \xff");
+    sandbox.setEnv("FROM_APP", odd);
+    sandbox.setEnv("DROPPED_BY_PROFILE", "x");
+    const auto bytesOf = [this](const char* variable) {
+        const Result<QString> written = run(
+            services.runner, QStringLiteral("printf %s \"$%1\" > ~/value.out").arg(QLatin1String(variable)));
+        EXPECT_TRUE(written.ok());
+        return sandbox.readFile(QStringLiteral("value.out"));
+    };
+    EXPECT_EQ(bytesOf("FROM_PROFILE"), QByteArray("one\ntwo=2\xff\xfe end"));
+    EXPECT_EQ(bytesOf("FROM_APP"), odd);
+    EXPECT_EQ(bytesOf("DROPPED_BY_PROFILE"), QByteArray());
+    ASSERT_EQ(services.runner.environmentState().source, Source::loginShellOnce);
+
+    sandbox.setEnv("SET_LATER", odd);
+    EXPECT_EQ(bytesOf("SET_LATER"), odd);
+
+    // A login shell per command passes them as they are too.
+    ShellRunner perCommand(sandbox.shellConfiguration());
+    const Result<QString> written = run(perCommand, QStringLiteral("printf %s \"$FROM_APP\" > ~/value.out"));
+    ASSERT_TRUE(written.ok());
+    EXPECT_EQ(sandbox.readFile(QStringLiteral("value.out")), odd);
+}
+
+TEST_F(LoginEnvironmentTest, AnInstallationWhosePrerequisitesAreMetReadsTheStartupFilesAtMostTwice)
+{
+    // Node.js and git are there, and new terminal windows already search ~/.local/bin: once
+    // for the environment, once to ask what a new terminal window searches.
+    sandbox.installFakes({"git"});
+    sandbox.writeFile(QStringLiteral(".zprofile"),
+                      QByteArray(kCountingProfile) + "export PATH=\"$HOME/.local/bin:$PATH\"\n");
+    sandbox.setEnv("FAKE_NPM_PREFIX", sandbox.path(QStringLiteral(".local")).toUtf8());
+    QString log;
+    const auto finished = await(services.installer.runSetup(
+        CLITool::codex, [](SetupStepType, const SetupStepStatus&, const std::optional<QString>&) {},
+        [&log](const QString& text) { log += text; }));
+    ASSERT_TRUE(finished && finished->ok()) << log.toStdString();
+    EXPECT_LE(startupReads(), 2) << log.toStdString();
+    EXPECT_GE(startupReads(), 1);
+}
