@@ -1,12 +1,14 @@
 #pragma once
 
+#include "FileDescriptor.h"
+
 #include <QLockFile>
 #include <QObject>
 #include <QString>
 
 #include <memory>
 
-class QLocalServer;
+class QSocketNotifier;
 
 namespace qf {
 
@@ -14,6 +16,8 @@ namespace qf {
 // npm. The first copy holds a lock in a private folder of the user's and listens beside it; a
 // later copy finds the lock held, asks the first one to come to the front and steps aside. A
 // lock left by a copy that crashed belongs to no running process and is taken over.
+// The socket is a plain local (Unix domain) socket: a line "activate" asks for the window and
+// the answer "ok" says it was heard.
 class SingleInstance : public QObject {
     Q_OBJECT
 
@@ -43,12 +47,15 @@ Q_SIGNALS:
     void activationRequested();
 
 private:
-    bool listen();
+    // 0, or the system's error.
+    int listen();
+    void acceptConnections();
     bool askRunningCopy() const;
 
     QString m_directory;
     std::unique_ptr<QLockFile> m_lock;
-    QLocalServer* m_server = nullptr;
+    std::unique_ptr<FileDescriptor> m_listener;
+    QSocketNotifier* m_listening = nullptr;
 };
 
 } // namespace qf

@@ -1,8 +1,14 @@
 #pragma once
 
+#include <functional>
+
 class QWidget;
 
 namespace qf {
+
+// Runs `work` once `window` has painted its first frame, on the next turn of the event loop:
+// for what the first screen does not show, so that it does not hold the window back.
+void afterFirstFrame(QWidget* window, std::function<void()> work);
 
 // For the start-up benchmark: when QUILLFORGE_REPORT_FIRST_FRAME is set, the process prints
 // "first-frame rss_kb=N" on standard output once `window` has painted its first frame, and quits.

@@ -34,7 +34,6 @@ int main(int argc, char* argv[])
     case qf::SingleInstance::Role::first:
     case qf::SingleInstance::Role::unguarded: break;
     }
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/images/QuillforgeLogo.svg")));
 
     // The one set of services of this run: every screen and controller gets it from here.
     const std::unique_ptr<qf::Platform> platform = qf::createNativePlatform();
@@ -45,6 +44,9 @@ int main(int argc, char* argv[])
     qf::MainWindow window(state, services);
     QObject::connect(&instance, &qf::SingleInstance::activationRequested, &window,
                      [&window] { window.bringToFront(); });
+    // The icon is drawn from the logo, with the SVG icon engine: nothing the first frame shows.
+    qf::afterFirstFrame(&window,
+                        [] { QApplication::setWindowIcon(QIcon(QStringLiteral(":/images/QuillforgeLogo.svg"))); });
     qf::reportFirstFrameIfRequested(&window);
     window.show();
     return app.exec();
