@@ -91,13 +91,14 @@ bool sendAll(int fd, const QByteArray& data, int ms)
     qsizetype sent = 0;
     while (sent < data.size()) {
         const ssize_t n = ::send(fd, data.constData() + sent, size_t(data.size() - sent), sendFlags);
-        if (n > 0)
+        if (n > 0) {
             sent += n;
-        else if (n < 0 && errno == EINTR)
             continue;
-        else if (n < 0 && (errno == EAGAIN || errno == EWOULDBLOCK) && waitFor(fd, POLLOUT, ms))
-            continue;
-        else
+        }
+        // Interrupted, or full for now and writable again in time: try again.
+        const bool again = n < 0 &&
+                           (errno == EINTR || ((errno == EAGAIN || errno == EWOULDBLOCK) && waitFor(fd, POLLOUT, ms)));
+        if (!again)
             return false;
     }
     return true;

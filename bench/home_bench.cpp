@@ -155,6 +155,7 @@ void measure(const Scenario& scenario, HomeView& view, Services& services, const
             case 1: warm.push_back(loadOnce(view)); break;
             case 2: sequential.push_back(runSequentially(shell, commands, environment)); break;
             case 3: single.push_back(runSequentially(shell, alone, environment)); break;
+            default: break;
             }
         }
     }

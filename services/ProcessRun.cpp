@@ -9,7 +9,6 @@
 #include <csignal>
 #include <set>
 
-#include <signal.h>
 #include <sys/types.h>
 #include <unistd.h>
 

@@ -11,8 +11,10 @@
 #include <coroutine>
 #include <functional>
 #include <optional>
-#include <signal.h>
 #include <vector>
+
+// POSIX's sigaction and sigprocmask, which <csignal> need not declare.
+#include <signal.h> // NOLINT(modernize-deprecated-headers)
 
 namespace qf {
 
