@@ -161,7 +161,7 @@ QCoro::Task<Result<void>> ToolInstaller::runSetup(CLITool tool, StepUpdate repor
 
     // 5. Verification.
     log(QStringLiteral("\nVerifying installation...\n"));
-    const Result<QString> found = co_await m_shell.run(QStringLiteral("which ") + tool.commandName());
+    const std::optional<QString> found = co_await m_detector.findTool(tool);
     if (!found) {
         report(SetupStepType::installTool, SetupStepStatus::failure(QStringLiteral("Verification failed")),
                std::nullopt);
