@@ -3,6 +3,7 @@
 #include "FocusOrder.h"
 #include "InstallationState.h"
 #include "Motion.h"
+#include "StartupProbe.h"
 
 #include <QPainter>
 #include <QResizeEvent>
@@ -43,12 +44,20 @@ private:
 
 } // namespace
 
-ContentView::ContentView(InstallationState& state, ScreenFactory factory, QWidget* parent)
+ContentView::ContentView(InstallationState& state, ScreenFactory factory, QWidget* parent, FirstScreen firstScreen)
     : QWidget(parent), m_state(state), m_factory(std::move(factory))
 {
     setObjectName(QStringLiteral("contentView"));
     connect(&m_state, &InstallationState::currentStepChanged, this, [this] { showStep(m_state.currentStep()); });
-    showStep(m_state.currentStep());
+    if (firstScreen == FirstScreen::atOnce) {
+        showStep(m_state.currentStep());
+        return;
+    }
+    QPointer<ContentView> guard(this);
+    afterFirstFrame(window(), [guard] {
+        if (guard && !guard->m_screen)
+            guard->showStep(guard->m_state.currentStep());
+    });
 }
 
 void ContentView::showStep(InstallationStep step)

@@ -21,8 +21,15 @@ class ContentView : public QWidget {
     Q_OBJECT
 
 public:
-    ContentView(InstallationState& state, ScreenFactory factory, QWidget* parent = nullptr);
+    // When the first screen is built: at once, or once the window has painted its first frame
+    // (the window then appears on its plain background a little sooner, and the screen, whose
+    // elements fade in anyway, follows in the next frame).
+    enum class FirstScreen { atOnce, afterFirstFrame };
 
+    ContentView(InstallationState& state, ScreenFactory factory, QWidget* parent = nullptr,
+                FirstScreen firstScreen = FirstScreen::atOnce);
+
+    // Nothing only while a deferred first screen waits for the first frame.
     QWidget* currentScreen() const { return m_screen; }
     InstallationStep shownStep() const { return m_shownStep; }
     // The fading picture of the previous screen while a change animates.

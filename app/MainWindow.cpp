@@ -18,7 +18,8 @@
 
 namespace qf {
 
-MainWindow::MainWindow(InstallationState& state, Services& services, ScreenFactory factory, QWidget* parent)
+MainWindow::MainWindow(InstallationState& state, Services& services, ScreenFactory factory, QWidget* parent,
+                       ContentView::FirstScreen firstScreen)
     : QWidget(parent), m_services(services), m_installation(state, services.installer, services.logs)
 {
     setObjectName(QStringLiteral("mainWindow"));
@@ -52,7 +53,7 @@ MainWindow::MainWindow(InstallationState& state, Services& services, ScreenFacto
         menuBar->addMenu(tr("Help"))->addAction(about);
         connect(this, &QObject::destroyed, menuBar, &QObject::deleteLater);
     }
-    m_content = new ContentView(state, std::move(factory), this);
+    m_content = new ContentView(state, std::move(factory), this, firstScreen);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_content);

@@ -21,7 +21,8 @@ class MainWindow : public QWidget {
 
 public:
     // Without a factory the window shows the application's screens, built with `services`.
-    MainWindow(InstallationState& state, Services& services, ScreenFactory factory = {}, QWidget* parent = nullptr);
+    MainWindow(InstallationState& state, Services& services, ScreenFactory factory = {}, QWidget* parent = nullptr,
+               ContentView::FirstScreen firstScreen = ContentView::FirstScreen::atOnce);
 
     ContentView* contentView() const { return m_content; }
     InstallationController& installationController() { return m_installation; }

@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QEvent>
+#include <QPointer>
 #include <QTimer>
 #include <QWidget>
 
@@ -13,13 +14,13 @@ namespace qf {
 
 namespace {
 
-// Watches every paint of the application: the first one inside the window starts its first
-// frame (the window's own area may be covered by its children and never painted itself).
-// Once it has seen it, the watcher stops watching and goes away.
-class FirstFrameWatcher : public QObject {
+// Watches every paint of the application: the first one of a widget inside the window that
+// `counts` starts the frame waited for (the window's own area may be covered by its children
+// and never painted itself). Once it has seen it, the watcher stops watching and goes away.
+class FrameWatcher : public QObject {
 public:
-    FirstFrameWatcher(QWidget* window, std::function<void()> work)
-        : QObject(window), m_window(window), m_work(std::move(work))
+    FrameWatcher(QWidget* window, std::function<bool(QWidget*)> counts, std::function<void()> work)
+        : QObject(window), m_window(window), m_counts(std::move(counts)), m_work(std::move(work))
     {
     }
 
@@ -27,7 +28,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override
     {
         auto* widget = qobject_cast<QWidget*>(watched);
-        if (event->type() == QEvent::Paint && widget && widget->window() == m_window) {
+        if (event->type() == QEvent::Paint && widget && widget->window() == m_window && m_counts(widget)) {
             QCoreApplication::instance()->removeEventFilter(this);
             // Once the paint has reached the screen, on the next turn of the loop.
             QTimer::singleShot(0, m_window, std::move(m_work));
@@ -38,24 +39,45 @@ protected:
 
 private:
     QWidget* m_window;
+    std::function<bool(QWidget*)> m_counts;
     std::function<void()> m_work;
 };
+
+void watchFrame(QWidget* window, std::function<bool(QWidget*)> counts, std::function<void()> work)
+{
+    QCoreApplication::instance()->installEventFilter(new FrameWatcher(window, std::move(counts), std::move(work)));
+}
 
 } // namespace
 
 void afterFirstFrame(QWidget* window, std::function<void()> work)
 {
-    QCoreApplication::instance()->installEventFilter(new FirstFrameWatcher(window, std::move(work)));
+    watchFrame(
+        window, [](QWidget*) { return true; }, std::move(work));
 }
 
-void reportFirstFrameIfRequested(QWidget* window)
+void reportFirstFrameIfRequested(QWidget* window, std::function<QWidget*()> screen)
 {
     if (qEnvironmentVariableIsEmpty("QUILLFORGE_REPORT_FIRST_FRAME"))
         return;
-    afterFirstFrame(window, [] {
+    QPointer<QWidget> guard(window);
+    afterFirstFrame(window, [guard, screen = std::move(screen)] {
         std::printf("first-frame rss_kb=%ld\n", residentMemoryKB());
         std::fflush(stdout);
-        QCoreApplication::exit(0);
+        if (!guard || !screen) {
+            QCoreApplication::exit(0);
+            return;
+        }
+        // Then the first frame that paints the screen itself.
+        const auto inScreen = [screen](QWidget* widget) {
+            QWidget* shown = screen();
+            return shown && (widget == shown || shown->isAncestorOf(widget));
+        };
+        watchFrame(guard, inScreen, [] {
+            std::printf("screen-frame rss_kb=%ld\n", residentMemoryKB());
+            std::fflush(stdout);
+            QCoreApplication::exit(0);
+        });
     });
 }
 

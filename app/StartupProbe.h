@@ -11,7 +11,9 @@ namespace qf {
 void afterFirstFrame(QWidget* window, std::function<void()> work);
 
 // For the start-up benchmark: when QUILLFORGE_REPORT_FIRST_FRAME is set, the process prints
-// "first-frame rss_kb=N" on standard output once `window` has painted its first frame, and quits.
-void reportFirstFrameIfRequested(QWidget* window);
+// "first-frame rss_kb=N" on standard output once `window` has painted its first frame, then
+// "screen-frame rss_kb=N" once the widget `screen` answers has painted (without `screen`, it
+// quits at the first frame), and quits.
+void reportFirstFrameIfRequested(QWidget* window, std::function<QWidget*()> screen = {});
 
 } // namespace qf

@@ -41,13 +41,14 @@ int main(int argc, char* argv[])
     qf::ui::Theme::applyApplicationLook(app, platform->applicationLook());
 
     qf::InstallationState state;
-    qf::MainWindow window(state, services);
+    // The window appears first; its screen is built right after, in time for its entrance.
+    qf::MainWindow window(state, services, {}, nullptr, qf::ContentView::FirstScreen::afterFirstFrame);
     QObject::connect(&instance, &qf::SingleInstance::activationRequested, &window,
                      [&window] { window.bringToFront(); });
     // The icon is drawn from the logo, with the SVG icon engine: nothing the first frame shows.
     qf::afterFirstFrame(&window,
                         [] { QApplication::setWindowIcon(QIcon(QStringLiteral(":/images/QuillforgeLogo.svg"))); });
-    qf::reportFirstFrameIfRequested(&window);
+    qf::reportFirstFrameIfRequested(&window, [&window] { return window.contentView()->currentScreen(); });
     window.show();
     return app.exec();
 }

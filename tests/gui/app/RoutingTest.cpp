@@ -11,6 +11,7 @@
 #include <QMoveEvent>
 #include <QPointer>
 #include <QScreen>
+#include <QTest>
 
 using namespace qf;
 
@@ -110,6 +111,32 @@ TEST_F(RoutingTest, FirstScreenFollowsThePreference)
     MainWindow window(state, services);
     EXPECT_EQ(window.contentView()->shownStep(), InstallationStep::home);
     EXPECT_EQ(window.contentView()->currentScreen()->objectName(), QStringLiteral("homeView"));
+}
+
+TEST_F(RoutingTest, ADeferredFirstScreenFollowsTheFirstFrameWithTheKeyboardOnGetStarted)
+{
+    InstallationState state;
+    MainWindow window(state, services, {}, nullptr, ContentView::FirstScreen::afterFirstFrame);
+    EXPECT_EQ(window.contentView()->currentScreen(), nullptr);
+    window.show();
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return window.contentView()->currentScreen() != nullptr; }));
+    auto* onboarding = qobject_cast<OnboardingView*>(window.contentView()->currentScreen());
+    ASSERT_NE(onboarding, nullptr);
+    EXPECT_EQ(onboarding->geometry(), window.contentView()->rect());
+    EXPECT_TRUE(onboarding->isVisible());
+    EXPECT_EQ(onboarding->focusWidget(), test::child(onboarding, QStringLiteral("getStartedButton")));
+
+    // A step taken before the first frame is the one shown, built once.
+    InstallationState early;
+    CountingFactory counting;
+    MainWindow other(early, services, counting.factory(), nullptr, ContentView::FirstScreen::afterFirstFrame);
+    early.setCurrentStep(InstallationStep::home);
+    other.show();
+    test::settle();
+    ASSERT_NE(other.contentView()->currentScreen(), nullptr);
+    EXPECT_EQ(other.contentView()->currentScreen()->objectName(), caseName(InstallationStep::home));
+    EXPECT_EQ(*counting.built, 1);
 }
 
 TEST_F(RoutingTest, WindowFillsTheUsableScreenAndKeepsItsMinimum)
