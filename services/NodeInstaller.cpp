@@ -21,7 +21,7 @@ NodeInstaller::NodeInstaller(ShellRunner& shell, SystemDetector& detector, const
 
 QCoro::Task<Result<void>> NodeInstaller::install(Output onOutput)
 {
-    const Result<QString> brew = co_await m_shell.run(QStringLiteral("which brew"));
+    const Result<QString> brew = co_await m_shell.findProgram(QStringLiteral("brew"));
     Result<QString> installed = QString();
     if (brew) {
         onOutput(QStringLiteral("Installing Node.js via Homebrew...\n"));
@@ -52,7 +52,7 @@ QCoro::Task<Result<void>> NodeInstaller::install(Output onOutput)
     onOutput(QStringLiteral("Node.js ") + version.value_or(QStringLiteral("installed")) +
              QStringLiteral(" successfully!\n"));
     if (version && node.version && *node.version != *version) {
-        const Result<QString> first = co_await m_shell.run(QStringLiteral("command -v node"));
+        const Result<QString> first = co_await m_shell.findProgram(QStringLiteral("node"));
         onOutput(QStringLiteral("Note: Node.js %1%2 is found first on the search path.\n")
                      .arg(*node.version,
                           first ? QStringLiteral(" in ") + QFileInfo(first.value()).absolutePath() : QString()));

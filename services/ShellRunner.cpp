@@ -20,6 +20,8 @@
 #include <utility>
 #include <vector>
 
+#include <unistd.h>
+
 namespace qf {
 
 using namespace std::chrono_literals;
@@ -380,6 +382,29 @@ QCoro::Task<Result<QString>> ShellRunner::run(QString command, double timeoutSec
     const QString error = decodeUtf8Lossily(outcome.standardError);
     const QString combined = output.isEmpty() ? error : output + QLatin1Char('\n') + error;
     co_return ShellError::failed(outcome.exitCode, combined.trimmed());
+}
+
+QCoro::Task<Result<QString>> ShellRunner::findProgram(QString program)
+{
+    if (program.isEmpty() || program.contains(QLatin1Char('/')))
+        co_return ShellError::failed(1, program + QStringLiteral(" not found"));
+    const std::shared_ptr<const LoginEnvironment> login = co_await environment();
+    if (!login) {
+        // Every command is a login shell of its own: only a shell knows its search path.
+        const Result<QString> found = co_await run(QStringLiteral("which ") + program);
+        co_return found;
+    }
+    const EnvironmentVariables variables = commandVariables(login.get());
+    for (const QByteArray& folder : variables.value("PATH").split(':')) {
+        // A relative folder would depend on where the command runs; no command is looked for there.
+        if (!folder.startsWith('/'))
+            continue;
+        const QByteArray candidate = folder + '/' + QFile::encodeName(program);
+        const QFileInfo info(QFile::decodeName(candidate));
+        if (info.isFile() && ::access(candidate.constData(), X_OK) == 0)
+            co_return QFile::decodeName(candidate);
+    }
+    co_return ShellError::failed(1, program + QStringLiteral(" not found"));
 }
 
 QCoro::Task<Result<void>> ShellRunner::runWithStreaming(QString command, OutputHandler onOutput, QObject* context,

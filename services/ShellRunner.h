@@ -103,6 +103,12 @@ public:
     QCoro::Task<Result<void>> runWithStreaming(QString command, OutputHandler onOutput, QObject* context = nullptr,
                                                QString activity = QString());
 
+    // Where `program` is found on the commands' search path: the path `which <program>` in a
+    // command prints (the first executable file of that name in a folder of PATH). Looked up
+    // without starting a shell where the commands' environment is known; a name with a slash
+    // or none at all is never found.
+    QCoro::Task<Result<QString>> findProgram(QString program);
+
     // The start-up files may have changed (a profile was written, Node.js or Homebrew were
     // installed, the user was away): the next command reads the login shell's environment
     // again. Commands already waiting for a reading keep theirs.

@@ -128,7 +128,7 @@ QCoro::Task<SystemTool> SupportTools::detect(SystemTool tool)
             break;
         tool.isInstalled = true;
         tool.version = version.value();
-        const Result<QString> where = co_await m_shell.run(QStringLiteral("command -v node"));
+        const Result<QString> where = co_await m_shell.findProgram(QStringLiteral("node"));
         NodeCopy copy = NodeCopy::other;
         if (where)
             copy = co_await nodeCopyAt(where.value());
@@ -175,7 +175,7 @@ QCoro::Task<Result<void>> SupportTools::remove(SystemTool tool, ShellRunner::Out
     // Homebrew's own removal script can end well and leave Homebrew in place: only a search
     // that no longer finds it makes the removal complete.
     if (tool.id == SystemToolID::homebrew) {
-        const Result<QString> found = co_await m_shell.run(QStringLiteral("command -v brew"));
+        const Result<QString> found = co_await m_shell.findProgram(QStringLiteral("brew"));
         if (found) {
             co_return ServiceError::message(
                 SupportTools::tr("%1 is still installed at %2: its removal did not finish. The output above says why.")

@@ -88,7 +88,7 @@ QCoro::Task<std::optional<QString>> SystemDetector::getToolVersion(CLITool tool)
 
 QCoro::Task<std::optional<QString>> SystemDetector::findTool(CLITool tool)
 {
-    const Result<QString> found = co_await m_shell.run(QStringLiteral("which ") + tool.commandName());
+    const Result<QString> found = co_await m_shell.findProgram(tool.commandName());
     if (!found)
         co_return std::nullopt;
     co_return found.value();

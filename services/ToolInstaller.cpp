@@ -171,7 +171,7 @@ QCoro::Task<Result<void>> ToolInstaller::runSetup(CLITool tool, StepUpdate repor
     const QString localPrograms = QDir::homePath() + QStringLiteral("/.local/bin/");
     bool local = found.value().startsWith(localPrograms);
     if (!local && tool.requiresNodeJS()) {
-        const Result<QString> node = co_await m_shell.run(QStringLiteral("command -v node"));
+        const Result<QString> node = co_await m_shell.findProgram(QStringLiteral("node"));
         local = node && node.value().startsWith(localPrograms);
     }
     if (local) {

@@ -24,11 +24,11 @@ QCoro::Task<Result<void>> ToolRemover::uninstall(CLITool tool, Output log)
         log(QStringLiteral("Note: ") + removal.error().errorDescription() + QLatin1Char('\n'));
     }
 
-    Result<QString> stillThere = co_await m_shell.run(QStringLiteral("which ") + tool.commandName());
+    Result<QString> stillThere = co_await m_shell.findProgram(tool.commandName());
     if (stillThere && tool.installsThroughNpm()) {
         // A copy in a global npm folder that the user cannot write (installed with sudo, say)
         // goes with administrator rights, asked for through the system's own dialog.
-        const Result<QString> npm = co_await m_shell.run(QStringLiteral("command -v npm"));
+        const Result<QString> npm = co_await m_shell.findProgram(QStringLiteral("npm"));
         const Result<QString> prefix = co_await m_shell.run(QStringLiteral("npm prefix -g"));
         if (npm && prefix && stillThere.value() == prefix.value() + QStringLiteral("/bin/") + tool.commandName() &&
             !ToolInstaller::isWritableNpmPrefix(prefix.value())) {
@@ -38,7 +38,7 @@ QCoro::Task<Result<void>> ToolRemover::uninstall(CLITool tool, Output log)
             // /usr/bin:/bin:/usr/sbin:/sbin), and npm starts through `env node`: node's own
             // folder goes first on that search path.
             QString line = shellQuote(npm.value()) + QStringLiteral(" uninstall -g ") + tool.npmPackage();
-            const Result<QString> node = co_await m_shell.run(QStringLiteral("command -v node"));
+            const Result<QString> node = co_await m_shell.findProgram(QStringLiteral("node"));
             if (node) {
                 line = QStringLiteral("PATH=") +
                        shellQuote(QFileInfo(node.value()).absolutePath() +
@@ -54,7 +54,7 @@ QCoro::Task<Result<void>> ToolRemover::uninstall(CLITool tool, Output log)
                     co_return removed.error();
                 log(QStringLiteral("Note: ") + removed.error().errorDescription() + QLatin1Char('\n'));
             }
-            stillThere = co_await m_shell.run(QStringLiteral("which ") + tool.commandName());
+            stillThere = co_await m_shell.findProgram(tool.commandName());
         }
     }
     if (!stillThere) {

@@ -65,10 +65,12 @@ protected:
 
 TEST_F(SheetTest, AIToolSheetFailsClearlyAndRetriesAfresh)
 {
-    // The search after the removal cannot run at first (the shell is missing), then can.
+    // The search after the removal cannot run at first (the shell, the login shell too, is
+    // missing), then can.
     const QString shell = sandbox.path(QStringLiteral("shell"));
     ShellRunner::Configuration configuration = sandbox.shellConfiguration();
     configuration.shell = shell;
+    platform.terminalShell = shell;
     Services flaky(platform, configuration);
     UninstallSheet sheet(
         CLITool::codex, flaky.remover, flaky.logs, [this] { ++reloads; }, Qt::Dialog, nullptr);

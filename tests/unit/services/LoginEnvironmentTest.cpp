@@ -321,6 +321,41 @@ TEST_F(LoginEnvironmentTest, ABashAccountsProfileSetsTheSearchPath)
     EXPECT_TRUE(services.runner.environmentState().path.startsWith(sandbox.path(QStringLiteral("own/bin"))));
 }
 
+TEST_F(LoginEnvironmentTest, ProgramsAreFoundWithoutAShellExactlyWhereWhichFindsThem)
+{
+    // The profile's search path: a folder holding a plain file, a folder and an executable
+    // named like programs found later, a relative folder, and a folder at the very end.
+    sandbox.writeFile(QStringLiteral(".zprofile"), "PATH=\"$HOME/first:rel:$PATH:$HOME/last\"\n");
+    const auto program = [this](const QString& relative, bool executable) {
+        sandbox.writeFile(relative, "#!/bin/sh\n");
+        QFile::setPermissions(sandbox.path(relative),
+                              executable ? QFileDevice::ReadOwner | QFileDevice::ExeOwner : QFileDevice::ReadOwner);
+    };
+    program(QStringLiteral("first/node"), false);
+    QDir(sandbox.path(QString())).mkpath(QStringLiteral("first/npm"));
+    program(QStringLiteral("first/mytool"), true);
+    program(QStringLiteral("rel/relative"), true);
+    program(QStringLiteral("last/onlyhere"), true);
+
+    for (const char* name : {"node", "npm", "mytool", "relative", "onlyhere", "nothere"}) {
+        const QString command = QString::fromLatin1(name);
+        const Result<QString> byShell = run(services.runner, QStringLiteral("cd / && which ") + command);
+        const std::optional<Result<QString>> found = await(services.runner.findProgram(command));
+        ASSERT_TRUE(found.has_value());
+        EXPECT_EQ(found->ok(), byShell.ok()) << name;
+        if (byShell.ok() && found->ok()) {
+            EXPECT_EQ(found->value(), byShell.value()) << name;
+        }
+    }
+    EXPECT_EQ(await(services.runner.findProgram(QStringLiteral("mytool")))->value(),
+              sandbox.path(QStringLiteral("first/mytool")));
+    EXPECT_EQ(await(services.runner.findProgram(QStringLiteral("onlyhere")))->value(),
+              sandbox.path(QStringLiteral("last/onlyhere")));
+    EXPECT_EQ(await(services.runner.findProgram(QStringLiteral("node")))->value(),
+              sandbox.binDirectory() + QStringLiteral("/node"));
+    EXPECT_FALSE(await(services.runner.findProgram(QStringLiteral("first/mytool")))->ok());
+}
+
 TEST_F(LoginEnvironmentTest, OddValuesArriveByteForByte)
 {
     // Line breaks, '=' and bytes that are not UTF-8: set by a start-up file, and by the

@@ -148,10 +148,11 @@ TEST_F(ToolRemoverTest, TheAdministratorsRemovalFindsNodeOnItsOwnSearchPath)
 
 TEST_F(ToolRemoverTest, UninstallThatCannotLookAfterwardsSaysSo)
 {
-    // A shell that cannot start: the removal is noted, and since the search for the tool
-    // could not run either, nobody is told the tool is gone.
+    // A shell that cannot start, the login shell included: the removal is noted, and since
+    // the search for the tool could not run either, nobody is told the tool is gone.
     ShellRunner::Configuration brokenShell = sandbox.shellConfiguration();
     brokenShell.shell = QStringLiteral("/nonexistent/zsh");
+    platform.terminalShell = brokenShell.shell;
     Services broken(platform, brokenShell);
     QString log;
     const auto result = await(broken.remover.uninstall(CLITool::codex, [&](const QString& t) { log += t; }));
