@@ -32,8 +32,14 @@ void Platform::openURL(const QUrl& url) { QDesktopServices::openUrl(url); }
 QStringList Platform::loginShellInvocation(const QString& line) const
 {
     const QString shell = loginShell();
-    if (QFileInfo(shell).fileName().endsWith(QLatin1String("csh")))
+    const QString name = QFileInfo(shell).fileName();
+    if (name.endsWith(QLatin1String("csh")))
         return {shell, QStringLiteral("-c"), line};
+    // A terminal window's shell is interactive too, and reads what only interactive shells
+    // read: ~/.zshrc, and ~/.bashrc past its usual "not interactive: stop here" line, where
+    // version managers and conda put their search-path lines.
+    if (name == QLatin1String("zsh") || name == QLatin1String("bash") || name == QLatin1String("fish"))
+        return {shell, QStringLiteral("-l"), QStringLiteral("-i"), QStringLiteral("-c"), line};
     return {shell, QStringLiteral("-l"), QStringLiteral("-c"), line};
 }
 

@@ -150,8 +150,9 @@ public:
     virtual QString loginShell() const = 0;
     // The program and arguments that run `line` in the user's shell started as a login shell,
     // without a terminal, so that it reads the start-up files that give a terminal its
-    // environment: "-l -c", except csh and tcsh, which take "-l" only alone and run it with "-c"
-    // (reading ~/.cshrc or ~/.tcshrc).
+    // environment: "-l -i -c" for zsh, bash and fish (interactive, as a terminal's shell is),
+    // "-l -c" for other shells, except csh and tcsh, which take "-l" only alone and run it
+    // with "-c" (reading ~/.cshrc or ~/.tcshrc).
     virtual QStringList loginShellInvocation(const QString& line) const;
     // Whether a new terminal window starts it as a login shell (bash then reads
     // ~/.bash_profile instead of ~/.bashrc).

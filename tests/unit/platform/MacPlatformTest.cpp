@@ -92,8 +92,8 @@ TEST(MacPlatformTerminal, LaunchFailureIsOneDiagnosticLine)
     EXPECT_TRUE(text.endsWith(QLatin1Char('\n')));
 }
 
-// The environment of commands comes from the account's shell as a login shell: zsh when the
-// account names none that can run.
+// The environment of commands comes from the account's shell as an interactive login shell:
+// zsh when the account names none that can run.
 TEST(MacPlatformShell, TheLoginEnvironmentComesFromTheAccountsShell)
 {
     QTemporaryDir folder;
@@ -102,16 +102,20 @@ TEST(MacPlatformShell, TheLoginEnvironmentComesFromTheAccountsShell)
     {
         qf::test::ScopedEnv shell("SHELL", folder.filePath(QStringLiteral("missing")).toUtf8());
         EXPECT_EQ(MacPlatform().loginShellInvocation(line),
-                  (QStringList{QStringLiteral("/bin/zsh"), QStringLiteral("-l"), QStringLiteral("-c"), line}));
+                  (QStringList{QStringLiteral("/bin/zsh"), QStringLiteral("-l"), QStringLiteral("-i"),
+                               QStringLiteral("-c"), line}));
     }
-    for (const char* name : {"bash", "tcsh"}) {
+    for (const char* name : {"bash", "tcsh", "ksh"}) {
         const QString path = folder.filePath(QLatin1String(name));
         ASSERT_TRUE(qf::test::writeExecutable(path, "#!/bin/sh\n"));
         qf::test::ScopedEnv shell("SHELL", path.toUtf8());
-        // csh and tcsh take "-l" only alone.
-        const QStringList expected = QLatin1String(name) == QLatin1String("tcsh")
-                                         ? QStringList{path, QStringLiteral("-c"), line}
-                                         : QStringList{path, QStringLiteral("-l"), QStringLiteral("-c"), line};
+        // csh and tcsh take "-l" only alone; a shell not known to take "-i" with "-c" gets "-l".
+        const QString which = QLatin1String(name);
+        const QStringList expected =
+            which == QLatin1String("tcsh")  ? QStringList{path, QStringLiteral("-c"), line}
+            : which == QLatin1String("ksh") ? QStringList{path, QStringLiteral("-l"), QStringLiteral("-c"), line}
+                                            : QStringList{path, QStringLiteral("-l"), QStringLiteral("-i"),
+                                                          QStringLiteral("-c"), line};
         EXPECT_EQ(MacPlatform().loginShellInvocation(line), expected);
         EXPECT_EQ(qf::LinuxPlatform().loginShellInvocation(line), expected);
     }

@@ -356,6 +356,19 @@ TEST_F(LoginEnvironmentTest, ProgramsAreFoundWithoutAShellExactlyWhereWhichFinds
     EXPECT_FALSE(await(services.runner.findProgram(QStringLiteral("first/mytool")))->ok());
 }
 
+TEST_F(LoginEnvironmentTest, AZshAccountsZshrcCountsAsATerminalsShellReadsIt)
+{
+    // Version managers put their lines in ~/.zshrc, which only an interactive zsh reads.
+    sandbox.writeFile(QStringLiteral(".zshrc"), QByteArray("PATH=\"$HOME/rc/bin:$PATH\"\n") + kCountingProfile);
+    sandbox.writeFile(QStringLiteral("rc/bin/fromrc"), "#!/bin/sh\necho rc\n");
+    QFile::setPermissions(sandbox.path(QStringLiteral("rc/bin/fromrc")), QFileDevice::ReadOwner | QFileDevice::ExeOwner);
+
+    EXPECT_EQ(await(services.runner.findProgram(QStringLiteral("fromrc")))->value(),
+              sandbox.path(QStringLiteral("rc/bin/fromrc")));
+    EXPECT_EQ(run(services.runner, QStringLiteral("fromrc")).value(), QStringLiteral("rc"));
+    EXPECT_EQ(startupReads(), 1);
+}
+
 TEST_F(LoginEnvironmentTest, OddValuesArriveByteForByte)
 {
     // Line breaks, '=' and bytes that are not UTF-8: set by a start-up file, and by the
