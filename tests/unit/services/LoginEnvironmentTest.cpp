@@ -361,7 +361,8 @@ TEST_F(LoginEnvironmentTest, AZshAccountsZshrcCountsAsATerminalsShellReadsIt)
     // Version managers put their lines in ~/.zshrc, which only an interactive zsh reads.
     sandbox.writeFile(QStringLiteral(".zshrc"), QByteArray("PATH=\"$HOME/rc/bin:$PATH\"\n") + kCountingProfile);
     sandbox.writeFile(QStringLiteral("rc/bin/fromrc"), "#!/bin/sh\necho rc\n");
-    QFile::setPermissions(sandbox.path(QStringLiteral("rc/bin/fromrc")), QFileDevice::ReadOwner | QFileDevice::ExeOwner);
+    QFile::setPermissions(sandbox.path(QStringLiteral("rc/bin/fromrc")),
+                          QFileDevice::ReadOwner | QFileDevice::ExeOwner);
 
     EXPECT_EQ(await(services.runner.findProgram(QStringLiteral("fromrc")))->value(),
               sandbox.path(QStringLiteral("rc/bin/fromrc")));
