@@ -85,8 +85,8 @@ public:
     {
         const QString name = QFileInfo(terminalShell).fileName();
         if (name == QLatin1String("zsh"))
-            return {terminalShell, QStringLiteral("-d"), QStringLiteral("-l"), QStringLiteral("-i"), QStringLiteral("-c"),
-                    line};
+            return {terminalShell,        QStringLiteral("-d"), QStringLiteral("-l"),
+                    QStringLiteral("-i"), QStringLiteral("-c"), line};
         if (name == QLatin1String("bash") || name == QLatin1String("dash") || name == QLatin1String("sh")) {
             const QString files = name == QLatin1String("bash")
                                       ? QStringLiteral("~/.bash_profile ~/.bash_login ~/.profile")

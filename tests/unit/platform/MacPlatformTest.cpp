@@ -111,11 +111,11 @@ TEST(MacPlatformShell, TheLoginEnvironmentComesFromTheAccountsShell)
         qf::test::ScopedEnv shell("SHELL", path.toUtf8());
         // csh and tcsh take "-l" only alone; a shell not known to take "-i" with "-c" gets "-l".
         const QString which = QLatin1String(name);
-        const QStringList expected =
-            which == QLatin1String("tcsh")  ? QStringList{path, QStringLiteral("-c"), line}
-            : which == QLatin1String("ksh") ? QStringList{path, QStringLiteral("-l"), QStringLiteral("-c"), line}
-                                            : QStringList{path, QStringLiteral("-l"), QStringLiteral("-i"),
-                                                          QStringLiteral("-c"), line};
+        const QStringList expected = which == QLatin1String("tcsh") ? QStringList{path, QStringLiteral("-c"), line}
+                                     : which == QLatin1String("ksh")
+                                         ? QStringList{path, QStringLiteral("-l"), QStringLiteral("-c"), line}
+                                         : QStringList{path, QStringLiteral("-l"), QStringLiteral("-i"),
+                                                       QStringLiteral("-c"), line};
         EXPECT_EQ(MacPlatform().loginShellInvocation(line), expected);
         EXPECT_EQ(qf::LinuxPlatform().loginShellInvocation(line), expected);
     }
