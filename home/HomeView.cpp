@@ -7,6 +7,7 @@
 #include "Services.h"
 #include "ToolCards.h"
 #include "UninstallSheets.h"
+#include "UpdateSheet.h"
 
 #include "ActivityIndicator.h"
 #include "Button.h"
@@ -146,13 +147,33 @@ HomeView::HomeView(InstallationState& state, Services& services, QWidget* parent
             [this, tool] {
                 m_toolToUninstall = tool;
                 renderSheets();
-            });
+            },
+            [this, tool] { updateTool(tool); });
         card->onHoverChanged = [this, key = tool.rawValue()](bool inside) { hoverChanged(key, inside); };
         aiCards->addWidget(card);
         m_aiCards << card;
     }
     m_sectionHeaders << new SectionHeader(tr("AI Assistants"), QStringLiteral("sparkles"), Tint(Role::purple));
-    addSection(lists, m_sectionHeaders.last(), aiCards);
+    // Beside the header, at its end: what a check for updates found, and the way to check now.
+    auto* updateRow = hstack(10);
+    m_updateStatusLabel = new Label(QString(), Theme::font(12), Tint(Role::secondary));
+    m_updateStatusLabel->setObjectName(QStringLiteral("updateStatus"));
+    m_updateStatusLabel->setWrapping(true);
+    m_updateStatusLabel->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    updateRow->addWidget(m_updateStatusLabel, 1, Qt::AlignVCenter);
+    m_checkUpdates = new Button(tr("Check for Updates"), Button::Style::plain);
+    m_checkUpdates->setObjectName(QStringLiteral("checkForUpdatesButton"));
+    m_checkUpdates->setTitleFont(Theme::font(12, QFont::Medium));
+    m_checkUpdates->setContentTint(Tint(Role::accent));
+    connect(m_checkUpdates, &QAbstractButton::clicked, this, [this] { checkForUpdates(true); });
+    updateRow->addWidget(m_checkUpdates, 0, Qt::AlignVCenter);
+    auto* aiHeader = hstack(12);
+    aiHeader->addWidget(m_sectionHeaders.last(), 0, Qt::AlignVCenter);
+    aiHeader->addLayout(updateRow, 1);
+    auto* aiSection = vstack(16, sides(spacing::dashboardSide));
+    aiSection->addLayout(aiHeader);
+    aiSection->addLayout(aiCards);
+    lists->addLayout(aiSection);
     column->addLayout(lists);
     column->addStretch(1);
 
@@ -199,6 +220,44 @@ void HomeView::loadData()
                            returnFocus();
                        focusUnlessTaken(this, mainControl());
                        Q_EMIT loadFinished();
+                       checkForUpdates(false);
+                   });
+}
+
+void HomeView::checkForUpdates(bool force)
+{
+    if (m_checkingUpdates || m_isLoading)
+        return;
+    // The versions belong to the tools found now: a tool no longer there loses its badge.
+    m_updates.erase(std::remove_if(m_updates.begin(), m_updates.end(),
+                                   [this](const ToolUpdateInfo& info) { return !m_installedTools.contains(info.tool); }),
+                    m_updates.end());
+    m_updateStatus.clear();
+    if (m_installedTools.isEmpty()) {
+        render();
+        return;
+    }
+    m_checkingUpdates = true;
+    render();
+    const int generation = ++m_updateGeneration;
+    QCoro::connect(m_services.updateChecker.check(m_installedTools, force), this,
+                   [this, generation, force](QList<ToolUpdateInfo> infos) {
+                       if (generation != m_updateGeneration)
+                           return;
+                       m_checkingUpdates = false;
+                       const bool anyUpdate = std::any_of(infos.cbegin(), infos.cend(),
+                                                          [](const ToolUpdateInfo& info) { return info.updateAvailable(); });
+                       const bool allKnown = std::all_of(infos.cbegin(), infos.cend(), [](const ToolUpdateInfo& info) {
+                           return info.latestVersion.has_value();
+                       });
+                       // Only a check someone asked for says that nothing came of it.
+                       if (force && !anyUpdate)
+                           m_updateStatus = allKnown ? tr("Everything is up to date.")
+                                                     : tr("Could not check for updates. Check that you are online, "
+                                                          "then try again.");
+                       m_updates = std::move(infos);
+                       render();
+                       Q_EMIT updatesChecked();
                    });
 }
 
@@ -248,8 +307,20 @@ void HomeView::render()
     }
     for (AIToolCard* card : std::as_const(m_aiCards)) {
         card->setInstalled(m_installedTools.contains(card->tool()));
+        const auto info = std::find_if(m_updates.cbegin(), m_updates.cend(),
+                                       [card](const ToolUpdateInfo& update) { return update.tool == card->tool(); });
+        if (info == m_updates.cend())
+            card->setVersions(std::nullopt, std::nullopt);
+        else
+            card->setVersions(info->installedVersion,
+                              info->updateAvailable() ? info->latestVersion : std::optional<QString>());
         card->setHovered(m_hoveredKey == card->tool().rawValue());
     }
+    m_checkUpdates->setVisible(!m_isLoading && !m_installedTools.isEmpty());
+    m_checkUpdates->setEnabled(!m_checkingUpdates);
+    m_checkUpdates->setTitle(m_checkingUpdates ? tr("Checking for Updates...") : tr("Check for Updates"));
+    m_updateStatusLabel->setVisible(!m_isLoading && !m_updateStatus.isEmpty());
+    m_updateStatusLabel->setText(m_updateStatus);
 }
 
 void HomeView::hoverChanged(const QString& key, bool inside)
@@ -272,6 +343,12 @@ void HomeView::installTool(CLITool tool)
 {
     m_state.setSelectedTool(tool);
     m_state.setCurrentStep(InstallationStep::accountSetup);
+}
+
+void HomeView::updateTool(CLITool tool)
+{
+    m_toolToUpdate = tool;
+    renderSheets();
 }
 
 void HomeView::returnFocus()
@@ -309,7 +386,7 @@ RemovalSheet* HomeView::sheet() const { return m_aiSheet ? m_aiSheet.data() : m_
 void HomeView::renderSheets()
 {
     // A sheet shows while its field holds an item; closing it, by any means, clears the field.
-    const auto present = [this](RemovalSheet* sheet, auto& field) {
+    const auto present = [this](QDialog* sheet, auto& field) {
         m_sheetOpener = window()->focusWidget();
         m_sheetCard = nullptr;
         for (QWidget* up = m_sheetOpener; up && !m_sheetCard; up = up->parentWidget())
@@ -340,6 +417,18 @@ void HomeView::renderSheets()
         m_systemSheet = new SystemToolUninstallSheet(*m_systemToolToUninstall, m_services.supportTools, m_services.logs,
                                                      reload, flags, window());
         present(m_systemSheet, m_systemToolToUninstall);
+    }
+    if (m_toolToUpdate && !m_updateSheet) {
+        const CLITool tool = *m_toolToUpdate;
+        const auto info = std::find_if(m_updates.cbegin(), m_updates.cend(),
+                                       [tool](const ToolUpdateInfo& update) { return update.tool == tool; });
+        if (info == m_updates.cend() || !info->latestVersion) {
+            m_toolToUpdate.reset();
+            return;
+        }
+        m_updateSheet = new UpdateSheet(tool, info->installedVersion, *info->latestVersion, m_services.updater,
+                                        m_services.logs, reload, flags, window());
+        present(m_updateSheet, m_toolToUpdate);
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "CLITool.h"
 #include "SystemToolAction.h"
+#include "UpdateChecker.h"
 
 #include <QList>
 #include <QPointer>
@@ -20,14 +21,19 @@ class RemovalSheet;
 class SectionHeader;
 class Services;
 class SystemToolCard;
+class UpdateSheet;
 
 namespace ui {
+class Button;
+class Label;
 class ScrollView;
-}
+} // namespace ui
 
 // The dashboard of returning users: which AI tools and supporting items this machine has,
 // with one click to open, install, create or remove each. It loads when it first appears,
-// again after a removal is done and after the projects folder was created.
+// again after a removal or an update is done and after the projects folder was created. Once
+// loaded, it asks in the background whether the installed AI tools have newer versions (at
+// most once a day, unless "Check for Updates" is pressed) and offers each update on its card.
 class HomeView : public QWidget {
     Q_OBJECT
 
@@ -45,12 +51,22 @@ public:
     const std::optional<QString>& hoveredKey() const { return m_hoveredKey; }
     // The open removal sheet, if any.
     RemovalSheet* sheet() const;
+    // The open update sheet, if any.
+    UpdateSheet* updateSheet() const { return m_updateSheet; }
+
+    // Asks whether the installed AI tools have newer versions; `force` asks the registry even
+    // when it was asked today. Nothing happens while a check runs.
+    void checkForUpdates(bool force);
+    bool isCheckingForUpdates() const { return m_checkingUpdates; }
+    const QList<ToolUpdateInfo>& updates() const { return m_updates; }
 
     static constexpr int listAppearMs = 300;
 
 Q_SIGNALS:
     // The newest load's results are on screen.
     void loadFinished();
+    // The newest check for updates is on screen.
+    void updatesChecked();
     // "About Quillforge" was pressed (on systems whose application menu does not hold it).
     void aboutRequested();
 
@@ -68,6 +84,7 @@ private:
     void hoverChanged(const QString& key, bool inside);
     void openTool(CLITool tool);
     void installTool(CLITool tool);
+    void updateTool(CLITool tool);
     // The focus goes back to what opened a sheet once it closed (after the reload "Done" asks
     // for): to that control, or to its card's first control when the removal took it away.
     void returnFocus();
@@ -83,6 +100,13 @@ private:
     bool m_isLoading = true;
     bool m_isFirstTimeUser = false;
     std::optional<CLITool> m_toolToUninstall;
+    std::optional<CLITool> m_toolToUpdate;
+    QList<ToolUpdateInfo> m_updates;
+    bool m_checkingUpdates = false;
+    // What the newest forced check has to say when it shows no update: all up to date, or
+    // that it could not ask.
+    QString m_updateStatus;
+    int m_updateGeneration = 0;
     std::optional<SystemTool> m_systemToolToUninstall;
     std::optional<QString> m_hoveredKey;
     bool m_appeared = false;
@@ -99,6 +123,9 @@ private:
     QList<SectionHeader*> m_sectionHeaders;
     QPointer<RemovalSheet> m_aiSheet;
     QPointer<RemovalSheet> m_systemSheet;
+    QPointer<UpdateSheet> m_updateSheet;
+    ui::Button* m_checkUpdates;
+    ui::Label* m_updateStatusLabel;
     QHBoxLayout* m_fallbackRow = nullptr;
     QPointer<QWidget> m_fallback;
     QPointer<QWidget> m_sheetOpener;

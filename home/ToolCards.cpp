@@ -151,7 +151,7 @@ void DashboardCard::leaveEvent(QEvent* event)
 // MARK: AIToolCard
 
 AIToolCard::AIToolCard(CLITool tool, std::function<void()> onOpen, std::function<void()> onInstall,
-                       std::function<void()> onUninstall, QWidget* parent)
+                       std::function<void()> onUninstall, std::function<void()> onUpdate, QWidget* parent)
     : DashboardCard(parent), m_tool(tool)
 {
     setObjectName(QStringLiteral("aiToolCard.") + tool.rawValue());
@@ -174,6 +174,12 @@ AIToolCard::AIToolCard(CLITool tool, std::function<void()> onOpen, std::function
     title->addWidget(name, 0, Qt::AlignVCenter);
     m_badge = new StatusBadge(tr("Installed"), Tint(Role::green));
     title->addWidget(m_badge, 0, Qt::AlignVCenter);
+    m_versionBadge = new StatusBadge(QString(), Tint(Role::secondary));
+    m_versionBadge->setObjectName(QStringLiteral("versionBadge"));
+    title->addWidget(m_versionBadge, 0, Qt::AlignVCenter);
+    m_updateBadge = new StatusBadge(QString(), Tint(Role::accent));
+    m_updateBadge->setObjectName(QStringLiteral("updateBadge"));
+    title->addWidget(m_updateBadge, 0, Qt::AlignVCenter);
     title->addStretch(1);
     text->addLayout(title);
     auto* description = new Label(tool.toolDescription(), Theme::font(12), Tint(Role::secondary));
@@ -183,6 +189,10 @@ AIToolCard::AIToolCard(CLITool tool, std::function<void()> onOpen, std::function
     row->addLayout(text, 1);
 
     auto* buttons = hstack(8);
+    m_updateButton = new ActionButton(tr("Update"), QStringLiteral("arrow.down.circle"), Tint(Role::accent), false,
+                                      false, std::move(onUpdate));
+    m_updateButton->setObjectName(QStringLiteral("updateButton"));
+    m_updateButton->setAccessibleName(tr("Update %1").arg(tool.displayName()));
     m_open = new ActionButton(tr("Open"), QStringLiteral("terminal"), Tint(tool.brandColor()), false, false,
                               std::move(onOpen));
     m_open->setObjectName(QStringLiteral("openButton"));
@@ -192,7 +202,9 @@ AIToolCard::AIToolCard(CLITool tool, std::function<void()> onOpen, std::function
                                  std::move(onInstall));
     m_install->setObjectName(QStringLiteral("installButton"));
     m_install->setAccessibleName(tr("Install %1").arg(tool.displayName()));
-    // "Open" or "Install", then the remove button's place: the actions of every card line up.
+    // "Update" when there is one, "Open" or "Install", then the remove button's place: the
+    // actions of every card line up at the end.
+    buttons->addWidget(m_updateButton, 0, Qt::AlignVCenter);
     buttons->addWidget(m_open, 0, Qt::AlignVCenter);
     buttons->addWidget(m_install, 0, Qt::AlignVCenter);
     buttons->addWidget(remove, 0, Qt::AlignVCenter);
@@ -209,12 +221,33 @@ void AIToolCard::setInstalled(bool installed)
     render();
 }
 
+void AIToolCard::setVersions(const std::optional<QString>& installed, const std::optional<QString>& update)
+{
+    if (installed == m_version && update == m_update)
+        return;
+    m_version = installed;
+    m_update = update;
+    render();
+}
+
 void AIToolCard::render()
 {
+    const bool hasVersion = m_installed && m_version && !m_version->isEmpty();
+    const bool hasUpdate = m_installed && m_update.has_value();
     m_badge->setVisible(m_installed);
+    m_versionBadge->setVisible(hasVersion);
+    m_versionBadge->setText(m_version.value_or(QString()));
+    m_updateBadge->setVisible(hasUpdate);
+    m_updateBadge->setText(tr("Update available: %1").arg(m_update.value_or(QString())));
+    m_updateButton->setVisible(hasUpdate);
     m_open->setVisible(m_installed);
     m_install->setVisible(!m_installed);
-    setAccessibleDescription(m_installed ? tr("Installed") : tr("Not installed"));
+    QStringList state{m_installed ? tr("Installed") : tr("Not installed")};
+    if (hasVersion)
+        state << *m_version;
+    if (hasUpdate)
+        state << tr("Update available: %1").arg(*m_update);
+    setAccessibleDescription(state.join(QStringLiteral(", ")));
     renderRemoveButton();
     renderHover(hoverProgress());
 }

@@ -91,18 +91,23 @@ private:
     ui::motion::Transition m_removeOpacity;
 };
 
-// The card of one AI tool: logo, name, "Installed", description, and "Open" (with the remove
-// button beside it) or "Install".
+// The card of one AI tool: logo, name, "Installed" with the installed version, description,
+// and "Open" (with the remove button beside it) or "Install". An installed tool with a newer
+// version published shows "Update available: <version>" and an "Update" button before "Open".
 class AIToolCard : public DashboardCard {
     Q_OBJECT
 
 public:
     AIToolCard(CLITool tool, std::function<void()> onOpen, std::function<void()> onInstall,
-               std::function<void()> onUninstall, QWidget* parent = nullptr);
+               std::function<void()> onUninstall, std::function<void()> onUpdate, QWidget* parent = nullptr);
 
     CLITool tool() const { return m_tool; }
     bool isInstalled() const { return m_installed; }
     void setInstalled(bool installed);
+    // The version the tool reports, and the newer one it may be updated to (nothing: none
+    // known); both only shown while the tool is installed.
+    void setVersions(const std::optional<QString>& installed, const std::optional<QString>& update);
+    const std::optional<QString>& availableUpdate() const { return m_update; }
 
 protected:
     bool canRemove() const override { return m_installed; }
@@ -113,8 +118,13 @@ private:
 
     CLITool m_tool;
     bool m_installed = false;
+    std::optional<QString> m_version;
+    std::optional<QString> m_update;
     ui::ImageView* m_logo;
     StatusBadge* m_badge;
+    StatusBadge* m_versionBadge;
+    StatusBadge* m_updateBadge;
+    ActionButton* m_updateButton;
     ActionButton* m_open;
     ActionButton* m_install;
 };

@@ -1,0 +1,298 @@
+#include "UpdateSheet.h"
+
+#include "BoundedLog.h"
+#include "LogFile.h"
+#include "ToolUpdater.h"
+
+#include "ActivityIndicator.h"
+#include "Button.h"
+#include "FocusOrder.h"
+#include "FocusRing.h"
+#include "IconTile.h"
+#include "Label.h"
+#include "Layout.h"
+#include "LogView.h"
+#include "RoundedCard.h"
+
+#include <QClipboard>
+#include <QCoro/QCoroTask>
+#include <QGuiApplication>
+#include <QPointer>
+
+namespace qf {
+
+using namespace ui;
+
+namespace {
+
+constexpr int kSheetWidth = 440;
+constexpr int kSheetHeight = 340;
+
+QHBoxLayout* padded(QWidget* widget)
+{
+    auto* row = hstack(0, sides(spacing::sheetSide));
+    row->addWidget(widget);
+    return row;
+}
+
+Button* sheetButton(const QString& title, Button::Style style, const char* objectName)
+{
+    auto* button = new Button(title, style, Button::Size::large);
+    button->setObjectName(QString::fromLatin1(objectName));
+    button->setMinimumLabelWidth(72);
+    return button;
+}
+
+} // namespace
+
+UpdateSheet::UpdateSheet(CLITool tool, std::optional<QString> currentVersion, QString newVersion,
+                         ToolUpdater& updater, const LogBook& logs, std::function<void()> onComplete,
+                         Qt::WindowFlags flags, QWidget* parent)
+    : QDialog(parent, flags),
+      m_tool(tool),
+      m_current(std::move(currentVersion)),
+      m_new(std::move(newVersion)),
+      m_updater(updater),
+      m_logs(logs),
+      m_logFile(std::make_shared<LogFile>()),
+      m_onComplete(std::move(onComplete))
+{
+    setObjectName(QStringLiteral("updateSheet"));
+    setWindowModality(Qt::WindowModal);
+    setWindowTitle(tr("Update %1").arg(tool.displayName()));
+    FocusRing::attach(this);
+    setFixedSize(kSheetWidth, kSheetHeight);
+
+    auto* column = vstack(this, 20, QMargins(0, 24, 0, 24));
+    column->addStretch(1);
+
+    // Header: the state icon, the title and what is about to happen.
+    auto* header = vstack(14);
+    m_icon = new IconTile(QSize(64, 64), Shape::circle(), Tint(Role::accent, 0.12));
+    m_icon->setObjectName(QStringLiteral("sheetStateIcon"));
+    auto* iconContent = vstack(m_icon, 0);
+    m_spinner = new ActivityIndicator(22, Tint(Role::secondary));
+    m_symbol = new SymbolView(QStringLiteral("arrow.down.circle"), 28, Tint(Role::accent));
+    m_symbol->setObjectName(QStringLiteral("sheetSymbol"));
+    iconContent->addWidget(m_spinner, 0, Qt::AlignCenter);
+    iconContent->addWidget(m_symbol, 0, Qt::AlignCenter);
+    header->addWidget(m_icon, 0, Qt::AlignHCenter);
+    m_title = new Label(QString(), Theme::font(18, QFont::Bold));
+    m_title->setObjectName(QStringLiteral("sheetTitle"));
+    m_title->setAlignment(Qt::AlignHCenter);
+    header->addWidget(m_title, 0, Qt::AlignHCenter);
+    m_description = new Label(QString(), Theme::font(13), Tint(Role::secondary));
+    m_description->setObjectName(QStringLiteral("sheetDescription"));
+    m_description->setAlignment(Qt::AlignHCenter);
+    m_description->setWrapping(true);
+    auto* descriptionRow = hstack(0, sides(16));
+    descriptionRow->addWidget(m_description);
+    header->addLayout(descriptionRow);
+    column->addLayout(header);
+
+    // The live log, with a way to copy all of it.
+    m_logSection = new QWidget;
+    m_logSection->setObjectName(QStringLiteral("logSection"));
+    auto* logColumn = vstack(m_logSection, 6);
+    auto* logHeader = hstack(8);
+    logHeader->addStretch(1);
+    auto* copyLog = new Button(tr("Copy Log"), Button::Style::plain);
+    copyLog->setObjectName(QStringLiteral("copyLogButton"));
+    copyLog->setTitleFont(Theme::caption());
+    copyLog->setLeadingSymbol(QStringLiteral("doc.on.clipboard"), 10);
+    copyLog->setSpacing(4);
+    copyLog->setToolTip(tr("Copy the whole log"));
+    connect(copyLog, &QAbstractButton::clicked, this, [this] { QGuiApplication::clipboard()->setText(m_output); });
+    logHeader->addWidget(copyLog);
+    logColumn->addLayout(logHeader);
+    m_log = new LogView;
+    m_log->setObjectName(QStringLiteral("logView"));
+    m_log->setFixedHeight(110);
+    m_log->setLimit(BoundedLog::kDefaultLimit, BoundedLog::cutNotice());
+    logColumn->addWidget(m_log);
+    column->addLayout(padded(m_logSection));
+
+    // The error row.
+    auto* errorCard = new RoundedCard;
+    errorCard->setObjectName(QStringLiteral("errorRow"));
+    errorCard->setCornerRadius(8);
+    errorCard->setFill(Tint(Role::orange, 0.10));
+    auto* errorLayout = hstack(errorCard, 8, around(spacing::boxPadding));
+    errorLayout->addWidget(new SymbolView(QStringLiteral("exclamationmark.triangle.fill"), 13, Tint(Role::orange)), 0,
+                           Qt::AlignTop);
+    m_error = new Label(QString(), Theme::font(12), Tint(Role::secondary));
+    m_error->setObjectName(QStringLiteral("errorMessage"));
+    m_error->setWrapping(true);
+    m_error->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    errorLayout->addWidget(m_error, 1, Qt::AlignVCenter);
+    m_errorRow = errorCard;
+    column->addLayout(padded(m_errorRow));
+
+    // The buttons.
+    auto* buttons = hstack(12, sides(spacing::sheetSide));
+    buttons->addStretch(1);
+    m_cancel = sheetButton(tr("Cancel"), Button::Style::bordered, "cancelButton");
+    connect(m_cancel, &QAbstractButton::clicked, this, [this] { QDialog::reject(); });
+    m_update = sheetButton(tr("Update"), Button::Style::prominent, "updateButton");
+    connect(m_update, &QAbstractButton::clicked, this, [this] { start(false); });
+    m_retry = sheetButton(tr("Try Again"), Button::Style::prominent, "tryAgainButton");
+    connect(m_retry, &QAbstractButton::clicked, this, [this] { start(false); });
+    m_installNode = sheetButton(tr("Install Node.js and Update"), Button::Style::prominent, "installNodeButton");
+    connect(m_installNode, &QAbstractButton::clicked, this, [this] { start(true); });
+    m_done = sheetButton(tr("Done"), Button::Style::prominent, "doneButton");
+    connect(m_done, &QAbstractButton::clicked, this, [this] {
+        if (m_onComplete)
+            m_onComplete();
+        accept();
+    });
+    for (Button* button : {m_cancel, m_update, m_retry, m_installNode, m_done})
+        buttons->addWidget(button);
+    buttons->addStretch(1);
+    column->addLayout(buttons);
+    column->addStretch(1);
+    orderTabChain(this);
+    render();
+}
+
+UpdateSheet::~UpdateSheet() = default;
+
+Button* UpdateSheet::mainButton() const
+{
+    for (Button* button : {m_done, m_update, m_installNode, m_retry, m_cancel}) {
+        if (button->isVisibleTo(this))
+            return button;
+    }
+    return nullptr;
+}
+
+void UpdateSheet::reject()
+{
+    // Escape and the window's close button act as "Cancel", and only while it is offered.
+    if (m_cancel->isVisibleTo(this))
+        QDialog::reject();
+}
+
+void UpdateSheet::start(bool installNodeFirst)
+{
+    m_phase = Phase::updating;
+    m_errorMessage.reset();
+    m_needsNode = false;
+    m_output.clear();
+    m_log->clear();
+    m_logFile = m_logs.start(tr("Update %1").arg(m_tool.displayName()));
+    render();
+    // The update may outlive the sheet (the window closes): its output then goes to the log
+    // file only.
+    const QPointer<UpdateSheet> self(this);
+    auto sink = [self, file = m_logFile](const QString& text) {
+        file->append(text);
+        if (self)
+            self->append(text);
+    };
+    auto task = installNodeFirst ? m_updater.installNodeThenUpdate(m_tool, std::move(sink))
+                                 : m_updater.update(m_tool, std::move(sink));
+    QCoro::connect(std::move(task), this, [this](const Result<UpdateOutcome>& result) { finished(result); });
+}
+
+void UpdateSheet::finished(const Result<UpdateOutcome>& result)
+{
+    if (result) {
+        m_phase = Phase::complete;
+        m_verified = result.value().newVersion;
+        render();
+        return;
+    }
+    const ServiceError& error = result.error();
+    if (error.isDeclined()) {
+        // Nobody said yes to the password dialog: nothing happened, the question stands.
+        m_phase = Phase::confirm;
+        render();
+        return;
+    }
+    const QString plain = error.plainDescription();
+    if (error.errorDescription() != plain) {
+        const QString detail = QStringLiteral("\nError: ") + error.errorDescription() + QLatin1Char('\n');
+        m_logFile->append(detail);
+        append(detail);
+    }
+    m_phase = Phase::failed;
+    m_errorMessage = plain;
+    m_needsNode = error.requiredNodeMajor() > 0;
+    render();
+}
+
+void UpdateSheet::append(const QString& text)
+{
+    const bool wasEmpty = m_output.isEmpty();
+    m_output += text;
+    m_log->append(text);
+    if (wasEmpty)
+        render();
+}
+
+void UpdateSheet::render()
+{
+    const QString name = m_tool.displayName();
+    const QWidget* focused = focusWidget();
+    const bool focusOnButton = !focused || qobject_cast<const Button*>(focused) != nullptr;
+
+    const bool complete = m_phase == Phase::complete;
+    const bool failed = m_phase == Phase::failed;
+    const bool updating = m_phase == Phase::updating;
+    m_icon->setFill(complete ? Tint(Role::green, 0.15) : failed ? Tint(Role::orange, 0.12) : Tint(Role::accent, 0.12));
+    m_spinner->setVisible(updating);
+    m_symbol->setVisible(!updating);
+    if (complete) {
+        m_symbol->setName(QStringLiteral("checkmark"));
+        m_symbol->setWeight(SymbolWeight::bold);
+        m_symbol->setTint(Tint(Role::green));
+    } else if (failed) {
+        m_symbol->setName(QStringLiteral("exclamationmark"));
+        m_symbol->setWeight(SymbolWeight::bold);
+        m_symbol->setTint(Tint(Role::orange));
+    } else {
+        m_symbol->setName(QStringLiteral("arrow.down.circle"));
+        m_symbol->setWeight(SymbolWeight::regular);
+        m_symbol->setTint(Tint(Role::accent));
+    }
+
+    switch (m_phase) {
+    case Phase::confirm:
+        m_title->setText(tr("Update %1?").arg(name));
+        m_description->setText(
+            m_current ? tr("%1 goes from version %2 to %3. Your settings and sign-in stay as they are.")
+                            .arg(name, *m_current, m_new)
+                      : tr("%1 is updated to version %2. Your settings and sign-in stay as they are.").arg(name, m_new));
+        break;
+    case Phase::updating:
+        m_title->setText(tr("Updating %1...").arg(name));
+        m_description->setText(tr("This usually takes less than a minute."));
+        break;
+    case Phase::complete:
+        m_title->setText(tr("Update Complete"));
+        m_description->setText(tr("%1 %2 is installed and starts as before.").arg(name, m_verified));
+        break;
+    case Phase::failed: m_title->setText(tr("Update Failed")); break;
+    }
+    m_description->setVisible(!failed);
+
+    m_logSection->setVisible(!m_output.isEmpty() && m_phase != Phase::confirm);
+    m_errorRow->setVisible(m_errorMessage.has_value());
+    m_error->setText(m_errorMessage.value_or(QString()));
+
+    m_cancel->setVisible(!updating && !complete);
+    m_update->setVisible(m_phase == Phase::confirm);
+    m_retry->setVisible(failed && !m_needsNode);
+    m_installNode->setVisible(failed && m_needsNode);
+    m_done->setVisible(complete);
+    if (Button* main = mainButton(); main && (focusOnButton || !focusWidget()->isVisibleTo(this)))
+        main->setFocus(Qt::OtherFocusReason);
+
+    // The sheet keeps its size unless its content needs more room; nothing is ever cut off.
+    layout()->activate();
+    const int needed = layout()->hasHeightForWidth() ? layout()->totalHeightForWidth(kSheetWidth)
+                                                     : layout()->totalSizeHint().height();
+    setFixedSize(kSheetWidth, std::max(kSheetHeight, needed));
+}
+
+} // namespace qf
