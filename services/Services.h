@@ -11,6 +11,7 @@
 #include "TerminalLauncher.h"
 #include "ToolInstaller.h"
 #include "ToolRemover.h"
+#include "UpdateChecker.h"
 
 namespace qf {
 
@@ -29,6 +30,7 @@ public:
           searchPath(runner, detector, platform),
           installer(runner, detector, platform, nodeInstaller, searchPath),
           remover(runner, platform),
+          updateChecker(runner, detector),
           keys(runner, detector),
           terminal(platform),
           logs(platform.logFolder())
@@ -49,6 +51,8 @@ public:
     // above.
     ToolInstaller installer;
     ToolRemover remover;
+    // The installed and newest published versions of the AI tools, checked at most once a day.
+    UpdateChecker updateChecker;
     APIKeyStore keys;
     TerminalLauncher terminal;
     // The whole logs of installations and removals.
