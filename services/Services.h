@@ -11,6 +11,7 @@
 #include "TerminalLauncher.h"
 #include "ToolInstaller.h"
 #include "ToolRemover.h"
+#include "ToolUpdater.h"
 #include "UpdateChecker.h"
 
 namespace qf {
@@ -31,6 +32,7 @@ public:
           installer(runner, detector, platform, nodeInstaller, searchPath),
           remover(runner, platform),
           updateChecker(runner, detector),
+          updater(runner, detector, platform, updateChecker, nodeInstaller),
           keys(runner, detector),
           terminal(platform),
           logs(platform.logFolder())
@@ -53,6 +55,9 @@ public:
     ToolRemover remover;
     // The installed and newest published versions of the AI tools, checked at most once a day.
     UpdateChecker updateChecker;
+    // Brings an AI tool up to date where it was installed; Node.js through the NodeInstaller
+    // when the new version needs a newer one.
+    ToolUpdater updater;
     APIKeyStore keys;
     TerminalLauncher terminal;
     // The whole logs of installations and removals.
