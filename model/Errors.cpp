@@ -157,6 +157,24 @@ ServiceError ServiceError::removalDeclined(const QString& name)
     return error;
 }
 
+ServiceError ServiceError::updateDeclined(const QString& name)
+{
+    ServiceError error;
+    error.m_description = QCoreApplication::translate("ServiceError",
+                                                      "The password dialog was cancelled, so %1 was not updated.")
+                              .arg(name);
+    error.m_declined = true;
+    return error;
+}
+
+ServiceError ServiceError::needsNewerNode(const QString& text, int requiredMajor)
+{
+    ServiceError error;
+    error.m_description = text;
+    error.m_requiredNodeMajor = requiredMajor;
+    return error;
+}
+
 Result<void> administratorRemovalResult(Result<void> result, const QString& name)
 {
     if (result)
@@ -164,6 +182,16 @@ Result<void> administratorRemovalResult(Result<void> result, const QString& name
     const ShellError* error = result.error().shellError();
     if (error && error->isAdministratorDeclined())
         return ServiceError::removalDeclined(name);
+    return result;
+}
+
+Result<void> administratorUpdateResult(Result<void> result, const QString& name)
+{
+    if (result)
+        return result;
+    const ShellError* error = result.error().shellError();
+    if (error && error->isAdministratorDeclined())
+        return ServiceError::updateDeclined(name);
     return result;
 }
 

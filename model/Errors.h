@@ -81,6 +81,11 @@ public:
     static ServiceError message(const QString& text);
     // The user cancelled the password dialog, so `name` was not removed.
     static ServiceError removalDeclined(const QString& name);
+    // The user cancelled the password dialog, so `name` was not updated.
+    static ServiceError updateDeclined(const QString& name);
+    // An update that needs Node.js `requiredMajor` or newer, which this computer does not have
+    // yet; `text` says so. Nothing was run.
+    static ServiceError needsNewerNode(const QString& text, int requiredMajor);
 
     const QString& errorDescription() const { return m_description; }
     // What a person reads: for a failed command, one plain sentence of what happened and what
@@ -95,6 +100,9 @@ public:
     }
     // Whether the user said no: nothing failed, nothing happened.
     bool isDeclined() const { return m_declined; }
+    // The major version of Node.js that an update needs, when a Node.js too old for it is what
+    // stopped the update (installing a newer one lets it go ahead); 0 otherwise.
+    int requiredNodeMajor() const { return m_requiredNodeMajor; }
 
     friend bool operator==(const ServiceError&, const ServiceError&) = default;
 
@@ -104,6 +112,7 @@ private:
     std::variant<std::monostate, ShellError, InstallationError> m_cause;
     QString m_description;
     bool m_declined = false;
+    int m_requiredNodeMajor = 0;
 };
 
 // The outcome of an operation that may fail: a value, or the error that stopped it. Errors
@@ -143,5 +152,7 @@ private:
 // The result of removing `name` by a line run with administrator rights: a cancelled password
 // dialog becomes `ServiceError::removalDeclined(name)`; anything else stays as it is.
 Result<void> administratorRemovalResult(Result<void> result, const QString& name);
+// The same for an update of `name`: a cancelled dialog becomes `ServiceError::updateDeclined`.
+Result<void> administratorUpdateResult(Result<void> result, const QString& name);
 
 } // namespace qf

@@ -119,6 +119,7 @@ SystemWording LinuxPlatform::wordingFor(const QMap<QString, QString>& osRelease)
         .developerFolderNote = translated("SystemTool", "Open your file manager to manage this folder"),
         .toolLaunchedTitle = translated("TerminalLaunchedView", "%1 launched in a new terminal window"),
         .switchToTerminal = translated("TerminalLaunchedView", "Switch to the terminal window to start using %1"),
+        .nodeTooOldForUpdate = translated("ToolUpdater", "%1 %2 needs Node.js %3 or newer; this computer has %4."),
     };
 }
 

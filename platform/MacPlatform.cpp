@@ -98,6 +98,7 @@ const SystemWording& MacPlatform::standardWording()
         .developerFolderNote = translated("SystemTool", "Open Finder to manage this folder"),
         .toolLaunchedTitle = translated("TerminalLaunchedView", "%1 launched in Terminal"),
         .switchToTerminal = translated("TerminalLaunchedView", "Switch to Terminal.app to start using %1"),
+        .nodeTooOldForUpdate = translated("ToolUpdater", "%1 %2 needs Node.js %3 or newer; this Mac has %4."),
     };
     return wording;
 }

@@ -42,6 +42,9 @@ struct SystemWording {
     // The terminal screen: its title and the line under it, "%1" standing for the tool's name.
     QString toolLaunchedTitle;
     QString switchToTerminal;
+    // An update needs a newer Node.js than the one found: "%1 %2 needs Node.js %3 or newer;
+    // this Mac has %4." (the tool, its new version, the major version needed, the one found).
+    QString nodeTooOldForUpdate;
 };
 
 // The dashboard's developer-tools item: on macOS the Xcode Command Line Tools, on Linux git

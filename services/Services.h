@@ -11,6 +11,8 @@
 #include "TerminalLauncher.h"
 #include "ToolInstaller.h"
 #include "ToolRemover.h"
+#include "ToolUpdater.h"
+#include "UpdateChecker.h"
 
 namespace qf {
 
@@ -29,6 +31,8 @@ public:
           searchPath(runner, detector, platform),
           installer(runner, detector, platform, nodeInstaller, searchPath),
           remover(runner, platform),
+          updateChecker(runner, detector),
+          updater(runner, detector, platform, updateChecker, nodeInstaller),
           keys(runner, detector),
           terminal(platform),
           logs(platform.logFolder())
@@ -49,6 +53,11 @@ public:
     // above.
     ToolInstaller installer;
     ToolRemover remover;
+    // The installed and newest published versions of the AI tools, checked at most once a day.
+    UpdateChecker updateChecker;
+    // Brings an AI tool up to date where it was installed; Node.js through the NodeInstaller
+    // when the new version needs a newer one.
+    ToolUpdater updater;
     APIKeyStore keys;
     TerminalLauncher terminal;
     // The whole logs of installations and removals.

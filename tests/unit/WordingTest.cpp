@@ -29,7 +29,7 @@ QStringList readableTexts(const Platform& platform)
     QStringList texts = {wording.osRequirementTitle, wording.osRequirementHelp, wording.osRequirementFix,
                          wording.diskSpaceHelp,      wording.nodeFixSuggestion, wording.toolInstallStep,
                          wording.gitMissingLog,      wording.gitMissingError,   wording.developerFolderNote,
-                         wording.toolLaunchedTitle,  wording.switchToTerminal};
+                         wording.toolLaunchedTitle,  wording.switchToTerminal,  wording.nodeTooOldForUpdate};
     for (SystemRequirement requirement : SystemRequirement::allCases())
         texts << requirement.title(wording) << requirement.helpText(wording) << requirement.fixSuggestion(wording);
     for (CLITool tool : CLITool::allCases()) {
