@@ -226,14 +226,22 @@ void HomeView::loadData()
 
 void HomeView::checkForUpdates(bool force)
 {
-    if (m_checkingUpdates || m_isLoading)
+    if (m_checkingUpdates) {
+        // Asked for while the quiet check runs: asked again, with its answer, once it ends.
+        m_forcedCheckWaiting = m_forcedCheckWaiting || force;
+        m_updateStatus = force ? tr("Checking for updates...") : m_updateStatus;
+        render();
+        return;
+    }
+    if (m_isLoading)
         return;
     // The versions belong to the tools found now: a tool no longer there loses its badge.
     m_updates.erase(std::remove_if(m_updates.begin(), m_updates.end(),
                                    [this](const ToolUpdateInfo& info) { return !m_installedTools.contains(info.tool); }),
                     m_updates.end());
-    m_updateStatus.clear();
+    m_updateStatus = force ? tr("Checking for updates...") : QString();
     if (m_installedTools.isEmpty()) {
+        m_updateStatus.clear();
         render();
         return;
     }
@@ -245,18 +253,26 @@ void HomeView::checkForUpdates(bool force)
                        if (generation != m_updateGeneration)
                            return;
                        m_checkingUpdates = false;
-                       const bool anyUpdate = std::any_of(infos.cbegin(), infos.cend(),
-                                                          [](const ToolUpdateInfo& info) { return info.updateAvailable(); });
+                       const bool anyUpdate = std::any_of(infos.cbegin(), infos.cend(), [](const ToolUpdateInfo& info) {
+                           return info.updateAvailable();
+                       });
                        const bool allKnown = std::all_of(infos.cbegin(), infos.cend(), [](const ToolUpdateInfo& info) {
                            return info.latestVersion.has_value();
                        });
                        // Only a check someone asked for says that nothing came of it.
-                       if (force && !anyUpdate)
-                           m_updateStatus = allKnown ? tr("Everything is up to date.")
-                                                     : tr("Could not check for updates. Check that you are online, "
-                                                          "then try again.");
+                       if (!force || anyUpdate)
+                           m_updateStatus.clear();
+                       else if (allKnown)
+                           m_updateStatus = tr("Everything is up to date.");
+                       else
+                           m_updateStatus = tr("Could not check for updates. Check that you are online, then try "
+                                               "again.");
                        m_updates = std::move(infos);
                        render();
+                       if (std::exchange(m_forcedCheckWaiting, false)) {
+                           checkForUpdates(true);
+                           return;
+                       }
                        Q_EMIT updatesChecked();
                    });
 }
@@ -317,8 +333,6 @@ void HomeView::render()
         card->setHovered(m_hoveredKey == card->tool().rawValue());
     }
     m_checkUpdates->setVisible(!m_isLoading && !m_installedTools.isEmpty());
-    m_checkUpdates->setEnabled(!m_checkingUpdates);
-    m_checkUpdates->setTitle(m_checkingUpdates ? tr("Checking for Updates...") : tr("Check for Updates"));
     m_updateStatusLabel->setVisible(!m_isLoading && !m_updateStatus.isEmpty());
     m_updateStatusLabel->setText(m_updateStatus);
 }
@@ -382,6 +396,8 @@ QWidget* HomeView::mainControl() const
 }
 
 RemovalSheet* HomeView::sheet() const { return m_aiSheet ? m_aiSheet.data() : m_systemSheet.data(); }
+
+UpdateSheet* HomeView::updateSheet() const { return m_updateSheet; }
 
 void HomeView::renderSheets()
 {

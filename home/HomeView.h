@@ -52,10 +52,11 @@ public:
     // The open removal sheet, if any.
     RemovalSheet* sheet() const;
     // The open update sheet, if any.
-    UpdateSheet* updateSheet() const { return m_updateSheet; }
+    UpdateSheet* updateSheet() const;
 
     // Asks whether the installed AI tools have newer versions; `force` asks the registry even
-    // when it was asked today. Nothing happens while a check runs.
+    // when it was asked today, and says so when nothing newer is found. Forced while a check
+    // runs, it asks again once that check has ended.
     void checkForUpdates(bool force);
     bool isCheckingForUpdates() const { return m_checkingUpdates; }
     const QList<ToolUpdateInfo>& updates() const { return m_updates; }
@@ -103,6 +104,8 @@ private:
     std::optional<CLITool> m_toolToUpdate;
     QList<ToolUpdateInfo> m_updates;
     bool m_checkingUpdates = false;
+    // "Check for Updates" was pressed while a quiet check ran.
+    bool m_forcedCheckWaiting = false;
     // What the newest forced check has to say when it shows no update: all up to date, or
     // that it could not ask.
     QString m_updateStatus;

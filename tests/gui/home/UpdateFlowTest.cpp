@@ -1,0 +1,197 @@
+// The dashboard offers a newer version of an installed AI tool on its card and runs the update
+// in a sheet: the badge, the controls' names, the quiet check offline, and the sheet's states.
+#include "HomeView.h"
+#include "InstallationState.h"
+#include "TestMachine.h"
+#include "TestSupport.h"
+#include "ToolCards.h"
+#include "UpdateSheet.h"
+
+#include "Badge.h"
+#include "Button.h"
+#include "Label.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTest>
+
+#include <memory>
+
+using namespace qf;
+
+namespace {
+
+class UpdateFlowTest : public ::testing::Test, protected test::TestMachine {
+protected:
+    void SetUp() override
+    {
+        test::clearPreferences();
+        sandbox.installFakes({"npm", "node"});
+        // Gemini CLI 0.60.0 in ~/.local, where the installer puts it when npm's folder is not
+        // the user's; 0.61.0 is published and runs on Node.js 20.
+        sandbox.installFakeAt(QStringLiteral("gemini"), sandbox.path(QStringLiteral(".local/bin/gemini")));
+        QDir().mkpath(sandbox.path(QStringLiteral(".local/lib/node_modules/@google/gemini-cli")));
+        sandbox.setEnv("FAKE_TOOL_VERSION", "0.60.0");
+        sandbox.setEnv("FAKE_NPM_LATEST", "0.61.0");
+        sandbox.setEnv("FAKE_NPM_ENGINES", ">=20");
+    }
+
+    // The dashboard on screen, its load and its quiet check for updates done.
+    std::unique_ptr<HomeView> showHome()
+    {
+        auto view = std::make_unique<HomeView>(state, services);
+        view->resize(900, 1400);
+        view->show();
+        waitForCheck(*view);
+        return view;
+    }
+    static void waitForCheck(HomeView& view)
+    {
+        EXPECT_TRUE(QTest::qWaitFor(
+            [&] { return !view.isLoading() && !view.isCheckingForUpdates() && !view.updates().isEmpty(); }, 20000))
+            << "the check for updates did not finish";
+    }
+    static void waitForPhaseChange(UpdateSheet& sheet)
+    {
+        EXPECT_TRUE(QTest::qWaitFor([&] { return sheet.phase() != UpdateSheet::Phase::updating; }, 20000));
+    }
+    static AIToolCard* geminiCard(HomeView& view)
+    {
+        return test::child<AIToolCard>(&view, QStringLiteral("aiToolCard.") + CLITool(CLITool::geminiCLI).rawValue());
+    }
+    static bool shown(const QWidget* parent, const char* name)
+    {
+        const auto* widget = parent->findChild<QWidget*>(QString::fromLatin1(name));
+        return widget && widget->isVisibleTo(parent->window());
+    }
+    static QString text(const QWidget* parent, const char* name)
+    {
+        if (const auto* badge = parent->findChild<ui::Badge*>(QString::fromLatin1(name)))
+            return badge->text();
+        const auto* label = test::child<QLabel>(parent, QString::fromLatin1(name));
+        return label ? label->text() : QString();
+    }
+    static void press(const QWidget* parent, const char* name)
+    {
+        auto* button = test::child<QAbstractButton>(parent, QString::fromLatin1(name));
+        ASSERT_NE(button, nullptr);
+        ASSERT_TRUE(button->isVisibleTo(parent->window())) << name;
+        button->click();
+    }
+    QString npmCalls() const { return QString::fromUtf8(sandbox.readFile(QStringLiteral("../state/npm-env.log"))); }
+};
+
+} // namespace
+
+TEST_F(UpdateFlowTest, ANewerVersionIsOfferedOnTheCardAndUpdatedWhereTheToolWasInstalled)
+{
+    auto view = showHome();
+    AIToolCard* card = geminiCard(*view);
+    ASSERT_NE(card, nullptr);
+    EXPECT_EQ(text(card, "versionBadge"), QStringLiteral("0.60.0"));
+    EXPECT_TRUE(shown(card, "updateBadge"));
+    EXPECT_EQ(text(card, "updateBadge"), QStringLiteral("Update available: 0.61.0"));
+    auto* update = test::child<ActionButton>(card, QStringLiteral("updateButton"));
+    EXPECT_EQ(update->accessibleName(), QStringLiteral("Update Gemini CLI"));
+    EXPECT_TRUE(card->accessibleDescription().contains(QStringLiteral("Update available: 0.61.0")));
+    // A tool that is not installed has nothing to update.
+    const auto* claude = test::child<AIToolCard>(view.get(), QStringLiteral("aiToolCard.claudeCode"));
+    EXPECT_FALSE(shown(claude, "updateButton"));
+    EXPECT_FALSE(shown(claude, "updateBadge"));
+
+    // Confirm: from which version to which.
+    press(card, "updateButton");
+    UpdateSheet* sheet = view->updateSheet();
+    ASSERT_NE(sheet, nullptr);
+    EXPECT_EQ(text(sheet, "sheetTitle"), QStringLiteral("Update Gemini CLI?"));
+    EXPECT_TRUE(text(sheet, "sheetDescription").contains(QStringLiteral("from version 0.60.0 to 0.61.0")));
+    EXPECT_EQ(sheet->mainButton()->objectName(), QStringLiteral("updateButton"));
+
+    // The update runs in ~/.local, where the tool is, and is checked by running the tool.
+    press(sheet, "updateButton");
+    EXPECT_EQ(sheet->phase(), UpdateSheet::Phase::updating);
+    EXPECT_FALSE(shown(sheet, "cancelButton")); // it runs to its end
+    waitForPhaseChange(*sheet);
+    ASSERT_EQ(sheet->phase(), UpdateSheet::Phase::complete) << sheet->errorMessage().value_or(QString()).toStdString();
+    EXPECT_EQ(text(sheet, "sheetTitle"), QStringLiteral("Update Complete"));
+    EXPECT_TRUE(text(sheet, "sheetDescription").startsWith(QStringLiteral("Gemini CLI 0.61.0 ")));
+    EXPECT_TRUE(npmCalls().contains(QStringLiteral("install -g @google/gemini-cli@0.61.0 with npm_config_prefix=") +
+                                    sandbox.path(QStringLiteral(".local"))));
+    EXPECT_FALSE(sheet->output().isEmpty());
+    EXPECT_TRUE(shown(sheet, "copyLogButton"));
+
+    // "Done" reloads: the card shows the new version and no badge.
+    press(sheet, "doneButton");
+    waitForCheck(*view);
+    EXPECT_FALSE(shown(card, "updateBadge"));
+    EXPECT_FALSE(shown(card, "updateButton"));
+    EXPECT_EQ(text(card, "versionBadge"), QStringLiteral("0.61.0"));
+}
+
+TEST_F(UpdateFlowTest, OfflineTheCheckShowsNothingUntilAskedThenSaysItCouldNotAsk)
+{
+    sandbox.setEnv("FAKE_NPM_OFFLINE", "1");
+    auto view = showHome();
+    AIToolCard* card = geminiCard(*view);
+    EXPECT_EQ(text(card, "versionBadge"), QStringLiteral("0.60.0"));
+    EXPECT_FALSE(shown(card, "updateBadge"));
+    EXPECT_FALSE(shown(view.get(), "updateStatus"));
+    EXPECT_EQ(view->findChild<QWidget*>(QStringLiteral("errorCard")), nullptr);
+
+    press(view.get(), "checkForUpdatesButton");
+    waitForCheck(*view);
+    EXPECT_EQ(text(view.get(), "updateStatus"),
+              QStringLiteral("Could not check for updates. Check that you are online, then try again."));
+    EXPECT_TRUE(shown(view.get(), "updateStatus"));
+
+    // Online again, with nothing newer than what is installed.
+    sandbox.setEnv("FAKE_NPM_OFFLINE", "");
+    sandbox.setEnv("FAKE_NPM_LATEST", "0.60.0");
+    press(view.get(), "checkForUpdatesButton");
+    waitForCheck(*view);
+    EXPECT_EQ(text(view.get(), "updateStatus"), QStringLiteral("Everything is up to date."));
+    EXPECT_FALSE(shown(card, "updateBadge"));
+}
+
+TEST_F(UpdateFlowTest, AFailedUpdateSaysTheOldVersionStillWorksAndTriesAgain)
+{
+    auto view = showHome();
+    press(geminiCard(*view), "updateButton");
+    UpdateSheet* sheet = view->updateSheet();
+    ASSERT_NE(sheet, nullptr);
+
+    sandbox.setEnv("FAKE_NPM_FAIL", "1");
+    press(sheet, "updateButton");
+    waitForPhaseChange(*sheet);
+    ASSERT_EQ(sheet->phase(), UpdateSheet::Phase::failed);
+    EXPECT_EQ(text(sheet, "sheetTitle"), QStringLiteral("Update Failed"));
+    ASSERT_TRUE(sheet->errorMessage().has_value());
+    EXPECT_TRUE(sheet->errorMessage()->endsWith(QStringLiteral("Gemini CLI 0.60.0 still works.")));
+    EXPECT_TRUE(shown(sheet, "errorRow"));
+    EXPECT_TRUE(shown(sheet, "logSection"));
+    EXPECT_EQ(sheet->mainButton()->objectName(), QStringLiteral("tryAgainButton"));
+    EXPECT_TRUE(shown(sheet, "cancelButton"));
+
+    sandbox.setEnv("FAKE_NPM_FAIL", "");
+    press(sheet, "tryAgainButton");
+    EXPECT_FALSE(sheet->errorMessage().has_value());
+    waitForPhaseChange(*sheet);
+    EXPECT_EQ(sheet->phase(), UpdateSheet::Phase::complete);
+}
+
+TEST_F(UpdateFlowTest, AnUpdateNeedingANewerNodeOffersTheNodeRouteInsteadOfTryingAgain)
+{
+    sandbox.setEnv("FAKE_NPM_ENGINES", ">=22.0.0");
+    auto view = showHome();
+    press(geminiCard(*view), "updateButton");
+    UpdateSheet* sheet = view->updateSheet();
+    ASSERT_NE(sheet, nullptr);
+    press(sheet, "updateButton");
+    waitForPhaseChange(*sheet);
+    ASSERT_EQ(sheet->phase(), UpdateSheet::Phase::failed);
+    EXPECT_TRUE(sheet->needsNewerNode());
+    EXPECT_TRUE(sheet->errorMessage()->contains(QStringLiteral("Node.js 22")));
+    EXPECT_EQ(sheet->mainButton()->objectName(), QStringLiteral("installNodeButton"));
+    EXPECT_FALSE(shown(sheet, "tryAgainButton"));
+    EXPECT_FALSE(npmCalls().contains(QStringLiteral("install"))); // nothing ran
+}
