@@ -1,56 +1,23 @@
-// The opt-in end-to-end test (scripts/test --e2e): a real Gemini CLI from the npm registry,
+// The opt-in end-to-end tests (scripts/test --e2e): a real Gemini CLI from the npm registry,
 // installed and removed through the real installer by a user who cannot write npm's global
-// folder, in a temporary HOME. Needs the network and a Node.js of 20 or newer; never part of
-// the ordinary test run.
+// folder, in a temporary HOME; and an older one updated (GeminiUpdateE2E.cpp). Need the network
+// and a Node.js of 20 or newer; never part of the ordinary test run.
 
 #include "CoroTest.h"
+#include "EndToEnd.h"
 #include "Services.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
-#include <QProcess>
 #include <QTemporaryDir>
-
-#include <cstdio>
 
 using namespace qf;
 
-namespace {
-
-constexpr int kInstallLimitMs = 20 * 60 * 1000;
-
-struct ShellAnswer {
-    int exitCode = -1;
-    QString output;
-};
-
-// `line` in a fresh login shell of `home`, as a new terminal window would run it: nothing of
-// this process's environment but the basics.
-ShellAnswer freshLoginShell(const QString& shell, const QString& home, const QString& line)
-{
-    QProcessEnvironment environment;
-    environment.insert(QStringLiteral("HOME"), home);
-    environment.insert(QStringLiteral("PATH"), QStringLiteral("/usr/local/bin:/usr/bin:/bin"));
-    environment.insert(QStringLiteral("SHELL"), shell);
-    environment.insert(QStringLiteral("LANG"), QStringLiteral("C.UTF-8"));
-    QProcess process;
-    process.setProcessEnvironment(environment);
-    process.setWorkingDirectory(home);
-    process.setStandardInputFile(QProcess::nullDevice());
-    process.start(shell, {QStringLiteral("-l"), QStringLiteral("-i"), QStringLiteral("-c"), line});
-    if (!process.waitForFinished(120000))
-        return {};
-    return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()).trimmed()};
-}
-
-void say(const QString& text)
-{
-    std::fputs(text.toUtf8().constData(), stdout);
-    std::fflush(stdout);
-}
-
-} // namespace
+using qf::e2e::freshLoginShell;
+using qf::e2e::kInstallLimitMs;
+using qf::e2e::say;
+using qf::e2e::ShellAnswer;
 
 TEST(GeminiEndToEnd, InstalledWithoutAdministratorRightsFoundByTheTerminalAndRemoved)
 {

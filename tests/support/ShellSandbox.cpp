@@ -130,6 +130,12 @@ QByteArray ShellSandbox::readFile(const QString& relative) const
     return file.readAll();
 }
 
+QByteArray ShellSandbox::readState(const char* name) const
+{
+    QFile file(stateDirectory() + QLatin1Char('/') + QLatin1String(name));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
 bool ShellSandbox::exists(const QString& relative) const { return QFileInfo::exists(path(relative)); }
 
 } // namespace qf::test

@@ -42,6 +42,8 @@ public:
     void setEnv(const char* name, const QByteArray& value);
     void writeFile(const QString& relative, const QByteArray& content);
     QByteArray readFile(const QString& relative) const;
+    // What the fakes wrote into the state folder ("npm.log"); empty when nothing.
+    QByteArray readState(const char* name) const;
     bool exists(const QString& relative) const;
 
 private:

@@ -40,11 +40,6 @@ protected:
                                     : await(updater.update(tool, log));
         return run;
     }
-    QByteArray state(const char* name) const
-    {
-        QFile file(sandbox.stateDirectory() + QLatin1Char('/') + QLatin1String(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
     // Gemini CLI as the installer leaves it without write access to npm's global folder.
     void installGeminiInLocal()
     {
@@ -69,7 +64,7 @@ TEST_F(ToolUpdaterTest, AnUpdateGoesWhereTheToolWasInstalledAndIsVerified)
     EXPECT_EQ(gemini.result->value().previousVersion, QStringLiteral("0.60.0"));
     EXPECT_EQ(gemini.result->value().newVersion, QStringLiteral("0.61.0"));
     EXPECT_TRUE(gemini.result->value().changed());
-    EXPECT_EQ(state("npm-env.log"),
+    EXPECT_EQ(sandbox.readState("npm-env.log"),
               QStringLiteral("npm install -g @google/gemini-cli@0.61.0 with npm_config_prefix=%1\n")
                   .arg(sandbox.path(QStringLiteral(".local")))
                   .toUtf8());
@@ -85,16 +80,16 @@ TEST_F(ToolUpdaterTest, AnUpdateGoesWhereTheToolWasInstalledAndIsVerified)
 
     const UpdateRun codex = update(CLITool::codex);
     ASSERT_TRUE(codex.ok()) << codex.error().toStdString() << codex.log.toStdString();
-    EXPECT_TRUE(state("npm.log").contains("npm install -g @openai/codex@0.61.0\n"));
-    EXPECT_FALSE(state("npm-env.log").contains("codex")); // npm's own prefix needs no pointing at
+    EXPECT_TRUE(sandbox.readState("npm.log").contains("npm install -g @openai/codex@0.61.0\n"));
+    EXPECT_FALSE(sandbox.readState("npm-env.log").contains("codex")); // npm's own prefix needs no pointing at
     EXPECT_EQ(codex.result->value().newVersion, QStringLiteral("0.61.0"));
 
     // Up to date: nothing runs.
-    const QByteArray before = state("npm.log");
+    const QByteArray before = sandbox.readState("npm.log");
     const UpdateRun again = update(CLITool::codex);
     ASSERT_TRUE(again.ok());
     EXPECT_FALSE(again.result->value().changed());
-    EXPECT_FALSE(state("npm.log").mid(before.size()).contains("install"));
+    EXPECT_FALSE(sandbox.readState("npm.log").mid(before.size()).contains("install"));
 }
 
 TEST_F(ToolUpdaterTest, AToolOnlyAnAdministratorMayChangeIsUpdatedThroughThePasswordDialog)
@@ -119,7 +114,7 @@ TEST_F(ToolUpdaterTest, AToolOnlyAnAdministratorMayChangeIsUpdatedThroughThePass
     EXPECT_TRUE(
         run.log.contains(QStringLiteral("Updating Gemini CLI in %1 needs administrator rights.\n").arg(npmPrefix())))
         << run.log.toStdString();
-    EXPECT_TRUE(state("npm-env.log")
+    EXPECT_TRUE(sandbox.readState("npm-env.log")
                     .contains(QStringLiteral("npm install -g @google/gemini-cli@0.61.0 with npm_config_prefix=%1\n")
                                   .arg(npmPrefix())
                                   .toUtf8()));
@@ -135,7 +130,7 @@ TEST_F(ToolUpdaterTest, AnUpdateNeedingANewerNodeIsRefusedBeforeAnythingRuns)
     ASSERT_TRUE(refused.result && !refused.ok());
     EXPECT_EQ(refused.result->error().requiredNodeMajor(), 22);
     EXPECT_EQ(refused.error(), QStringLiteral("Gemini CLI 0.62.0 needs Node.js 22 or newer; this Mac has v20.10.0."));
-    EXPECT_FALSE(state("npm.log").contains("install"));
+    EXPECT_FALSE(sandbox.readState("npm.log").contains("install"));
 
     // The way on: a newer Node.js, then the update.
     sandbox.setEnv("FAKE_BREW_NODE_VERSION", "v22.11.0");
@@ -161,8 +156,8 @@ TEST_F(ToolUpdaterTest, ClaudeCodeFromItsMakersInstallerUpdatesItself)
     ASSERT_TRUE(run.ok()) << run.error().toStdString() << run.log.toStdString();
     EXPECT_EQ(run.result->value().previousVersion, QStringLiteral("2.1.330"));
     EXPECT_EQ(run.result->value().newVersion, QStringLiteral("2.1.332"));
-    EXPECT_EQ(state("claude.log"), "claude update\n");
-    EXPECT_FALSE(state("npm.log").contains("install"));
+    EXPECT_EQ(sandbox.readState("claude.log"), "claude update\n");
+    EXPECT_FALSE(sandbox.readState("npm.log").contains("install"));
     EXPECT_TRUE(run.log.contains(QStringLiteral("Successfully updated to version 2.1.332")));
 }
 
