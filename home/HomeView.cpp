@@ -236,9 +236,10 @@ void HomeView::checkForUpdates(bool force)
     if (m_isLoading)
         return;
     // The versions belong to the tools found now: a tool no longer there loses its badge.
-    m_updates.erase(std::remove_if(m_updates.begin(), m_updates.end(),
-                                   [this](const ToolUpdateInfo& info) { return !m_installedTools.contains(info.tool); }),
-                    m_updates.end());
+    m_updates.erase(
+        std::remove_if(m_updates.begin(), m_updates.end(),
+                       [this](const ToolUpdateInfo& info) { return !m_installedTools.contains(info.tool); }),
+        m_updates.end());
     m_updateStatus = force ? tr("Checking for updates...") : QString();
     if (m_installedTools.isEmpty()) {
         m_updateStatus.clear();

@@ -45,9 +45,8 @@ Button* sheetButton(const QString& title, Button::Style style, const char* objec
 
 } // namespace
 
-UpdateSheet::UpdateSheet(CLITool tool, std::optional<QString> currentVersion, QString newVersion,
-                         ToolUpdater& updater, const LogBook& logs, std::function<void()> onComplete,
-                         Qt::WindowFlags flags, QWidget* parent)
+UpdateSheet::UpdateSheet(CLITool tool, std::optional<QString> currentVersion, QString newVersion, ToolUpdater& updater,
+                         const LogBook& logs, std::function<void()> onComplete, Qt::WindowFlags flags, QWidget* parent)
     : QDialog(parent, flags),
       m_tool(tool),
       m_current(std::move(currentVersion)),
@@ -260,9 +259,10 @@ void UpdateSheet::render()
     case Phase::confirm:
         m_title->setText(tr("Update %1?").arg(name));
         m_description->setText(
-            m_current ? tr("%1 goes from version %2 to %3. Your settings and sign-in stay as they are.")
-                            .arg(name, *m_current, m_new)
-                      : tr("%1 is updated to version %2. Your settings and sign-in stay as they are.").arg(name, m_new));
+            m_current
+                ? tr("%1 goes from version %2 to %3. Your settings and sign-in stay as they are.")
+                      .arg(name, *m_current, m_new)
+                : tr("%1 is updated to version %2. Your settings and sign-in stay as they are.").arg(name, m_new));
         break;
     case Phase::updating:
         m_title->setText(tr("Updating %1...").arg(name));
