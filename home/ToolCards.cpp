@@ -177,15 +177,18 @@ AIToolCard::AIToolCard(CLITool tool, std::function<void()> onOpen, std::function
     m_versionBadge = new StatusBadge(QString(), Tint(Role::secondary));
     m_versionBadge->setObjectName(QStringLiteral("versionBadge"));
     title->addWidget(m_versionBadge, 0, Qt::AlignVCenter);
-    m_updateBadge = new StatusBadge(QString(), Tint(Role::accent));
-    m_updateBadge->setObjectName(QStringLiteral("updateBadge"));
-    title->addWidget(m_updateBadge, 0, Qt::AlignVCenter);
     title->addStretch(1);
     text->addLayout(title);
+    // A newer version is told first on the line below, where the description gives way to it.
+    auto* second = hstack(8);
+    m_updateBadge = new StatusBadge(QString(), Tint(Role::accent));
+    m_updateBadge->setObjectName(QStringLiteral("updateBadge"));
+    second->addWidget(m_updateBadge, 0, Qt::AlignVCenter);
     auto* description = new Label(tool.toolDescription(), Theme::font(12), Tint(Role::secondary));
     description->setObjectName(QStringLiteral("toolDescription"));
     description->setWrapping(true, 1);
-    text->addWidget(description);
+    second->addWidget(description, 1);
+    text->addLayout(second);
     row->addLayout(text, 1);
 
     auto* buttons = hstack(8);

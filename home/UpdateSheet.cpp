@@ -238,13 +238,19 @@ void UpdateSheet::render()
     const bool complete = m_phase == Phase::complete;
     const bool failed = m_phase == Phase::failed;
     const bool updating = m_phase == Phase::updating;
-    m_icon->setFill(complete ? Tint(Role::green, 0.15) : failed ? Tint(Role::orange, 0.12) : Tint(Role::accent, 0.12));
+    m_icon->setFill(complete                 ? Tint(Role::green, 0.15)
+                    : failed && !m_needsNode ? Tint(Role::orange, 0.12)
+                                             : Tint(Role::accent, 0.12));
     m_spinner->setVisible(updating);
     m_symbol->setVisible(!updating);
     if (complete) {
         m_symbol->setName(QStringLiteral("checkmark"));
         m_symbol->setWeight(SymbolWeight::bold);
         m_symbol->setTint(Tint(Role::green));
+    } else if (failed && m_needsNode) {
+        m_symbol->setName(QStringLiteral("info.circle"));
+        m_symbol->setWeight(SymbolWeight::regular);
+        m_symbol->setTint(Tint(Role::accent));
     } else if (failed) {
         m_symbol->setName(QStringLiteral("exclamationmark"));
         m_symbol->setWeight(SymbolWeight::bold);
@@ -272,7 +278,10 @@ void UpdateSheet::render()
         m_title->setText(tr("Update Complete"));
         m_description->setText(tr("%1 %2 is installed and starts as before.").arg(name, m_verified));
         break;
-    case Phase::failed: m_title->setText(tr("Update Failed")); break;
+    case Phase::failed:
+        // An older Node.js is not a failure of the update, only what has to come first.
+        m_title->setText(m_needsNode ? tr("A Newer Node.js Is Needed") : tr("Update Failed"));
+        break;
     }
     m_description->setVisible(!failed);
 

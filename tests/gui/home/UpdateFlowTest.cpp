@@ -193,6 +193,7 @@ TEST_F(UpdateFlowTest, AnUpdateNeedingANewerNodeOffersTheNodeRouteInsteadOfTryin
     waitForPhaseChange(*sheet);
     ASSERT_EQ(sheet->phase(), UpdateSheet::Phase::failed);
     EXPECT_TRUE(sheet->needsNewerNode());
+    EXPECT_EQ(text(sheet, "sheetTitle"), QStringLiteral("A Newer Node.js Is Needed"));
     EXPECT_TRUE(sheet->errorMessage()->contains(QStringLiteral("Node.js 22")));
     EXPECT_EQ(sheet->mainButton()->objectName(), QStringLiteral("installNodeButton"));
     EXPECT_FALSE(shown(sheet, "tryAgainButton"));
