@@ -266,8 +266,7 @@ void HomeView::checkForUpdates(bool force)
                        else if (allKnown)
                            m_updateStatus = tr("Everything is up to date.");
                        else
-                           m_updateStatus = tr("Could not check for updates. Check that you are online, then try "
-                                               "again.");
+                           m_updateStatus = tr("Could not check for updates. Check that you are online.");
                        m_updates = std::move(infos);
                        render();
                        if (std::exchange(m_forcedCheckWaiting, false)) {
