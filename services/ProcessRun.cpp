@@ -46,8 +46,17 @@ void ProcessRun::stopEveryGroup()
     }
 }
 
+namespace {
+int g_existingRuns = 0;
+} // namespace
+
+int ProcessRun::existing() { return g_existingRuns; }
+
+ProcessRun::~ProcessRun() { --g_existingRuns; }
+
 ProcessRun::ProcessRun(Options options) : m_options(std::move(options)), m_process(new QProcess(this))
 {
+    ++g_existingRuns;
     m_process->setProgram(m_options.program);
     m_process->setArguments(m_options.arguments);
     if (!m_options.workingDirectory.isEmpty())

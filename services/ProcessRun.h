@@ -66,6 +66,11 @@ public:
 
     // Starts on the next turn of the event loop, so that the outcome can be awaited first.
     explicit ProcessRun(Options options);
+    ~ProcessRun() override;
+
+    // How many runs exist now, ended ones not yet gone included: work that nobody waits for
+    // (a quiet check in the background) has ended when this is 0.
+    static int existing();
 
     struct Awaiter {
         ProcessRun* run;

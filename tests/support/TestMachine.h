@@ -1,8 +1,13 @@
 #pragma once
 
 #include "FakePlatform.h"
+#include "ProcessRun.h"
 #include "Services.h"
 #include "ShellSandbox.h"
+
+#include <QTest>
+
+#include <gtest/gtest.h>
 
 namespace qf::test {
 
@@ -17,6 +22,16 @@ public:
         platform.npmPrograms = {sandbox.systemPath(QStringLiteral("/opt/homebrew/bin/npm")),
                                 sandbox.systemPath(QStringLiteral("/usr/local/bin/npm"))};
     }
+
+    // Work a screen started and nobody waited for (the dashboard's quiet check for updates)
+    // ends before the services it runs on go away.
+    ~TestMachine()
+    {
+        const bool ended = QTest::qWaitFor([] { return ProcessRun::existing() == 0; }, 30000);
+        EXPECT_TRUE(ended) << "commands still running when the test ended";
+    }
+    TestMachine(const TestMachine&) = delete;
+    TestMachine& operator=(const TestMachine&) = delete;
 
     ShellSandbox sandbox;
     FakePlatform platform;
