@@ -438,12 +438,13 @@ void HomeView::renderSheets()
         const CLITool tool = *m_toolToUpdate;
         const auto info = std::find_if(m_updates.cbegin(), m_updates.cend(),
                                        [tool](const ToolUpdateInfo& update) { return update.tool == tool; });
-        if (info == m_updates.cend() || !info->latestVersion) {
+        const std::optional<QString> latest = info == m_updates.cend() ? std::nullopt : info->latestVersion;
+        if (!latest) {
             m_toolToUpdate.reset();
             return;
         }
-        m_updateSheet = new UpdateSheet(tool, info->installedVersion, *info->latestVersion, m_services.updater,
-                                        m_services.logs, reload, flags, window());
+        m_updateSheet = new UpdateSheet(tool, info->installedVersion, *latest, m_services.updater, m_services.logs,
+                                        reload, flags, window());
         present(m_updateSheet, m_toolToUpdate);
     }
 }
