@@ -27,7 +27,17 @@ public:
     // ends before the services it runs on go away.
     ~TestMachine()
     {
-        const bool ended = QTest::qWaitFor([] { return ProcessRun::existing() == 0; }, 30000);
+        const bool ended = QTest::qWaitFor(
+            [] {
+                if (ProcessRun::existing() != 0)
+                    return false;
+                // What ended may hand its result on at a later turn of the event loop (a login
+                // shell's environment to the commands that waited for it), which starts more.
+                QCoreApplication::sendPostedEvents();
+                QCoreApplication::processEvents();
+                return ProcessRun::existing() == 0;
+            },
+            30000);
         EXPECT_TRUE(ended) << "commands still running when the test ended";
     }
     TestMachine(const TestMachine&) = delete;
