@@ -96,18 +96,23 @@ QCoro::Task<SystemTool> SupportTools::detect(SystemTool tool)
     case SystemToolID::developerFolder: break; // known when the catalogue was built
     case SystemToolID::developerTools: {
         const DeveloperToolsItem developerTools = m_platform.developerToolsItem();
-        const Result<QString> present = co_await m_shell.run(developerTools.presenceCommand);
+        // The version is asked at the same time as the presence; it counts only with it.
+        QCoro::Task<Result<QString>> presence = m_shell.run(developerTools.presenceCommand);
+        std::optional<QCoro::Task<Result<QString>>> versionRun;
+        if (!developerTools.versionCommand.isEmpty())
+            versionRun.emplace(m_shell.run(developerTools.versionCommand));
+        const Result<QString> present = co_await presence;
+        std::optional<Result<QString>> version;
+        if (versionRun)
+            version = co_await *versionRun;
         if (!present)
             break;
         tool.isInstalled = true;
         std::optional<QString> output;
-        if (developerTools.versionCommand.isEmpty()) {
+        if (!version)
             output = present.value();
-        } else {
-            const Result<QString> version = co_await m_shell.run(developerTools.versionCommand);
-            if (version)
-                output = version.value();
-        }
+        else if (*version)
+            output = version->value();
         if (output)
             tool.version = QString(*output).remove(developerTools.versionPrefix);
         break;
@@ -123,15 +128,17 @@ QCoro::Task<SystemTool> SupportTools::detect(SystemTool tool)
         break;
     }
     case SystemToolID::node: {
-        const Result<QString> version = co_await m_shell.run(QStringLiteral("node --version"));
-        if (!version)
-            break;
-        tool.isInstalled = true;
-        tool.version = version.value();
+        // Which copy it is (which may ask Homebrew) is found out while the version is asked.
+        QCoro::Task<Result<QString>> versionRun = m_shell.run(QStringLiteral("node --version"));
         const Result<QString> where = co_await m_shell.findProgram(QStringLiteral("node"));
         NodeCopy copy = NodeCopy::other;
         if (where)
             copy = co_await nodeCopyAt(where.value());
+        const Result<QString> version = co_await versionRun;
+        if (!version)
+            break;
+        tool.isInstalled = true;
+        tool.version = version.value();
         tool.uninstallCommand = nodeRemovalCommand(copy);
         if (!tool.uninstallCommand) {
             tool.uninstallNote =
