@@ -1,11 +1,14 @@
 #include "UpdateSheet.h"
 
+#include "SheetParts.h"
+
 #include "BoundedLog.h"
 #include "LogFile.h"
 #include "ToolUpdater.h"
 
 #include "ActivityIndicator.h"
 #include "Button.h"
+#include "CopyButton.h"
 #include "FocusOrder.h"
 #include "FocusRing.h"
 #include "IconTile.h"
@@ -27,21 +30,6 @@ namespace {
 
 constexpr int kSheetWidth = 440;
 constexpr int kSheetHeight = 340;
-
-QHBoxLayout* padded(QWidget* widget)
-{
-    auto* row = hstack(0, sides(spacing::sheetSide));
-    row->addWidget(widget);
-    return row;
-}
-
-Button* sheetButton(const QString& title, Button::Style style, const char* objectName)
-{
-    auto* button = new Button(title, style, Button::Size::large);
-    button->setObjectName(QString::fromLatin1(objectName));
-    button->setMinimumLabelWidth(72);
-    return button;
-}
 
 } // namespace
 
@@ -66,28 +54,14 @@ UpdateSheet::UpdateSheet(CLITool tool, std::optional<QString> currentVersion, QS
     column->addStretch(1);
 
     // Header: the state icon, the title and what is about to happen.
-    auto* header = vstack(14);
-    m_icon = new IconTile(QSize(64, 64), Shape::circle(), Tint(Role::accent, 0.12));
-    m_icon->setObjectName(QStringLiteral("sheetStateIcon"));
-    auto* iconContent = vstack(m_icon, 0);
-    m_spinner = new ActivityIndicator(22, Tint(Role::secondary));
-    m_symbol = new SymbolView(QStringLiteral("arrow.down.circle"), 28, Tint(Role::accent));
-    m_symbol->setObjectName(QStringLiteral("sheetSymbol"));
-    iconContent->addWidget(m_spinner, 0, Qt::AlignCenter);
-    iconContent->addWidget(m_symbol, 0, Qt::AlignCenter);
-    header->addWidget(m_icon, 0, Qt::AlignHCenter);
-    m_title = new Label(QString(), Theme::font(18, QFont::Bold));
-    m_title->setObjectName(QStringLiteral("sheetTitle"));
-    m_title->setAlignment(Qt::AlignHCenter);
-    header->addWidget(m_title, 0, Qt::AlignHCenter);
-    m_description = new Label(QString(), Theme::font(13), Tint(Role::secondary));
-    m_description->setObjectName(QStringLiteral("sheetDescription"));
-    m_description->setAlignment(Qt::AlignHCenter);
-    m_description->setWrapping(true);
-    auto* descriptionRow = hstack(0, sides(16));
-    descriptionRow->addWidget(m_description);
-    header->addLayout(descriptionRow);
-    column->addLayout(header);
+    const SheetHeader header = makeSheetHeader(Tint(Role::accent, 0.12), QStringLiteral("arrow.down.circle"), 28,
+                                               Tint(Role::accent));
+    m_icon = header.icon;
+    m_spinner = header.spinner;
+    m_symbol = header.symbol;
+    m_title = header.title;
+    m_description = header.description;
+    column->addLayout(header.layout);
 
     // The live log, with a way to copy all of it.
     m_logSection = new QWidget;
@@ -95,12 +69,7 @@ UpdateSheet::UpdateSheet(CLITool tool, std::optional<QString> currentVersion, QS
     auto* logColumn = vstack(m_logSection, 6);
     auto* logHeader = hstack(8);
     logHeader->addStretch(1);
-    auto* copyLog = new Button(tr("Copy Log"), Button::Style::plain);
-    copyLog->setObjectName(QStringLiteral("copyLogButton"));
-    copyLog->setTitleFont(Theme::caption());
-    copyLog->setLeadingSymbol(QStringLiteral("doc.on.clipboard"), 10);
-    copyLog->setSpacing(4);
-    copyLog->setToolTip(tr("Copy the whole log"));
+    Button* copyLog = CopyButton::makeCopyLogButton();
     connect(copyLog, &QAbstractButton::clicked, this, [this] { QGuiApplication::clipboard()->setText(m_output); });
     logHeader->addWidget(copyLog);
     logColumn->addLayout(logHeader);
@@ -109,23 +78,13 @@ UpdateSheet::UpdateSheet(CLITool tool, std::optional<QString> currentVersion, QS
     m_log->setFixedHeight(110);
     m_log->setLimit(BoundedLog::kDefaultLimit, BoundedLog::cutNotice());
     logColumn->addWidget(m_log);
-    column->addLayout(padded(m_logSection));
+    column->addLayout(sheetPadded(m_logSection));
 
     // The error row.
-    auto* errorCard = new RoundedCard;
-    errorCard->setObjectName(QStringLiteral("errorRow"));
-    errorCard->setCornerRadius(8);
-    errorCard->setFill(Tint(Role::orange, 0.10));
-    auto* errorLayout = hstack(errorCard, 8, around(spacing::boxPadding));
-    errorLayout->addWidget(new SymbolView(QStringLiteral("exclamationmark.triangle.fill"), 13, Tint(Role::orange)), 0,
-                           Qt::AlignTop);
-    m_error = new Label(QString(), Theme::font(12), Tint(Role::secondary));
-    m_error->setObjectName(QStringLiteral("errorMessage"));
-    m_error->setWrapping(true);
-    m_error->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    errorLayout->addWidget(m_error, 1, Qt::AlignVCenter);
-    m_errorRow = errorCard;
-    column->addLayout(padded(m_errorRow));
+    const SheetErrorRow error = makeSheetErrorRow(Qt::AlignTop);
+    m_errorRow = error.row;
+    m_error = error.message;
+    column->addLayout(sheetPadded(m_errorRow));
 
     // The buttons.
     auto* buttons = hstack(12, sides(spacing::sheetSide));

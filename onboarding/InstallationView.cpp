@@ -6,6 +6,7 @@
 #include "Platform.h"
 
 #include "CopiedToast.h"
+#include "CopyButton.h"
 #include "IconTile.h"
 #include "Label.h"
 #include "Layout.h"
@@ -186,12 +187,7 @@ InstallationView::InstallationView(InstallationState& state, InstallationControl
     m_detailsToggle->addStretch(1);
     connect(m_detailsToggle, &QAbstractButton::clicked, this, [this] { setShowDetails(!m_showDetails); });
     logHeader->addWidget(m_detailsToggle, 1);
-    auto* copyLog = new Button(tr("Copy Log"), Button::Style::plain);
-    copyLog->setObjectName(QStringLiteral("copyLogButton"));
-    copyLog->setTitleFont(Theme::caption());
-    copyLog->setLeadingSymbol(QStringLiteral("doc.on.clipboard"), 10);
-    copyLog->setSpacing(4);
-    copyLog->setToolTip(tr("Copy the whole log"));
+    Button* copyLog = CopyButton::makeCopyLogButton();
     connect(copyLog, &QAbstractButton::clicked, this, &InstallationView::copyLog);
     logHeader->addWidget(copyLog, 0, Qt::AlignVCenter);
     logColumn->addLayout(logHeader);

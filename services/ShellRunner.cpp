@@ -1,5 +1,7 @@
 #include "ShellRunner.h"
 
+#include "SharedResult.h"
+
 #include "Diagnostics.h"
 #include "Platform.h"
 #include "ProcessMemory.h"
@@ -91,36 +93,16 @@ struct MarkedStream {
 
 } // namespace
 
-// One reading of the login shell's environment, with the commands waiting for it. They are
-// resumed on a later turn of the event loop, each after the other, once it has been read.
-class ShellRunner::Reading {
+// One reading of the login shell's environment, shared by the commands waiting for it, for
+// the generation of the environment it reads.
+class ShellRunner::Reading : public SharedResult<std::shared_ptr<const LoginEnvironment>> {
 public:
     explicit Reading(quint64 generation) : m_generation(generation) {}
 
     quint64 generation() const { return m_generation; }
 
-    struct Awaiter {
-        std::shared_ptr<Reading> reading;
-        bool await_ready() const noexcept { return reading->m_done; }
-        void await_suspend(std::coroutine_handle<> waiter) { reading->m_waiters.push_back(waiter); }
-        std::shared_ptr<const LoginEnvironment> await_resume() const { return reading->m_result; }
-    };
-    static Awaiter result(std::shared_ptr<Reading> reading) { return Awaiter{std::move(reading)}; }
-
-    void finish(std::shared_ptr<const LoginEnvironment> result)
-    {
-        m_result = std::move(result);
-        m_done = true;
-        for (const std::coroutine_handle<> waiter : std::exchange(m_waiters, {}))
-            QMetaObject::invokeMethod(
-                QCoreApplication::instance(), [waiter] { waiter.resume(); }, Qt::QueuedConnection);
-    }
-
 private:
     quint64 m_generation;
-    bool m_done = false;
-    std::shared_ptr<const LoginEnvironment> m_result;
-    std::vector<std::coroutine_handle<>> m_waiters;
 };
 
 ShellRunner::Configuration ShellRunner::standardConfiguration(const Platform& platform)

@@ -1,5 +1,7 @@
 #include "UpdateChecker.h"
 
+#include "SharedResult.h"
+
 #include "Diagnosis.h"
 #include "Diagnostics.h"
 #include "Preferences.h"
@@ -38,32 +40,8 @@ bool ToolUpdateInfo::updateAvailable() const
     return installedVersion && latestVersion && isNewerVersion(*latestVersion, *installedVersion);
 }
 
-// One check of the registry for one tool, with the callers waiting for its answer. They are
-// resumed on a later turn of the event loop, one after the other, once it has come.
-class UpdateChecker::Lookup {
-public:
-    struct Awaiter {
-        std::shared_ptr<Lookup> lookup;
-        bool await_ready() const noexcept { return lookup->m_done; }
-        void await_suspend(std::coroutine_handle<> waiter) { lookup->m_waiters.push_back(waiter); }
-        std::optional<PublishedVersion> await_resume() const { return lookup->m_result; }
-    };
-    static Awaiter result(std::shared_ptr<Lookup> lookup) { return Awaiter{std::move(lookup)}; }
-
-    void finish(std::optional<PublishedVersion> result)
-    {
-        m_result = std::move(result);
-        m_done = true;
-        for (const std::coroutine_handle<> waiter : std::exchange(m_waiters, {}))
-            QMetaObject::invokeMethod(
-                QCoreApplication::instance(), [waiter] { waiter.resume(); }, Qt::QueuedConnection);
-    }
-
-private:
-    bool m_done = false;
-    std::optional<PublishedVersion> m_result;
-    std::vector<std::coroutine_handle<>> m_waiters;
-};
+// One check of the registry for one tool, with the callers waiting for its answer.
+class UpdateChecker::Lookup : public SharedResult<std::optional<PublishedVersion>> {};
 
 UpdateChecker::UpdateChecker(ShellRunner& shell, SystemDetector& detector)
     : m_shell(shell), m_detector(detector), m_clock([] { return QDateTime::currentDateTimeUtc(); })

@@ -1,5 +1,7 @@
 #include "CopyButton.h"
 
+#include "Theme.h"
+
 #include <QClipboard>
 #include <QGuiApplication>
 
@@ -45,6 +47,17 @@ void CopyButton::copy()
     clipboard->setText(m_text);
     if (m_onCopy)
         m_onCopy();
+}
+
+Button* CopyButton::makeCopyLogButton()
+{
+    auto* button = new Button(tr("Copy Log"), Button::Style::plain);
+    button->setObjectName(QStringLiteral("copyLogButton"));
+    button->setTitleFont(Theme::caption());
+    button->setLeadingSymbol(QStringLiteral("doc.on.clipboard"), 10);
+    button->setSpacing(4);
+    button->setToolTip(tr("Copy the whole log"));
+    return button;
 }
 
 } // namespace qf::ui

@@ -21,6 +21,9 @@ public:
     CopyButtonStyle copyStyle() const { return m_copyStyle; }
     // Point size of the clipboard symbol for a style.
     static qreal symbolSize(CopyButtonStyle style);
+    // The small "Copy Log" text button ("copyLogButton") above a log; its owner decides what
+    // a click copies.
+    static Button* makeCopyLogButton();
 
 private:
     void copy();
