@@ -1,8 +1,13 @@
 #pragma once
 
+#include <QFile>
+#include <QFileInfo>
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QString>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
 
 #include <cstdio>
 
@@ -33,6 +38,16 @@ inline ShellAnswer freshLoginShell(const QString& shell, const QString& home, co
     if (!process.waitForFinished(120000))
         return {};
     return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()).trimmed()};
+}
+
+// Makes `home` this process's home, with `shell` as the user's shell (the login shell the
+// app reads, and the one a terminal window would start).
+inline void moveInto(const QTemporaryDir& home, const QString& shell)
+{
+    ASSERT_TRUE(home.isValid());
+    qputenv("HOME", QFile::encodeName(home.path()));
+    ASSERT_TRUE(QFileInfo(shell).isExecutable()) << "zsh is needed for the login shell";
+    qputenv("SHELL", QFile::encodeName(shell));
 }
 
 // Prints what the test does as it goes, for whoever runs it.

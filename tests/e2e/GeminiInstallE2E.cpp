@@ -22,11 +22,8 @@ using qf::e2e::ShellAnswer;
 TEST(GeminiEndToEnd, InstalledWithoutAdministratorRightsFoundByTheTerminalAndRemoved)
 {
     QTemporaryDir home;
-    ASSERT_TRUE(home.isValid());
-    qputenv("HOME", QFile::encodeName(home.path()));
     const QString shell = QStringLiteral("/bin/zsh");
-    ASSERT_TRUE(QFileInfo(shell).isExecutable()) << "zsh is needed for the login shell";
-    qputenv("SHELL", QFile::encodeName(shell));
+    ASSERT_NO_FATAL_FAILURE(e2e::moveInto(home, shell));
 
     const std::unique_ptr<Platform> platform = createNativePlatform();
     Services services(*platform);

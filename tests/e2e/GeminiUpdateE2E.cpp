@@ -45,11 +45,8 @@ std::optional<ToolVersion> previousMinorRelease(const ToolVersion& newest, const
 TEST(GeminiEndToEnd, AnOlderVersionInLocalIsFoundOutOfDateAndUpdatedInPlace)
 {
     QTemporaryDir home;
-    ASSERT_TRUE(home.isValid());
-    qputenv("HOME", QFile::encodeName(home.path()));
     const QString shell = QStringLiteral("/bin/zsh");
-    ASSERT_TRUE(QFileInfo(shell).isExecutable()) << "zsh is needed for the login shell";
-    qputenv("SHELL", QFile::encodeName(shell));
+    ASSERT_NO_FATAL_FAILURE(e2e::moveInto(home, shell));
     Preferences::useFile(home.filePath(QStringLiteral("preferences.ini")));
 
     const std::unique_ptr<Platform> platform = createNativePlatform();
