@@ -47,8 +47,8 @@ void handleSystemToolAction(const SystemTool& tool, Platform& platform, const st
     case SystemToolID::developerTools:
         if (!tool.isInstalled) {
             const DeveloperToolsItem item = platform.developerToolsItem();
-            platform.startDeveloperToolsInstaller([fallback, item](bool started) {
-                if (!started && fallback && !item.installLine.isEmpty()) {
+            platform.startDeveloperToolsInstaller([fallback, item](TerminalAnswer answer) {
+                if (answer != TerminalAnswer::opened && fallback && !item.installLine.isEmpty()) {
                     fallback({Text::tr("The installer could not be started"),
                               Text::tr("Open a terminal yourself and type this line:"), item.installLine});
                 }

@@ -144,7 +144,7 @@ FirstProjectTipsCard::FirstProjectTipsCard(const std::function<void()>& onCopy, 
 QList<StepRow*> FirstProjectTipsCard::steps() const { return findChildren<StepRow*>(); }
 
 CompletionView::CompletionView(InstallationState& state, TerminalLauncher& terminal, QWidget* parent)
-    : QWidget(parent), m_state(state)
+    : QWidget(parent), m_state(state), m_wording(terminal.wording())
 {
     setObjectName(QStringLiteral("completionView"));
     const std::optional<CLITool> tool = m_state.selectedTool();
@@ -286,8 +286,13 @@ void CompletionView::buildContent(CLITool tool, QVBoxLayout* column)
 
 void CompletionView::render()
 {
-    if (m_fallback)
+    if (m_fallback) {
         m_fallback->setVisible(m_launch->failed());
+        // Refused by the system: where to allow it.
+        const bool notAllowed = m_launch->notAllowed();
+        m_fallback->setMessage(notAllowed ? m_wording.terminalNotAllowedTitle : QString(),
+                               notAllowed ? m_wording.terminalNotAllowedHint : QString());
+    }
 }
 
 void CompletionView::showEvent(QShowEvent* event)

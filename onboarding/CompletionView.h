@@ -13,6 +13,8 @@ class QVBoxLayout;
 
 namespace qf {
 
+struct SystemWording;
+
 namespace ui {
 class CopiedToastPresenter;
 class ScrollView;
@@ -102,6 +104,7 @@ private:
     ToolLaunch* m_launch = nullptr;
     ui::ScrollView* m_scroll = nullptr;
     ui::TerminalFallbackRow* m_fallback = nullptr;
+    const SystemWording& m_wording;
     ui::CopiedToastPresenter* m_toast = nullptr;
 };
 

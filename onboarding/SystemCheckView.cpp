@@ -275,8 +275,8 @@ void SystemCheckView::startDeveloperToolsInstaller()
     delete m_installerFallback;
     m_installerFallback = nullptr;
     const QString line = m_platform.developerToolsItem().installLine;
-    m_platform.startDeveloperToolsInstaller([screen = QPointer(this), line](bool started) {
-        if (!screen || started || line.isEmpty())
+    m_platform.startDeveloperToolsInstaller([screen = QPointer(this), line](TerminalAnswer answer) {
+        if (!screen || answer == TerminalAnswer::opened || line.isEmpty())
             return;
         delete screen->m_installerFallback;
         screen->m_installerFallback = new TerminalFallbackRow(

@@ -118,6 +118,9 @@ void TerminalLaunchedView::render()
                             : m_wording.toolLaunchedTitle.arg(m_tool.displayName()));
     m_subtitle->setVisible(!failed);
     m_fallback->setVisible(failed);
+    const bool notAllowed = m_launch.notAllowed();
+    m_fallback->setMessage(notAllowed ? m_wording.terminalNotAllowedTitle : QString(),
+                           notAllowed ? m_wording.terminalNotAllowedHint : QString());
     setAccessibleName(m_title->text());
     m_scroll->setAccessibleName(m_title->text());
 }

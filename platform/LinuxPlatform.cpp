@@ -333,7 +333,7 @@ void LinuxPlatform::openTerminal(const QString& command, const QString& director
 {
     const auto report = [&outcome](bool opened) {
         if (outcome)
-            outcome(opened);
+            outcome(opened ? TerminalAnswer::opened : TerminalAnswer::failed);
     };
     const std::optional<QString> emulator = findTerminalEmulator(qEnvironmentVariable("PATH"));
     if (!emulator) {

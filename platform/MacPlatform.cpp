@@ -12,6 +12,8 @@
 #include <QProcess>
 #include <QSysInfo>
 #include <QTimer>
+#include <QUrl>
+#include <QVersionNumber>
 #include <QWidget>
 
 #include <algorithm>
@@ -22,6 +24,7 @@ namespace {
 
 const QString kOsascript = QStringLiteral("/usr/bin/osascript");
 const QString kXcodeSelect = QStringLiteral("/usr/bin/xcode-select");
+const QString kOpen = QStringLiteral("/usr/bin/open");
 
 // The installer dialog needs a moment to appear before System Events can bring it forward.
 constexpr int kInstallerFrontDelayMs = 500;
@@ -34,6 +37,23 @@ QString translated(const char* context, const char* text) { return QCoreApplicat
 // deleted once it has finished or failed to start, never while it runs. With `reportErrors`
 // a failure becomes one "AppleScript error: " line on standard output. `outcome`, when given,
 // learns whether the script ran to its end.
+#if !defined(Q_OS_MACOS)
+// What a program prints, trimmed; empty when it fails.
+QString programOutput(const QString& program, const QStringList& arguments)
+{
+    QProcess process;
+    process.setStandardInputFile(QProcess::nullDevice());
+    process.start(program, arguments);
+    if (!process.waitForFinished(5000) || process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0)
+        return {};
+    return QString::fromUtf8(process.readAllStandardOutput()).trimmed();
+}
+#endif
+
+// AppleScript's error -1743: the user answered "Don't Allow" when asked whether Quillforge may
+// control the other app (or has turned it off since, in System Settings).
+bool isAutomationRefusal(const QString& osascriptError) { return osascriptError.contains(QLatin1String("(-1743)")); }
+
 void runAppleScript(const QString& script, bool reportErrors, const TerminalOutcome& outcome = {})
 {
     auto* process = new QProcess;
@@ -51,22 +71,23 @@ void runAppleScript(const QString& script, bool reportErrors, const TerminalOutc
                          if (reportErrors)
                              printAppleScriptError(process->errorString());
                          if (outcome)
-                             outcome(false);
+                             outcome(TerminalAnswer::failed);
                          process->deleteLater();
                      });
     QObject::connect(process, &QProcess::finished, process,
                      [process, reportErrors, outcome](int exitCode, QProcess::ExitStatus exitStatus) {
                          const bool succeeded = exitStatus == QProcess::NormalExit && exitCode == 0;
+                         const QString message = QString::fromUtf8(process->readAllStandardError()).trimmed();
                          if (reportErrors && !succeeded) {
-                             QString message = QString::fromUtf8(process->readAllStandardError()).trimmed();
-                             if (message.isEmpty())
-                                 message = exitStatus == QProcess::NormalExit
-                                               ? QStringLiteral("osascript exited with status %1").arg(exitCode)
-                                               : process->errorString();
-                             printAppleScriptError(message);
+                             printAppleScriptError(!message.isEmpty() ? message
+                                                   : exitStatus == QProcess::NormalExit
+                                                       ? QStringLiteral("osascript exited with status %1").arg(exitCode)
+                                                       : process->errorString());
                          }
                          if (outcome)
-                             outcome(succeeded);
+                             outcome(succeeded                      ? TerminalAnswer::opened
+                                     : isAutomationRefusal(message) ? TerminalAnswer::notAllowed
+                                                                    : TerminalAnswer::failed);
                          process->deleteLater();
                      });
     process->start();
@@ -99,13 +120,25 @@ const SystemWording& MacPlatform::standardWording()
         .toolLaunchedTitle = translated("TerminalLaunchedView", "%1 launched in Terminal"),
         .switchToTerminal = translated("TerminalLaunchedView", "Switch to Terminal.app to start using %1"),
         .nodeTooOldForUpdate = translated("ToolUpdater", "%1 %2 needs Node.js %3 or newer; this Mac has %4."),
+        .terminalNotAllowedTitle = translated("TerminalLauncher", "Quillforge is not allowed to control Terminal"),
+        .terminalNotAllowedHint = translated("TerminalLauncher",
+                                             "To let it open Terminal for you, turn on Terminal under Quillforge in "
+                                             "System Settings > Privacy & Security > Automation. Or open Terminal "
+                                             "yourself and type this line:"),
     };
     return wording;
 }
 
 ApplicationLook MacPlatform::applicationLook() const
 {
+#if defined(Q_OS_MACOS)
     return {.nativeStyle = true, .prefersDark = {}, .fontFamilies = {}};
+#else
+    // A simulated Mac's appearance setting: QUILLFORGE_APPEARANCE, light or dark.
+    return {.nativeStyle = true,
+            .prefersDark = LinuxPlatform::appearanceFrom(qgetenv("QUILLFORGE_APPEARANCE"), QByteArray()),
+            .fontFamilies = {}};
+#endif
 }
 
 void MacPlatform::configureMainWindow(QWidget* window) { applyMacWindowStyle(window); }
@@ -120,10 +153,17 @@ WindowFrame MacPlatform::mainWindowFrame(const QWidget* window) const
 
 OperatingSystemCheck MacPlatform::checkOperatingSystem() const
 {
+#if defined(Q_OS_MACOS)
     const QOperatingSystemVersion version = QOperatingSystemVersion::current();
     // Qt answers -1 for a part it does not know.
     return operatingSystemCheck(std::max(0, version.majorVersion()), std::max(0, version.minorVersion()),
                                 std::max(0, version.microVersion()));
+#else
+    // A simulated Mac tells its version as a Mac's sw_vers does.
+    const QVersionNumber version = QVersionNumber::fromString(
+        programOutput(QStringLiteral("/usr/bin/sw_vers"), {QStringLiteral("-productVersion")}));
+    return operatingSystemCheck(version.majorVersion(), version.minorVersion(), version.microVersion());
+#endif
 }
 
 OperatingSystemCheck MacPlatform::operatingSystemCheck(int major, int minor, int patch)
@@ -222,7 +262,7 @@ void MacPlatform::startDeveloperToolsInstaller(TerminalOutcome outcome)
     // The system shows its own installer dialog.
     const bool started = QProcess::startDetached(kXcodeSelect, {QStringLiteral("--install")});
     if (outcome)
-        outcome(started);
+        outcome(started ? TerminalAnswer::opened : TerminalAnswer::failed);
     QTimer::singleShot(kInstallerFrontDelayMs, QCoreApplication::instance(),
                        [] { runAppleScript(systemEventsScript(), false); });
 }
@@ -246,7 +286,12 @@ QStringList MacPlatform::terminalShellInvocation(const QString& line) const
 
 std::optional<NodeReleaseTarget> MacPlatform::nodeReleaseTarget() const
 {
+#if defined(Q_OS_MACOS)
     return nodeReleaseTargetFor(QSysInfo::currentCpuArchitecture());
+#else
+    // A simulated Mac tells its processor as a Mac's uname does.
+    return nodeReleaseTargetFor(programOutput(QStringLiteral("/usr/bin/uname"), {QStringLiteral("-m")}));
+#endif
 }
 
 std::optional<NodeReleaseTarget> MacPlatform::nodeReleaseTargetFor(const QString& cpuArchitecture)
@@ -262,9 +307,18 @@ QString MacPlatform::logFolder() const { return logFolderIn(QDir::homePath()); }
 
 QString MacPlatform::logFolderIn(const QString& home) { return home + QStringLiteral("/Library/Logs/Quillforge"); }
 
-QStringList MacPlatform::revealCommandLine(const QString& path)
+QStringList MacPlatform::revealCommandLine(const QString& path) { return {kOpen, QStringLiteral("-R"), path}; }
+
+bool MacPlatform::revealFolder(const QString& path)
 {
-    return {QStringLiteral("/usr/bin/open"), QStringLiteral("-R"), path};
+    // Finder opens a window on the folder.
+    return QProcess::startDetached(kOpen, {path});
+}
+
+void MacPlatform::openURL(const QUrl& url)
+{
+    if (!QProcess::startDetached(kOpen, {url.toString()}))
+        Platform::openURL(url);
 }
 
 void MacPlatform::revealFile(const QString& path)

@@ -45,6 +45,10 @@ struct SystemWording {
     // An update needs a newer Node.js than the one found: "%1 %2 needs Node.js %3 or newer;
     // this Mac has %4." (the tool, its new version, the major version needed, the one found).
     QString nodeTooOldForUpdate;
+    // The system refused to let Quillforge open a terminal window: what happened, and where the
+    // user allows it (empty where the system never refuses).
+    QString terminalNotAllowedTitle;
+    QString terminalNotAllowedHint;
 };
 
 // The dashboard's developer-tools item: on macOS the Xcode Command Line Tools, on Linux git
@@ -101,9 +105,19 @@ struct NodeReleaseTarget {
     friend bool operator==(const NodeReleaseTarget&, const NodeReleaseTarget&) = default;
 };
 
-// Told once what became of a terminal launch: true when a window was opened, false when none
-// could be (the reason went to standard output).
-using TerminalOutcome = std::function<void(bool opened)>;
+// What became of a terminal launch.
+enum class TerminalAnswer {
+    opened,
+    // No window could be opened; the reason went to standard output.
+    failed,
+    // The user told the system that Quillforge may not control the terminal (macOS asks once,
+    // for Terminal and for System Events); no window opens until they allow it in the
+    // system's settings.
+    notAllowed,
+};
+
+// Told once what became of a terminal launch.
+using TerminalOutcome = std::function<void(TerminalAnswer)>;
 
 // The only place that knows which operating system Quillforge runs on: the application makes
 // one at start (`createNativePlatform()`) and hands it on; tests use a fake.

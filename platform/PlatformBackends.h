@@ -36,6 +36,10 @@ public:
     std::optional<NodeReleaseTarget> nodeReleaseTarget() const override;
     // Finder, with the file selected (`open -R`).
     void revealFile(const QString& path) override;
+    // A Finder window on the folder (`open`).
+    bool revealFolder(const QString& path) override;
+    // The default browser (`open`).
+    void openURL(const QUrl& url) override;
     QString logFolder() const override;
 
     // The texts of a Mac: the ones the whole application was designed with.

@@ -96,17 +96,14 @@ QCoro::Task<SystemTool> SupportTools::detect(SystemTool tool)
     case SystemToolID::developerFolder: break; // known when the catalogue was built
     case SystemToolID::developerTools: {
         const DeveloperToolsItem developerTools = m_platform.developerToolsItem();
-        // The version is asked at the same time as the presence; it counts only with it.
-        QCoro::Task<Result<QString>> presence = m_shell.run(developerTools.presenceCommand);
-        std::optional<QCoro::Task<Result<QString>>> versionRun;
-        if (!developerTools.versionCommand.isEmpty())
-            versionRun.emplace(m_shell.run(developerTools.versionCommand));
-        const Result<QString> present = co_await presence;
-        std::optional<Result<QString>> version;
-        if (versionRun)
-            version = co_await *versionRun;
+        // The version is asked only once the tools are known to be there: on a Mac without
+        // them, the version command is a stub that makes the system offer their installation.
+        const Result<QString> present = co_await m_shell.run(developerTools.presenceCommand);
         if (!present)
             break;
+        std::optional<Result<QString>> version;
+        if (!developerTools.versionCommand.isEmpty())
+            version = co_await m_shell.run(developerTools.versionCommand);
         tool.isInstalled = true;
         std::optional<QString> output;
         if (!version)

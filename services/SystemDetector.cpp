@@ -1,7 +1,9 @@
 #include "SystemDetector.h"
 
 #include "Diagnostics.h"
+#include "GitPresence.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 
@@ -184,9 +186,14 @@ QCoro::Task<QList<RequirementStatus>> SystemDetector::checkAllRequirements(CLITo
     requirements << checkOperatingSystem();
     requirements << diskSpaceStatus(availableDiskSpaceMB());
     // Every setup needs git; without it the installation would stop at its second step.
-    const Result<QString> git = co_await m_shell.run(QStringLiteral("git --version"));
-    requirements << RequirementStatus{SystemRequirement::git, git.ok(),
-                                      git ? git.value().trimmed() : QStringLiteral("Not installed")};
+    const GitPresence git = co_await findGit(m_shell, m_platform);
+    QString gitDetails = QStringLiteral("Not installed");
+    if (git.version)
+        gitDetails = git.version.value().trimmed();
+    else if (git.developerToolsMissing)
+        gitDetails =
+            QCoreApplication::translate("SystemDetector", "%1 not installed").arg(m_platform.developerToolsItem().name);
+    requirements << RequirementStatus{SystemRequirement::git, git.version.ok(), gitDetails};
     if (tool.requiresNodeJS()) {
         const NodeCheck node = co_await checkNodeJS(tool.minimumNodeMajorVersion());
         requirements << nodeStatus(node, tool);

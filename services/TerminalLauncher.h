@@ -11,6 +11,9 @@ class TerminalLauncher {
 public:
     explicit TerminalLauncher(Platform& platform) : m_platform(platform) {}
 
+    // The system's words for its terminal, and for a launch it refused.
+    const SystemWording& wording() const { return m_platform.wording(); }
+
     // Where the tools start: the projects folder, as the shell in the window expands it.
     static QString projectsDirectory() { return QStringLiteral("~/Developer"); }
     // The line a person types to do by hand what a launch does: "cd ~/Developer && claude".

@@ -1,5 +1,6 @@
 #include "ToolInstaller.h"
 
+#include "GitPresence.h"
 #include "ShellQuote.h"
 
 #include <QDir>
@@ -54,7 +55,8 @@ QCoro::Task<bool> ToolInstaller::createDeveloperFolder(Output onOutput)
 
 QCoro::Task<ToolInstaller::GitCheck> ToolInstaller::checkGit(Output onOutput)
 {
-    const Result<QString> result = co_await m_shell.run(QStringLiteral("git --version"));
+    const GitPresence git = co_await findGit(m_shell, m_platform);
+    const Result<QString>& result = git.version;
     if (!result) {
         onOutput(m_platform.wording().gitMissingLog);
         co_return GitCheck{false, std::nullopt};

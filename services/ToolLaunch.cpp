@@ -15,10 +15,10 @@ void ToolLaunch::open()
 {
     const int launch = ++m_launches;
     QPointer<ToolLaunch> self(this);
-    m_launcher.openInTerminal(m_command, TerminalLauncher::projectsDirectory(), [self, launch](bool opened) {
-        if (!self || launch != self->m_launches || self->m_failed == !opened)
+    m_launcher.openInTerminal(m_command, TerminalLauncher::projectsDirectory(), [self, launch](TerminalAnswer answer) {
+        if (!self || launch != self->m_launches || self->m_answer == answer)
             return;
-        self->m_failed = !opened;
+        self->m_answer = answer;
         Q_EMIT self->failedChanged();
     });
 }

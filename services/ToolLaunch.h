@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Platform.h"
+
 #include <QObject>
 #include <QString>
 
@@ -19,7 +21,9 @@ public:
 
     void open();
     int launches() const { return m_launches; }
-    bool failed() const { return m_failed; }
+    bool failed() const { return m_answer != TerminalAnswer::opened; }
+    // Whether the system refused to let Quillforge control the terminal.
+    bool notAllowed() const { return m_answer == TerminalAnswer::notAllowed; }
     // What to type instead: "cd ~/Developer && " and the command.
     QString typedLine() const;
 
@@ -30,7 +34,7 @@ private:
     TerminalLauncher& m_launcher;
     QString m_command;
     int m_launches = 0;
-    bool m_failed = false;
+    TerminalAnswer m_answer = TerminalAnswer::opened;
 };
 
 } // namespace qf

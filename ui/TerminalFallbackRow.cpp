@@ -15,7 +15,7 @@ TerminalFallbackRow::TerminalFallbackRow(const QString& line, std::function<void
 
 TerminalFallbackRow::TerminalFallbackRow(const QString& title, const QString& hintText, const QString& line,
                                          std::function<void()> onCopy, QWidget* parent)
-    : RoundedCard(parent)
+    : RoundedCard(parent), m_firstTitle(title), m_firstHint(hintText)
 {
     setObjectName(QStringLiteral("terminalFallback"));
     setCornerRadius(10);
@@ -28,10 +28,13 @@ TerminalFallbackRow::TerminalFallbackRow(const QString& title, const QString& hi
     row->addWidget(new SymbolView(QStringLiteral("exclamationmark.triangle.fill"), 15, Tint(Role::orange)), 0,
                    Qt::AlignTop);
     auto* column = vstack(6);
-    column->addWidget(new Label(title, Theme::font(12, QFont::DemiBold)));
-    auto* hint = new Label(hintText, Theme::caption(), Tint(Role::secondary));
-    hint->setWrapping(true);
-    column->addWidget(hint);
+    m_title = new Label(title, Theme::font(12, QFont::DemiBold));
+    m_title->setObjectName(QStringLiteral("terminalFallbackTitle"));
+    column->addWidget(m_title);
+    m_hint = new Label(hintText, Theme::caption(), Tint(Role::secondary));
+    m_hint->setObjectName(QStringLiteral("terminalFallbackHint"));
+    m_hint->setWrapping(true);
+    column->addWidget(m_hint);
 
     auto* codeRow = hstack(8);
     auto* code = roundedCard(QStringLiteral("codeBox"), 6, Tint(Role::textBackground));
@@ -49,6 +52,13 @@ TerminalFallbackRow::TerminalFallbackRow(const QString& title, const QString& hi
     codeRow->addStretch(0);
     column->addLayout(codeRow);
     row->addLayout(column, 1);
+}
+
+void TerminalFallbackRow::setMessage(const QString& title, const QString& hint)
+{
+    m_title->setText(title.isEmpty() ? m_firstTitle : title);
+    m_hint->setText(hint.isEmpty() ? m_firstHint : hint);
+    setAccessibleName(m_title->text());
 }
 
 } // namespace qf::ui

@@ -38,16 +38,16 @@ public:
         if (!outcome)
             return;
         if (holdTerminalOutcomes)
-            heldOutcomes.append({std::move(outcome), terminalOpens});
+            heldOutcomes.append({std::move(outcome), terminalAnswer()});
         else
-            outcome(terminalOpens);
+            outcome(terminalAnswer());
     }
     // Answers the held launches, oldest first, as a Mac does once osascript has ended.
     void releaseTerminalOutcomes()
     {
         const auto held = std::exchange(heldOutcomes, {});
-        for (const auto& [outcome, opened] : held)
-            outcome(opened);
+        for (const auto& [outcome, answer] : held)
+            outcome(answer);
     }
     QString terminalDescription() const override { return QStringLiteral("fake terminal"); }
     bool hasApplicationMenu() const override { return applicationMenu; }
@@ -64,7 +64,7 @@ public:
     {
         ++installersStarted;
         if (outcome)
-            outcome(terminalOpens);
+            outcome(terminalAnswer());
     }
     bool setupIncludesHomebrew() const override { return homebrew; }
     QStringList terminalShellInvocation(const QString& line) const override
@@ -122,6 +122,7 @@ public:
     bool loginTerminals = true;
     // Whether a terminal window opens; whether the answer waits for `releaseTerminalOutcomes`.
     bool terminalOpens = true;
+    TerminalAnswer terminalAnswer() const { return terminalOpens ? TerminalAnswer::opened : TerminalAnswer::failed; }
     bool holdTerminalOutcomes = false;
     // Whether "About Quillforge" lives in a menu of the system's, as on macOS.
     bool applicationMenu = false;
@@ -133,7 +134,7 @@ public:
     // Whether a file manager shows a folder when asked.
     bool fileManagerAnswers = true;
     QList<QPair<QString, QString>> terminals;
-    QList<QPair<TerminalOutcome, bool>> heldOutcomes;
+    QList<QPair<TerminalOutcome, TerminalAnswer>> heldOutcomes;
     QStringList revealed;
     QStringList revealedFiles;
     QList<QUrl> openedURLs;

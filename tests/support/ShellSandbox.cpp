@@ -81,6 +81,9 @@ QString ShellSandbox::path(const QString& relative) const { return home() + QLat
 void ShellSandbox::installFake(const QString& name, const QString& as)
 {
     installFakeAt(name, binDirectory() + QLatin1Char('/') + (as.isEmpty() ? name : as));
+    // A Mac's git is the developer tools' git: where it works, they are there.
+    if (name == QLatin1String("git") && as.isEmpty())
+        installFakeAt(QStringLiteral("xcode-select"), binDirectory() + QStringLiteral("/xcode-select"));
 }
 
 void ShellSandbox::installFakes(std::initializer_list<const char*> names)

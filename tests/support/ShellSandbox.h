@@ -32,7 +32,8 @@ public:
     // A shell runner that works in this sandbox: the test shell, the fake programs, the tools.
     ShellRunner::Configuration shellConfiguration() const;
 
-    // Puts the fake `name` (or a copy of it under `as`) into the fake program folder.
+    // Puts the fake `name` (or a copy of it under `as`) into the fake program folder; git comes
+    // with xcode-select, as a Mac's git comes with the developer tools.
     void installFake(const QString& name, const QString& as = QString());
     void installFakes(std::initializer_list<const char*> names);
     // Puts the fake `name` at an absolute path (inside the sandbox).

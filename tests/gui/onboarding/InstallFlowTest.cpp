@@ -190,7 +190,7 @@ TEST_F(InstallFlowTest, MissingGitBlocksTheInstallationAndOffersItsInstaller)
               QStringLiteral("Not installed"));
     EXPECT_FALSE(button("mainButton")->isEnabled());
     EXPECT_EQ(text("blockedReason"),
-              QStringLiteral("Install is not available until this is fixed: Git (Not installed)."));
+              QStringLiteral("Install is not available until this is fixed: Git (Xcode CLI Tools not installed)."));
     // The row offers the system's installer, as the dashboard does, and the screen starts there.
     auto* fix = test::child<QAbstractButton>(gitRow, QStringLiteral("requirementFixButton"));
     EXPECT_EQ(QApplication::focusWidget(), fix);

@@ -307,7 +307,7 @@ TEST_P(LinuxPlatformOpenTerminal, RunsTheLineInTheDirectoryAndEndsInTheShell)
     qf::test::StdoutCapture capture;
     std::optional<bool> opened;
     platform.openTerminal(QStringLiteral("pwd > ") + qf::shellQuote(pwdFile), QStringLiteral("~/") + relative,
-                          [&opened](bool answer) { opened = answer; });
+                          [&opened](qf::TerminalAnswer answer) { opened = answer == qf::TerminalAnswer::opened; });
     EXPECT_EQ(opened, true);
     const auto read = [](const QString& path) {
         QFile file(path);
@@ -355,7 +355,7 @@ TEST(LinuxPlatformOpenTerminalFailures, NoEmulatorIsOneDiagnosticLine)
     qf::test::StdoutCapture capture;
     std::optional<bool> opened;
     platform.openTerminal(QStringLiteral("claude"), QStringLiteral("~/Developer"),
-                          [&opened](bool answer) { opened = answer; });
+                          [&opened](qf::TerminalAnswer answer) { opened = answer == qf::TerminalAnswer::opened; });
     const QString printed = capture.text();
     capture.restore();
     EXPECT_EQ(opened, false);
@@ -372,8 +372,9 @@ TEST(LinuxPlatformOpenTerminalFailures, EmulatorThatCannotStartIsOneDiagnosticLi
 
     qf::test::StdoutCapture capture;
     std::optional<bool> opened;
-    LinuxPlatform().openTerminal(QStringLiteral("claude"), QStringLiteral("~/Developer"),
-                                 [&opened](bool answer) { opened = answer; });
+    LinuxPlatform().openTerminal(
+        QStringLiteral("claude"), QStringLiteral("~/Developer"),
+        [&opened](qf::TerminalAnswer answer) { opened = answer == qf::TerminalAnswer::opened; });
     const QString printed = capture.text();
     capture.restore();
     EXPECT_EQ(opened, false);

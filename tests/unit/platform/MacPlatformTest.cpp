@@ -76,7 +76,7 @@ TEST(MacPlatformTerminal, LaunchFailureIsOneDiagnosticLine)
     qf::test::StdoutCapture capture;
     std::optional<bool> opened;
     MacPlatform().openTerminal(QStringLiteral("claude"), QStringLiteral("~/Developer"),
-                               [&opened](bool answer) { opened = answer; });
+                               [&opened](qf::TerminalAnswer answer) { opened = answer == qf::TerminalAnswer::opened; });
     const bool reported = QTest::qWaitFor([&] { return opened && capture.text().contains(QLatin1Char('\n')); }, 20000);
     // Lets the failed process be deleted and anything else it might print come out.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);

@@ -98,8 +98,10 @@ TEST_F(SystemDetectorTest, RequirementListsPerTool)
     EXPECT_EQ(gemini[0], (RequirementStatus{SystemRequirement::macOSVersion, true, QStringLiteral("macOS 14.0.0")}));
     EXPECT_EQ(gemini[1],
               (RequirementStatus{SystemRequirement::diskSpace, false, QStringLiteral("199 MB free, 200 MB needed")}));
-    // git is checked for every tool.
-    EXPECT_EQ(gemini[2], (RequirementStatus{SystemRequirement::git, false, QStringLiteral("Not installed")}));
+    // git is checked for every tool; without the developer tools it is not run, and the row
+    // names what is missing.
+    EXPECT_EQ(gemini[2],
+              (RequirementStatus{SystemRequirement::git, false, QStringLiteral("Xcode CLI Tools not installed")}));
     // A Node.js too old for the tool shows its version and the one needed, and is not met;
     // the same Node.js is new enough for Codex.
     EXPECT_EQ(gemini[3],

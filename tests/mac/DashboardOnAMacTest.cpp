@@ -1,0 +1,97 @@
+#include "MacTest.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+using namespace qf;
+using test::MacTest;
+using test::SimulatedMac;
+
+namespace {
+
+using DashboardOnAMac = MacTest;
+
+} // namespace
+
+// A Mac without the Command Line Tools is the Mac of most first-time users: loading the
+// dashboard, and loading it again as a sheet's "Done" does, asks the system nothing.
+TEST_F(DashboardOnAMac, WithoutTheCommandLineToolsNoSystemDialogAppears)
+{
+    mac.setDeveloperTools(false);
+    open(InstallationStep::home);
+    waitForDashboard();
+    SystemToolCard* tools = item("xcode");
+    EXPECT_FALSE(tools->tool().isInstalled);
+    ASSERT_NE(tools->actionButton(), nullptr);
+    EXPECT_EQ(tools->actionButton()->title(), QStringLiteral("Install"));
+
+    screenAs<HomeView>()->loadData();
+    waitForDashboard();
+    EXPECT_EQ(mac.events(QStringLiteral("developer-tools-dialog")), QStringList());
+}
+
+// With only the Command Line Tools (no Xcode), the item is installed and its version pipeline
+// prints nothing: an empty version, and xcodebuild asked nothing of the system either.
+TEST_F(DashboardOnAMac, TheCommandLineToolsAloneShowAsInstalled)
+{
+    open(InstallationStep::home);
+    waitForDashboard();
+    const SystemTool& tools = item("xcode")->tool();
+    EXPECT_TRUE(tools.isInstalled);
+    EXPECT_EQ(tools.version, QString());
+    EXPECT_EQ(mac.events(QStringLiteral("developer-tools-dialog")), QStringList());
+}
+
+// "Install" starts the system's installer and, half a second later, brings it to the front
+// through System Events.
+TEST_F(DashboardOnAMac, InstallingTheCommandLineToolsOpensTheSystemsInstaller)
+{
+    mac.setDeveloperTools(false);
+    open(InstallationStep::home);
+    waitForDashboard();
+    item("xcode")->actionButton()->click();
+    ASSERT_TRUE(mac.waitForEvents(QStringLiteral("system-events")));
+    const QStringList events = mac.events();
+    ASSERT_EQ(events.size(), 3) << events.join(QLatin1Char('\n')).toStdString();
+    EXPECT_EQ(events[0], QStringLiteral("developer-tools-dialog\txcode-select --install"));
+    EXPECT_EQ(events[1], QStringLiteral("osascript\t") +
+                             MacPlatform::systemEventsScript().replace(QLatin1Char('\n'), QStringLiteral("\\n")));
+    EXPECT_EQ(events[2], QStringLiteral("system-events\t"));
+
+    // Once the user has installed them, the next load shows them.
+    mac.setDeveloperTools(true);
+    screenAs<HomeView>()->loadData();
+    waitForDashboard();
+    EXPECT_TRUE(item("xcode")->tool().isInstalled);
+}
+
+// Homebrew is found in either of its homes, with its version.
+TEST_F(DashboardOnAMac, HomebrewIsFoundOnAppleSiliconAndOnIntel)
+{
+    for (const SimulatedMac::Homebrew homebrew :
+         {SimulatedMac::Homebrew::appleSilicon, SimulatedMac::Homebrew::intel, SimulatedMac::Homebrew::none}) {
+        mac.setHomebrew(homebrew);
+        open(InstallationStep::home);
+        waitForDashboard();
+        const SystemTool& brew = item("homebrew")->tool();
+        EXPECT_EQ(brew.isInstalled, homebrew != SimulatedMac::Homebrew::none);
+        EXPECT_EQ(brew.version,
+                  homebrew != SimulatedMac::Homebrew::none ? std::optional(QStringLiteral("4.4.9")) : std::nullopt);
+        EXPECT_FALSE(item("node")->tool().isInstalled);
+    }
+}
+
+// The projects folder is made and shown in Finder, then in Finder again once it is there.
+TEST_F(DashboardOnAMac, TheProjectsFolderIsShownInFinder)
+{
+    const QString folder = QDir::homePath() + QStringLiteral("/Developer");
+    open(InstallationStep::home);
+    waitForDashboard();
+    item("developer")->actionButton()->click();
+    ASSERT_TRUE(mac.waitForEvents(QStringLiteral("open")));
+    EXPECT_TRUE(QFileInfo(folder).isDir());
+    waitForDashboard();
+    item("developer")->actionButton()->click();
+    ASSERT_TRUE(mac.waitForEvents(QStringLiteral("open"), 2));
+    EXPECT_EQ(mac.events(QStringLiteral("open")), QStringList({folder, folder}));
+}

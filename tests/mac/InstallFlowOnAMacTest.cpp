@@ -1,0 +1,172 @@
+#include "MacTest.h"
+
+#include <QCryptographicHash>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+
+using namespace qf;
+using test::MacTest;
+using test::SimulatedMac;
+
+namespace {
+
+class InstallFlowOnAMac : public MacTest {
+protected:
+    std::optional<RequirementStatus> requirement(SystemRequirement which) const
+    {
+        for (const RequirementStatus& status : state.requirements()) {
+            if (status.requirement == which)
+                return status;
+        }
+        return std::nullopt;
+    }
+    SetupStep step(SetupStepType type) const
+    {
+        for (const SetupStep& row : state.setupSteps()) {
+            if (row.type == type)
+                return row;
+        }
+        ADD_FAILURE() << "no step " << type.rawValue().toStdString();
+        return {type};
+    }
+    static void writeFile(const QString& path, const QByteArray& content)
+    {
+        QDir().mkpath(QFileInfo(path).absolutePath());
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        file.write(content);
+    }
+    // Node.js v22.11.0 as nodejs.org publishes it for a Mac with this processor
+    // ("darwin-arm64", "darwin-x64"), packed with the Mac's tar, and the installer pointed at it.
+    void publishNodeRelease(const QString& platformName)
+    {
+        const QString version = QStringLiteral("v22.11.0");
+        const QString dist = QDir::homePath() + QStringLiteral("/../dist");
+        const QString folder = QStringLiteral("node-%1-%2").arg(version, platformName);
+        const QString staging = QDir::homePath() + QStringLiteral("/../staging/") + folder;
+        writeFile(staging + QStringLiteral("/bin/node"), "#!/bin/sh\necho " + version.toUtf8() + "\n");
+        QFile::remove(staging + QStringLiteral("/bin/npm"));
+        ASSERT_TRUE(QFile::copy(QStringLiteral(QF_FIXTURES_DIR "/bin/npm"), staging + QStringLiteral("/bin/npm")));
+        for (const char* program : {"/bin/node", "/bin/npm"})
+            QFile::setPermissions(staging + QLatin1String(program), QFileDevice::ReadOwner | QFileDevice::ExeOwner);
+        for (const char* loose : {"/CHANGELOG.md", "/LICENSE", "/README.md", "/lib/node_modules/npm/package.json"})
+            writeFile(staging + QLatin1String(loose), "{}\n");
+        const QString archive = dist + QLatin1Char('/') + version + QLatin1Char('/') + folder +
+                                QStringLiteral(".tar.gz");
+        QDir().mkpath(QFileInfo(archive).absolutePath());
+        QProcess tar;
+        tar.setWorkingDirectory(QFileInfo(staging).absolutePath());
+        tar.start(QStringLiteral("/usr/bin/tar"), {QStringLiteral("-czf"), archive, folder});
+        ASSERT_TRUE(tar.waitForFinished(10000) && tar.exitCode() == 0) << tar.readAllStandardError().constData();
+        QFile file(archive);
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        const QByteArray sum = QCryptographicHash::hash(file.readAll(), QCryptographicHash::Sha256).toHex();
+        writeFile(dist + QLatin1Char('/') + version + QStringLiteral("/SHASUMS256.txt"),
+                  sum + "  " + folder.toUtf8() + ".tar.gz\n");
+        writeFile(dist + QStringLiteral("/index.json"),
+                  R"([{"version":"v22.11.0","files":["osx-arm64-tar","osx-x64-tar","linux-x64"],"lts":"Jod"}])");
+        services->nodeInstaller.setDistribution(QStringLiteral("file://") + QDir::cleanPath(dist));
+    }
+};
+
+} // namespace
+
+// The system check says what is missing without running git, whose stub would make the
+// system offer the Command Line Tools in a dialog the user did not ask for.
+TEST_F(InstallFlowOnAMac, WithoutTheCommandLineToolsTheCheckNamesThemAndAsksNothing)
+{
+    mac.setDeveloperTools(false);
+    open(InstallationStep::systemCheck, CLITool::claudeCode);
+    waitForCheck();
+    const std::optional<RequirementStatus> git = requirement(SystemRequirement::git);
+    ASSERT_TRUE(git);
+    EXPECT_FALSE(git->isMet);
+    EXPECT_EQ(git->details, QStringLiteral("Xcode CLI Tools not installed"));
+    EXPECT_EQ(mac.events(QStringLiteral("developer-tools-dialog")), QStringList());
+
+    // The installation stops at git with the Mac's own advice, and asks the system nothing.
+    open(InstallationStep::installation, CLITool::claudeCode);
+    waitForInstallation();
+    EXPECT_EQ(step(SetupStepType::checkGit).status.kind(), SetupStepStatus::failed);
+    EXPECT_EQ(state.errorMessage(), platform->wording().gitMissingError);
+    EXPECT_EQ(mac.events(QStringLiteral("developer-tools-dialog")), QStringList());
+
+    // With them, git is the Mac's.
+    mac.setDeveloperTools(true);
+    open(InstallationStep::systemCheck, CLITool::claudeCode);
+    waitForCheck();
+    EXPECT_EQ(requirement(SystemRequirement::git),
+              (RequirementStatus{SystemRequirement::git, true, QStringLiteral("git version 2.39.5 (Apple Git-154)")}));
+}
+
+// The operating system requirement reads the Mac's version: 13 is too old, 14 and 26 are fine.
+TEST_F(InstallFlowOnAMac, TheMacOSVersionDecidesTheFirstRequirement)
+{
+    for (const auto& [version, met] : {std::pair{"13.6", false}, {"14.5", true}, {"26.1", true}}) {
+        mac.setMacOS(QLatin1String(version));
+        open(InstallationStep::systemCheck, CLITool::claudeCode);
+        waitForCheck();
+        const std::optional<RequirementStatus> os = requirement(SystemRequirement::macOSVersion);
+        ASSERT_TRUE(os);
+        EXPECT_EQ(os->isMet, met) << version;
+        EXPECT_TRUE(os->details.startsWith(QStringLiteral("macOS ") + QLatin1String(version))) << version;
+    }
+}
+
+// Gemini CLI needs Node.js: Homebrew brings it into its own prefix on either processor, and
+// npm puts the tool beside it.
+TEST_F(InstallFlowOnAMac, NodeComesThroughHomebrewInEitherHome)
+{
+    for (const SimulatedMac::Homebrew homebrew :
+         {SimulatedMac::Homebrew::appleSilicon, SimulatedMac::Homebrew::intel}) {
+        mac.setHomebrew(homebrew);
+        const QString prefix = SimulatedMac::homebrewPrefix(homebrew);
+        open(InstallationStep::installation, CLITool::geminiCLI);
+        waitForInstallation();
+        EXPECT_EQ(state.errorMessage(), std::nullopt) << state.installationOutput().toStdString();
+        EXPECT_EQ(step(SetupStepType::installNode).status.kind(), SetupStepStatus::completed);
+        EXPECT_TRUE(state.installationOutput().contains(QStringLiteral("==> Pouring node")));
+        EXPECT_TRUE(QFileInfo(prefix + QStringLiteral("/bin/gemini")).isExecutable()) << prefix.toStdString();
+        QFile::remove(prefix + QStringLiteral("/bin/gemini"));
+        QFile::remove(prefix + QStringLiteral("/bin/node"));
+        QFile::remove(prefix + QStringLiteral("/bin/npm"));
+    }
+    EXPECT_EQ(mac.events(QStringLiteral("developer-tools-dialog")), QStringList());
+}
+
+// Without Homebrew, Node.js comes from nodejs.org's archive for the Mac's processor, unpacked
+// by the Mac's tar (bsdtar) into ~/.local.
+TEST_F(InstallFlowOnAMac, WithoutHomebrewNodeComesFromTheReleaseForTheProcessor)
+{
+    for (const auto& [homebrew, archive] :
+         {std::pair{SimulatedMac::Homebrew::none, "darwin-arm64"}, {SimulatedMac::Homebrew::intel, "darwin-x64"}}) {
+        mac.setHomebrew(homebrew);
+        if (homebrew == SimulatedMac::Homebrew::intel)
+            QFile::remove(QStringLiteral("/usr/local/bin/brew")); // an Intel Mac without Homebrew
+        QDir(QDir::homePath() + QStringLiteral("/.local")).removeRecursively();
+        publishNodeRelease(QLatin1String(archive));
+        open(InstallationStep::installation, CLITool::geminiCLI);
+        waitForInstallation();
+        EXPECT_EQ(state.errorMessage(), std::nullopt) << state.installationOutput().toStdString();
+        EXPECT_TRUE(state.installationOutput().contains(QLatin1String(archive))) << archive;
+        EXPECT_TRUE(QFileInfo(QDir::homePath() + QStringLiteral("/.local/bin/node")).isExecutable());
+        EXPECT_FALSE(QFileInfo::exists(QDir::homePath() + QStringLiteral("/.local/README.md")));
+        EXPECT_TRUE(QFileInfo(QDir::homePath() + QStringLiteral("/.local/bin/gemini")).isExecutable());
+    }
+}
+
+// "Show Log File" after a failure shows the log selected in Finder.
+TEST_F(InstallFlowOnAMac, TheLogFileIsShownInFinder)
+{
+    mac.setDeveloperTools(false);
+    open(InstallationStep::installation, CLITool::codex);
+    waitForInstallation();
+    click("showLogFileButton");
+    ASSERT_TRUE(mac.waitForEvents(QStringLiteral("open")));
+    const QString shown = mac.events(QStringLiteral("open")).constFirst();
+    EXPECT_TRUE(
+        shown.startsWith(QStringLiteral("-R ") + QDir::homePath() + QStringLiteral("/Library/Logs/Quillforge/")))
+        << shown.toStdString();
+}
