@@ -134,10 +134,11 @@ ApplicationLook MacPlatform::applicationLook() const
 #if defined(Q_OS_MACOS)
     return {.nativeStyle = true, .prefersDark = {}, .fontFamilies = {}};
 #else
-    // A simulated Mac's appearance setting: QUILLFORGE_APPEARANCE, light or dark.
-    return {.nativeStyle = true,
+    // A simulated Mac has no system look to draw with: the app's own, in the font that reads
+    // most like the Mac's, light or dark as its appearance setting (QUILLFORGE_APPEARANCE) says.
+    return {.nativeStyle = false,
             .prefersDark = LinuxPlatform::appearanceFrom(qgetenv("QUILLFORGE_APPEARANCE"), QByteArray()),
-            .fontFamilies = {}};
+            .fontFamilies = {QStringLiteral("Inter")}};
 #endif
 }
 
