@@ -50,6 +50,9 @@ TEST_F(AfterInstallOnAMac, TheToolOpensInTerminalInTheProjectsFolder)
     open(InstallationStep::completion, CLITool::claudeCode);
     click("openInTerminalButton");
     ASSERT_TRUE(mac.waitForEvents(QStringLiteral("terminal-window")));
+    EXPECT_EQ(mac.events(QStringLiteral("osascript")),
+              QStringList{QStringLiteral("tell application \"Terminal\"\\n    activate\\n    do script \"cd "
+                                         "~/Developer && claude\"\\nend tell")});
     EXPECT_EQ(mac.events(QStringLiteral("terminal-window")), QStringList{QStringLiteral("cd ~/Developer && claude")});
     EXPECT_FALSE(fallback()->isVisible());
 

@@ -544,12 +544,6 @@ TEST(LogFolders, EachSystemKeepsLogsWhereItsUsersLook)
     EXPECT_EQ(qf::MacPlatform().logFolder(), QDir::homePath() + q("/Library/Logs/Quillforge"));
 }
 
-TEST(LogFolders, FinderSelectsTheFile)
-{
-    EXPECT_EQ(qf::MacPlatform::revealCommandLine(q("/Users/ada/Library/Logs/Quillforge/a b.log")),
-              (QStringList{q("/usr/bin/open"), q("-R"), q("/Users/ada/Library/Logs/Quillforge/a b.log")}));
-}
-
 // The file manager is asked over the session bus; a fake dbus-send records what it was given.
 TEST(LogFolders, TheFileManagerIsAskedToShowTheFile)
 {

@@ -15,57 +15,6 @@ using qf::MacPlatform;
 
 namespace {
 
-TEST(MacPlatformScripts, GeminiScriptIsExactlyFourLines)
-{
-    const QStringList lines =
-        MacPlatform::terminalScript(QStringLiteral("gemini"), QStringLiteral("~/Developer")).split(QLatin1Char('\n'));
-    ASSERT_EQ(lines.size(), 4);
-    EXPECT_EQ(lines[0], QStringLiteral("tell application \"Terminal\""));
-    EXPECT_EQ(lines[1], QStringLiteral("    activate"));
-    EXPECT_EQ(lines[2], QStringLiteral("    do script \"cd ~/Developer && gemini\""));
-    EXPECT_EQ(lines[3], QStringLiteral("end tell"));
-}
-
-TEST(MacPlatformScripts, InsertsDirectoryAndCommandUnchanged)
-{
-    EXPECT_EQ(MacPlatform::terminalScript(QStringLiteral("claude --help"), QStringLiteral("/tmp/x y")),
-              QStringLiteral("tell application \"Terminal\"\n    activate\n    do script \"cd /tmp/x y && claude "
-                             "--help\"\nend tell"));
-}
-
-TEST(MacPlatformScripts, SystemEventsScriptBringsTheInstallerForward)
-{
-    EXPECT_EQ(MacPlatform::systemEventsScript(),
-              QStringLiteral("tell application \"System Events\"\n"
-                             "    set frontmost of process \"Install Command Line Developer Tools\" to true\n"
-                             "end tell"));
-}
-
-TEST(MacPlatformScripts, OsascriptGetsOneDashEPerLine)
-{
-    EXPECT_EQ(MacPlatform::osascriptArguments(
-                  MacPlatform::terminalScript(QStringLiteral("gemini"), QStringLiteral("~/Developer"))),
-              (QStringList{QStringLiteral("-e"), QStringLiteral("tell application \"Terminal\""), QStringLiteral("-e"),
-                           QStringLiteral("    activate"), QStringLiteral("-e"),
-                           QStringLiteral("    do script \"cd ~/Developer && gemini\""), QStringLiteral("-e"),
-                           QStringLiteral("end tell")}));
-    EXPECT_EQ(
-        MacPlatform::osascriptArguments(MacPlatform::systemEventsScript()),
-        (QStringList{QStringLiteral("-e"), QStringLiteral("tell application \"System Events\""), QStringLiteral("-e"),
-                     QStringLiteral("    set frontmost of process \"Install Command Line Developer Tools\" to true"),
-                     QStringLiteral("-e"), QStringLiteral("end tell")}));
-}
-
-TEST(MacPlatformVersion, NeedsMacOS14AndSaysWhichItIs)
-{
-    EXPECT_FALSE(MacPlatform::operatingSystemCheck(13, 99, 99).met);
-    EXPECT_TRUE(MacPlatform::operatingSystemCheck(14, 0, 0).met);
-    EXPECT_TRUE(MacPlatform::operatingSystemCheck(26, 0, 1).met);
-    // The patch is always written, 0 included.
-    EXPECT_EQ(MacPlatform::operatingSystemCheck(14, 0, 0).details, QStringLiteral("macOS 14.0.0"));
-    EXPECT_EQ(MacPlatform::operatingSystemCheck(13, 6, 1).details, QStringLiteral("macOS 13.6.1"));
-}
-
 // Where there is no osascript (every system but macOS) the launch fails, which must come out
 // as exactly one diagnostic line. On a Mac this would open a real Terminal window.
 TEST(MacPlatformTerminal, LaunchFailureIsOneDiagnosticLine)

@@ -184,38 +184,6 @@ TEST_F(SupportToolsTest, ARemovalRunsTheItemsLineAndStreamsWhatItSays)
     EXPECT_TRUE(log.isEmpty());
 }
 
-TEST_F(SupportToolsTest, TheCommandLineToolsGoThroughThePasswordDialog)
-{
-    // osascript stands in for the system's dialog: it records the script and answers as told.
-    sandbox.installFake(QStringLiteral("osascript"));
-    const SystemTool tools = item(SystemToolID::developerTools);
-
-    // Cancelled: declined, with a plain message, and nothing of osascript's in the log.
-    sandbox.setEnv("FAKE_DIALOG", "cancel");
-    const Result<void> cancelled = remove(tools);
-    ASSERT_FALSE(cancelled.ok());
-    EXPECT_TRUE(cancelled.error().isDeclined());
-    EXPECT_EQ(cancelled.error().plainDescription(),
-              QStringLiteral("The password dialog was cancelled, so Xcode CLI Tools was not removed."));
-    EXPECT_EQ(cancelled.error().errorDescription(), cancelled.error().plainDescription());
-    EXPECT_EQ(log, QStringLiteral("Running: rm -rf /Library/Developer/CommandLineTools (as administrator)\n\n"));
-    EXPECT_EQ(QString::fromUtf8(sandbox.readFile(QStringLiteral("../state/osascript.log"))),
-              QStringLiteral("do shell script \"rm -rf /Library/Developer/CommandLineTools\" with administrator "
-                             "privileges\n"));
-
-    // Any other failure says plainly what happened; the log has the system's own words.
-    sandbox.setEnv("FAKE_DIALOG", "fail");
-    const Result<void> failed = remove(tools);
-    ASSERT_FALSE(failed.ok());
-    EXPECT_FALSE(failed.error().isDeclined());
-    EXPECT_EQ(failed.error().plainDescription(), failureSentence(FailureCause::permissionDenied));
-    EXPECT_EQ(failed.error().errorDescription(), QStringLiteral("Command failed with exit code 1: Command failed"));
-    EXPECT_TRUE(log.endsWith(QStringLiteral("rm: Operation not permitted (1)\n"))) << log.toStdString();
-
-    sandbox.setEnv("FAKE_DIALOG", "");
-    EXPECT_TRUE(remove(tools).ok());
-}
-
 TEST_F(SupportToolsTest, HomebrewIsRemovedOnlyOnceItIsGone)
 {
     sandbox.installFakes({"brew", "curl"});
