@@ -1,10 +1,9 @@
 #include "MacTest.h"
+#include "NodeReleaseFixture.h"
 
-#include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QProcess>
 
 using namespace qf;
 using test::MacTest;
@@ -31,43 +30,13 @@ protected:
         ADD_FAILURE() << "no step " << type.rawValue().toStdString();
         return {type};
     }
-    static void writeFile(const QString& path, const QByteArray& content)
-    {
-        QDir().mkpath(QFileInfo(path).absolutePath());
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-        file.write(content);
-    }
     // Node.js v22.11.0 as nodejs.org publishes it for a Mac with this processor
     // ("darwin-arm64", "darwin-x64"), packed with the Mac's tar, and the installer pointed at it.
     void publishNodeRelease(const QString& platformName)
     {
-        const QString version = QStringLiteral("v22.11.0");
-        const QString dist = QDir::homePath() + QStringLiteral("/../dist");
-        const QString folder = QStringLiteral("node-%1-%2").arg(version, platformName);
-        const QString staging = QDir::homePath() + QStringLiteral("/../staging/") + folder;
-        writeFile(staging + QStringLiteral("/bin/node"), "#!/bin/sh\necho " + version.toUtf8() + "\n");
-        QFile::remove(staging + QStringLiteral("/bin/npm"));
-        ASSERT_TRUE(QFile::copy(QStringLiteral(QF_FIXTURES_DIR "/bin/npm"), staging + QStringLiteral("/bin/npm")));
-        for (const char* program : {"/bin/node", "/bin/npm"})
-            QFile::setPermissions(staging + QLatin1String(program), QFileDevice::ReadOwner | QFileDevice::ExeOwner);
-        for (const char* loose : {"/CHANGELOG.md", "/LICENSE", "/README.md", "/lib/node_modules/npm/package.json"})
-            writeFile(staging + QLatin1String(loose), "{}\n");
-        const QString archive = dist + QLatin1Char('/') + version + QLatin1Char('/') + folder +
-                                QStringLiteral(".tar.gz");
-        QDir().mkpath(QFileInfo(archive).absolutePath());
-        QProcess tar;
-        tar.setWorkingDirectory(QFileInfo(staging).absolutePath());
-        tar.start(QStringLiteral("/usr/bin/tar"), {QStringLiteral("-czf"), archive, folder});
-        ASSERT_TRUE(tar.waitForFinished(10000) && tar.exitCode() == 0) << tar.readAllStandardError().constData();
-        QFile file(archive);
-        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-        const QByteArray sum = QCryptographicHash::hash(file.readAll(), QCryptographicHash::Sha256).toHex();
-        writeFile(dist + QLatin1Char('/') + version + QStringLiteral("/SHASUMS256.txt"),
-                  sum + "  " + folder.toUtf8() + ".tar.gz\n");
-        writeFile(dist + QStringLiteral("/index.json"),
-                  R"([{"version":"v22.11.0","files":["osx-arm64-tar","osx-x64-tar","linux-x64"],"lts":"Jod"}])");
-        services->nodeInstaller.setDistribution(QStringLiteral("file://") + QDir::cleanPath(dist));
+        services->nodeInstaller.setDistribution(test::publishNodeRelease(QDir::homePath() + QStringLiteral("/../dist"),
+                                                                         QStringLiteral("v22.11.0"), platformName,
+                                                                         QStringLiteral("/usr/bin/tar")));
     }
 };
 

@@ -1,4 +1,5 @@
 #include "NodeInstaller.h"
+#include "NodeReleaseFixture.h"
 #include "SetupTest.h"
 
 #include <QCryptographicHash>
@@ -16,42 +17,13 @@ namespace {
 
 class NodeInstallerTest : public test::SetupTest {
 protected:
-    // A release folder as nodejs.org publishes it, in the sandbox, and the installer pointed
-    // at it: an index with a newer current release, the newest LTS release `version` with a
-    // Linux archive (whose node prints `version`) and its checksum list, and an older LTS
-    // release. `checksum` replaces the archive's real checksum in the list.
+    // Node.js `version` for this Linux computer, published in the sandbox, and the installer
+    // pointed at it.
     void publishNodeRelease(const QString& version, const QByteArray& checksum = QByteArray())
     {
-        const QString dist = sandbox.stateDirectory() + QStringLiteral("/dist");
-        const QString folder = QStringLiteral("node-") + version + QStringLiteral("-linux-x64");
-        const QString staging = sandbox.stateDirectory() + QStringLiteral("/staging/") + folder;
-        writeFile(staging + QStringLiteral("/bin/node"), "#!/bin/sh\necho " + version.toUtf8() + "\n");
-        QFile::setPermissions(staging + QStringLiteral("/bin/node"), QFileDevice::ReadOwner | QFileDevice::ExeOwner);
-        for (const char* loose : {"/CHANGELOG.md", "/LICENSE", "/README.md", "/lib/node_modules/npm/package.json"})
-            writeFile(staging + QLatin1String(loose), "{}\n");
-        const QString archive = dist + QLatin1Char('/') + version + QLatin1Char('/') + folder +
-                                QStringLiteral(".tar.gz");
-        QDir().mkpath(QFileInfo(archive).absolutePath());
-        QProcess tar;
-        tar.setWorkingDirectory(QFileInfo(staging).absolutePath());
-        tar.start(QStringLiteral("tar"), {QStringLiteral("-czf"), archive, folder});
-        ASSERT_TRUE(tar.waitForFinished(10000) && tar.exitCode() == 0) << tar.readAllStandardError().constData();
-
-        QFile file(archive);
-        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-        const QByteArray sum = checksum.isEmpty()
-                                   ? QCryptographicHash::hash(file.readAll(), QCryptographicHash::Sha256).toHex()
-                                   : checksum;
-        writeFile(dist + QLatin1Char('/') + version + QStringLiteral("/SHASUMS256.txt"),
-                  QByteArray(64, 'a') + "  node-" + version.toUtf8() + "-darwin-arm64.tar.gz\n" + sum + "  " +
-                      folder.toUtf8() + ".tar.gz\n");
-        writeFile(dist + QStringLiteral("/index.json"),
-                  R"([{"version":"v25.2.0","files":["linux-x64","osx-arm64-tar"],"lts":false},
-                      {"version":")" +
-                      version.toUtf8() +
-                      R"(","files":["linux-arm64","linux-x64"],"lts":"Jod"},
-                      {"version":"v20.19.5","files":["linux-x64"],"lts":"Iron"}])");
-        nodeInstaller.setDistribution(QStringLiteral("file://") + dist);
+        nodeInstaller.setDistribution(test::publishNodeRelease(sandbox.stateDirectory() + QStringLiteral("/dist"),
+                                                               version, QStringLiteral("linux-x64"),
+                                                               QStringLiteral("tar"), checksum));
     }
 
     NodeInstaller& nodeInstaller = services.nodeInstaller;
