@@ -4,7 +4,9 @@
 
 #include <QMap>
 
+#include <algorithm>
 #include <functional>
+#include <tuple>
 
 using namespace qf;
 using test::MacTest;
@@ -50,41 +52,58 @@ TEST_F(MacScreenTour, EveryScreenSpeaksMacAndAsksTheSystemNothing)
 {
     mac.setDeveloperTools(false);
     mac.setHomebrew(test::SimulatedMac::Homebrew::none);
-    const QList<std::pair<const char*, std::function<void()>>> visits = {
+    const SystemWording& words = platform->wording();
+    // Each visit, and a text of the Mac's that it shows.
+    const QList<std::tuple<const char*, std::function<void()>, QString>> visits = {
         {"introduction",
          [this] {
              Preferences::setHasCompletedOnboarding(false);
              open(InstallationStep::onboarding);
-         }},
+         },
+         QStringLiteral("Get Started")},
         {"dashboard",
          [this] {
              open(InstallationStep::home);
              waitForDashboard();
-         }},
-        {"tool choice", [this] { open(InstallationStep::welcome); }},
-        {"account", [this] { open(InstallationStep::accountSetup, CLITool::geminiCLI); }},
+         },
+         QStringLiteral("Xcode CLI Tools")},
+        {"tool choice", [this] { open(InstallationStep::welcome); }, QStringLiteral("Gemini CLI")},
+        {"account", [this] { open(InstallationStep::accountSetup, CLITool::geminiCLI); }, words.toolInstallStep},
         {"system check",
          [this] {
              open(InstallationStep::systemCheck, CLITool::geminiCLI);
              waitForCheck();
-         }},
+         },
+         words.osRequirementTitle},
         {"installation",
          [this] {
              open(InstallationStep::installation, CLITool::geminiCLI);
              waitForInstallation();
-         }},
-        {"API key", [this] { open(InstallationStep::apiKey, CLITool::claudeCode); }},
-        {"completion", [this] { open(InstallationStep::completion, CLITool::claudeCode); }},
-        {"terminal", [this] { open(InstallationStep::terminal, CLITool::claudeCode); }},
+         },
+         words.gitMissingError},
+        {"API key", [this] { open(InstallationStep::apiKey, CLITool::claudeCode); }, QStringLiteral("~/.zshrc")},
+        {"completion", [this] { open(InstallationStep::completion, CLITool::claudeCode); },
+         QStringLiteral("Open in Terminal")},
+        {"terminal", [this] { open(InstallationStep::terminal, CLITool::claudeCode); },
+         words.toolLaunchedTitle.arg(QStringLiteral("Claude Code"))},
     };
     const QStringList linux = linuxWords();
-    for (const auto& [name, arrive] : visits) {
+    for (const auto& [name, arrive, macText] : visits) {
         arrive();
-        for (const QString& text : visibleTexts()) {
+        const QStringList texts = visibleTexts();
+        EXPECT_TRUE(
+            std::any_of(texts.cbegin(), texts.cend(), [&](const QString& text) { return text.contains(macText); }))
+            << name << " does not say \"" << macText.toStdString() << "\"";
+        for (const QString& text : texts) {
             for (const QString& word : linux)
                 EXPECT_FALSE(text.contains(word, Qt::CaseInsensitive))
                     << name << ": \"" << text.toStdString() << "\" says \"" << word.toStdString() << "\"";
         }
     }
+    // The maker's sign-up page opens in the browser through the Mac's open.
+    open(InstallationStep::accountSetup, CLITool::claudeCode);
+    click("createAccountButton");
+    ASSERT_TRUE(mac.waitForEvents(QStringLiteral("open")));
+    EXPECT_TRUE(mac.events(QStringLiteral("open")).constFirst().startsWith(QStringLiteral("https://")));
     EXPECT_EQ(mac.events(QStringLiteral("developer-tools-dialog")), QStringList());
 }
