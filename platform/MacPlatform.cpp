@@ -33,8 +33,8 @@ void printAppleScriptError(const QString& text) { printDiagnostic(QStringLiteral
 
 QString translated(const char* context, const char* text) { return QCoreApplication::translate(context, text); }
 
-// Runs `script` through osascript without waiting for it. The process owns itself: it is
-// deleted once it has finished or failed to start, never while it runs. With `reportErrors`
+// Runs `script` through osascript without waiting for it. The process belongs to `owner` and
+// is deleted once it has finished or failed to start. With `reportErrors`
 // a failure becomes one "AppleScript error: " line on standard output. `outcome`, when given,
 // learns whether the script ran to its end.
 #if !defined(Q_OS_MACOS)
@@ -54,9 +54,9 @@ QString programOutput(const QString& program, const QStringList& arguments)
 // control the other app (or has turned it off since, in System Settings).
 bool isAutomationRefusal(const QString& osascriptError) { return osascriptError.contains(QLatin1String("(-1743)")); }
 
-void runAppleScript(const QString& script, bool reportErrors, const TerminalOutcome& outcome = {})
+void runAppleScript(QObject* owner, const QString& script, bool reportErrors, const TerminalOutcome& outcome = {})
 {
-    auto* process = new QProcess;
+    auto* process = new QProcess(owner);
     process->setProgram(kOsascript);
     process->setArguments(MacPlatform::osascriptArguments(script));
     process->setStandardInputFile(QProcess::nullDevice());
@@ -94,6 +94,16 @@ void runAppleScript(const QString& script, bool reportErrors, const TerminalOutc
 }
 
 } // namespace
+
+MacPlatform::MacPlatform() = default;
+
+MacPlatform::~MacPlatform()
+{
+    // A script on its way (Terminal opening a window) finishes before the app is gone; each
+    // ends within moments, and none is waited for long.
+    for (QProcess* script : m_scripts.findChildren<QProcess*>(Qt::FindDirectChildrenOnly))
+        script->waitForFinished(2000);
+}
 
 QString MacPlatform::name() const { return QStringLiteral("macOS"); }
 
@@ -197,7 +207,7 @@ QStringList MacPlatform::osascriptArguments(const QString& script)
 
 void MacPlatform::openTerminal(const QString& command, const QString& directory, TerminalOutcome outcome)
 {
-    runAppleScript(terminalScript(command, directory), true, outcome);
+    runAppleScript(&m_scripts, terminalScript(command, directory), true, outcome);
 }
 
 QString MacPlatform::terminalDescription() const { return QStringLiteral("Terminal.app (through AppleScript)"); }
@@ -264,8 +274,8 @@ void MacPlatform::startDeveloperToolsInstaller(TerminalOutcome outcome)
     const bool started = QProcess::startDetached(kXcodeSelect, {QStringLiteral("--install")});
     if (outcome)
         outcome(started ? TerminalAnswer::opened : TerminalAnswer::failed);
-    QTimer::singleShot(kInstallerFrontDelayMs, QCoreApplication::instance(),
-                       [] { runAppleScript(systemEventsScript(), false); });
+    QTimer::singleShot(kInstallerFrontDelayMs, &m_scripts,
+                       [this] { runAppleScript(&m_scripts, systemEventsScript(), false); });
 }
 
 QString MacPlatform::loginShell() const

@@ -3,6 +3,7 @@
 #include "Platform.h"
 
 #include <QMap>
+#include <QObject>
 
 namespace qf {
 
@@ -11,6 +12,11 @@ namespace qf {
 // lines are pure functions so that they are tested on every system.
 class MacPlatform : public Platform {
 public:
+    MacPlatform();
+    ~MacPlatform() override;
+    MacPlatform(const MacPlatform&) = delete;
+    MacPlatform& operator=(const MacPlatform&) = delete;
+
     QString name() const override;
     const SystemWording& wording() const override;
     ApplicationLook applicationLook() const override;
@@ -62,6 +68,10 @@ public:
     static QString logFolderIn(const QString& home);
     // The program and arguments that show `path` selected in Finder.
     static QStringList revealCommandLine(const QString& path);
+
+private:
+    // The AppleScripts on their way, which end before the platform does.
+    QObject m_scripts;
 };
 
 // Linux: the first terminal emulator found on PATH, os-release for the system's name, git and
