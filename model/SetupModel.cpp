@@ -42,7 +42,7 @@ QString SystemRequirement::title(const SystemWording& wording) const
     switch (m_case) {
     case macOSVersion: return wording.osRequirementTitle;
     case nodeJS: return tr("Node.js");
-    case diskSpace: return tr("200MB disk space");
+    case diskSpace: return tr("1GB disk space");
     case git: return tr("Git");
     }
     Q_UNREACHABLE();

@@ -105,7 +105,7 @@ SystemWording LinuxPlatform::wordingFor(const QMap<QString, QString>& osRelease)
         .osRequirementHelp = translated("SystemRequirement", "Your computer needs to be running a 64-bit Linux "
                                                              "system. Works on both Intel/AMD and ARM processors."),
         .osRequirementFix = translated("SystemRequirement", "Install the 64-bit edition of your Linux distribution"),
-        .diskSpaceHelp = translated("SystemRequirement", "The AI assistant and its dependencies need about 200MB of "
+        .diskSpaceHelp = translated("SystemRequirement", "The AI assistant and its dependencies need about 1GB of "
                                                          "free space on your computer. This is a one-time "
                                                          "installation."),
         .nodeFixSuggestion = translated("SystemRequirement", "Install manually: download it from %1 (or use your "

@@ -117,7 +117,7 @@ const SystemWording& MacPlatform::standardWording()
                                                              "later. Works on both Intel and Apple Silicon."),
         .osRequirementFix = translated("SystemRequirement", "Update your Mac: Apple Menu \u2192 System Settings "
                                                             "\u2192 General \u2192 Software Update"),
-        .diskSpaceHelp = translated("SystemRequirement", "The AI assistant and its dependencies need about 200MB of "
+        .diskSpaceHelp = translated("SystemRequirement", "The AI assistant and its dependencies need about 1GB of "
                                                          "free space on your Mac. This is a one-time installation."),
         .nodeFixSuggestion = translated("SystemRequirement",
                                         "Install manually: brew install node (or download from %1)")

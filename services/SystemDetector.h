@@ -43,7 +43,9 @@ struct ToolCheck {
 class SystemDetector {
 public:
     static constexpr int minimumNodeMajorVersion = 18;
-    static constexpr qint64 minimumDiskSpaceMB = 200;
+    // Claude Code's native build alone is about 400 MB, Codex about 420 MB installed and Node.js
+    // about 190 MB: 1 GB leaves room for any one tool with what it needs.
+    static constexpr qint64 minimumDiskSpaceMB = 1024;
 
     SystemDetector(ShellRunner& shell, const Platform& platform);
     SystemDetector(const SystemDetector&) = delete;

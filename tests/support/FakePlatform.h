@@ -108,7 +108,8 @@ public:
     SystemWording words = MacPlatform::standardWording();
     ApplicationLook look;
     OperatingSystemCheck osCheck{true, QStringLiteral("macOS 14.5.0")};
-    std::optional<DiskSpace> diskSpace; // nothing: the real free space
+    // Plenty, whatever this machine has left; nothing: the real free space.
+    std::optional<DiskSpace> diskSpace = DiskSpace{qint64(50) << 30, QString()};
     QStringList directories;
     QStringList npmPrograms;
     DeveloperToolsItem developerTools = MacPlatform::commandLineToolsItem();

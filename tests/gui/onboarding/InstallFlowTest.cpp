@@ -165,11 +165,11 @@ TEST_F(InstallFlowTest, RequirementsDecideWhetherTheInstallationMayStart)
               QStringLiteral("Not enough space"));
     EXPECT_EQ(test::child<ui::Label>(diskRow, QStringLiteral("requirementStatus"))->tint(), ui::Tint(ui::Role::red));
     EXPECT_EQ(test::child<ui::Label>(diskRow, QStringLiteral("requirementDetails"))->text(),
-              QStringLiteral("100 MB free, 200 MB needed"));
+              QStringLiteral("100 MB free, 1024 MB needed"));
     EXPECT_TRUE(shows(test::child(screen(), QStringLiteral("blockedNotice"))));
     EXPECT_EQ(
         text("blockedReason"),
-        QStringLiteral("Install is not available until this is fixed: 200MB disk space (100 MB free, 200 MB needed)."));
+        QStringLiteral("Install is not available until this is fixed: 1GB disk space (100 MB free, 1024 MB needed)."));
     QSignalSpy pressed(button("mainButton"), &QAbstractButton::pressed);
     QTest::keyClick(window.get(), Qt::Key_Return);
     EXPECT_EQ(pressed.count(), 0);

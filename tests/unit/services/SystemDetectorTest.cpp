@@ -58,16 +58,17 @@ TEST(SystemDetectorRules, EachToolNeedsTheNodeOfItsPackage)
 
 TEST(SystemDetectorRules, DiskSpaceBoundaries)
 {
-    EXPECT_EQ(SystemDetector::bytesToMegabytes(209715200), 200);
-    EXPECT_EQ(SystemDetector::bytesToMegabytes(209715199), 199);
-    const RequirementStatus enough = SystemDetector::diskSpaceStatus(200);
+    EXPECT_EQ(SystemDetector::bytesToMegabytes(1073741824), 1024);
+    EXPECT_EQ(SystemDetector::bytesToMegabytes(1073741823), 1023);
+    // A gigabyte: what one tool and Node.js take today.
+    const RequirementStatus enough = SystemDetector::diskSpaceStatus(1024);
     EXPECT_TRUE(enough.isMet);
-    EXPECT_EQ(enough.details, QStringLiteral("200 MB available"));
-    EXPECT_FALSE(SystemDetector::diskSpaceStatus(199).isMet);
+    EXPECT_EQ(enough.details, QStringLiteral("1024 MB available"));
+    EXPECT_FALSE(SystemDetector::diskSpaceStatus(1023).isMet);
     // Unreadable space counts as none at all.
     const RequirementStatus unknown = SystemDetector::diskSpaceStatus(std::nullopt);
     EXPECT_FALSE(unknown.isMet);
-    EXPECT_EQ(unknown.details, QStringLiteral("0 MB free, 200 MB needed"));
+    EXPECT_EQ(unknown.details, QStringLiteral("0 MB free, 1024 MB needed"));
 }
 
 TEST_F(SystemDetectorTest, NodeFromTheSearchPath)
@@ -91,13 +92,13 @@ TEST_F(SystemDetectorTest, RequirementListsPerTool)
     sandbox.installFake(QStringLiteral("node"));
     sandbox.setEnv("FAKE_NODE_VERSION", "v19.0.0");
     platform.osCheck = {true, QStringLiteral("macOS 14.0.0")};
-    platform.diskSpace = DiskSpace{209715199, QString()};
+    platform.diskSpace = DiskSpace{1073741823, QString()};
 
     const QList<RequirementStatus> gemini = *await(detector.checkAllRequirements(CLITool::geminiCLI));
     ASSERT_EQ(gemini.size(), 4);
     EXPECT_EQ(gemini[0], (RequirementStatus{SystemRequirement::macOSVersion, true, QStringLiteral("macOS 14.0.0")}));
     EXPECT_EQ(gemini[1],
-              (RequirementStatus{SystemRequirement::diskSpace, false, QStringLiteral("199 MB free, 200 MB needed")}));
+              (RequirementStatus{SystemRequirement::diskSpace, false, QStringLiteral("1023 MB free, 1024 MB needed")}));
     // git is checked for every tool; without the developer tools it is not run, and the row
     // names what is missing.
     EXPECT_EQ(gemini[2],
@@ -131,6 +132,7 @@ TEST_F(SystemDetectorTest, RequirementListsPerTool)
 
 TEST_F(SystemDetectorTest, DiskSpaceOfTheHomeVolume)
 {
+    platform.diskSpace = std::nullopt; // the real volume
     const std::optional<qint64> mb = detector.availableDiskSpaceMB();
     ASSERT_TRUE(mb.has_value());
     EXPECT_GE(*mb, 0);
