@@ -91,15 +91,16 @@ const std::array<ToolTexts, 3> kTools = {{
         rgb(0.0, 0.65, 0.52),
         true,
         QT_TRANSLATE_NOOP("CLITool", "OpenAI's code-focused model. Powerful for code completion and generation."),
-        QT_TRANSLATE_NOOP("CLITool", "Requires an OpenAI account with payment method"),
-        QT_TRANSLATE_NOOP("CLITool", "Pay-as-you-go API pricing"),
-        QT_TRANSLATE_NOOP("CLITool", "Sign in with your OpenAI account on first run."),
+        // Codex leads with signing in through a paid ChatGPT plan; an API key takes more setup.
+        QT_TRANSLATE_NOOP("CLITool", "Requires a paid ChatGPT plan or an OpenAI API key"),
+        QT_TRANSLATE_NOOP("CLITool", "Included with paid ChatGPT plans, or pay-as-you-go with an API key"),
+        QT_TRANSLATE_NOOP("CLITool", "Sign in with ChatGPT on first run, or use an API key."),
         "codex \"create a REST API\"",
         QT_TRANSLATE_NOOP("CLITool", "Uninstall Codex via npm"),
         "@openai/codex",
         "OPENAI_API_KEY",
         "https://platform.openai.com/api-keys",
-        "https://platform.openai.com/signup",
+        "https://chatgpt.com/",
         "https://platform.openai.com/docs",
     },
 }};
@@ -144,11 +145,16 @@ AccountStepTable buildAccountStepTable(const QString& installStep)
             {Text::tr("Sign in with Google"), firstLaunch},
         },
         {
-            {Text::tr("Create an OpenAI account"),
-             Text::tr("Visit %1 and sign up.").arg(QStringLiteral("platform.openai.com"))},
-            {Text::tr("Add payment method"), Text::tr("OpenAI requires a payment method for API usage.")},
+            {Text::tr("Use your ChatGPT plan"),
+             Text::tr("Codex comes with paid ChatGPT plans such as Plus and Pro. Sign up at %1.")
+                 .arg(QStringLiteral("chatgpt.com"))},
+            {Text::tr("Or use an API key"),
+             Text::tr("Without a plan, create an API key with a payment method at %1. This takes a little more "
+                      "setup.")
+                 .arg(QStringLiteral("platform.openai.com"))},
             {Text::tr("Install Codex"), installStep},
-            {Text::tr("Sign in from Terminal"), firstLaunch},
+            {Text::tr("Sign in from Terminal"),
+             Text::tr("On first launch, choose \"Sign in with ChatGPT\"; your browser will open to authenticate.")},
         },
     }};
 }

@@ -108,6 +108,21 @@ TEST(CLITool, AccountStepsFollowTheSystemsWording)
     EXPECT_EQ(onLinux[0], onMac[0]); // every other step is the same
 }
 
+// Codex is used with a paid ChatGPT plan first, an API key second; its sign-up page is
+// ChatGPT's.
+TEST(CLITool, CodexLeadsWithAChatGPTPlan)
+{
+    const CLITool codex = CLITool::codex;
+    const auto& steps = codex.accountSetupSteps(macWording());
+    ASSERT_EQ(steps.size(), 4);
+    EXPECT_TRUE(steps[0].title.contains(QStringLiteral("ChatGPT")));
+    EXPECT_TRUE(steps[1].title.contains(QStringLiteral("API key")));
+    EXPECT_TRUE(steps[3].description.contains(QStringLiteral("Sign in with ChatGPT")));
+    EXPECT_LT(codex.accountRequirement().indexOf(QStringLiteral("ChatGPT")),
+              codex.accountRequirement().indexOf(QStringLiteral("API key")));
+    EXPECT_EQ(codex.signUpURL().host(), QStringLiteral("chatgpt.com"));
+}
+
 TEST(CLITool, InstallCommands)
 {
     // Claude Code comes from its maker's script over TLS; the other two from npm.
