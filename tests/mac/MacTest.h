@@ -12,6 +12,7 @@
 #include "SystemCheckView.h"
 #include "TestSupport.h"
 #include "ToolCards.h"
+#include "WindowDriver.h"
 
 #include <QAbstractButton>
 #include <QLabel>
@@ -27,7 +28,7 @@ namespace qf::test {
 
 // The real window with the Mac's backend, inside the simulated Mac: the Mac's own programs
 // and paths, its login shell, and an events file that says what the user saw.
-class MacTest : public ::testing::Test {
+class MacTest : public ::testing::Test, protected WindowDriver {
 protected:
     void SetUp() override
     {
@@ -54,29 +55,7 @@ protected:
 
     void open(InstallationStep step, std::optional<CLITool> tool = std::nullopt)
     {
-        window.reset();
-        state.setSelectedTool(tool);
-        state.setCurrentStep(step);
-        window = std::make_unique<MainWindow>(state, *services);
-        window->show();
-        settle();
-        window->resize(1100, 1500);
-        settle();
-    }
-    QWidget* screen() const { return window->contentView()->currentScreen(); }
-    template <typename T>
-    T* screenAs() const
-    {
-        auto* shown = qobject_cast<T*>(screen());
-        EXPECT_NE(shown, nullptr) << "on " << screen()->objectName().toStdString();
-        return shown;
-    }
-    void click(const char* name) const
-    {
-        auto* target = child<QAbstractButton>(screen(), QLatin1String(name));
-        ASSERT_TRUE(target && target->isVisible() && target->isEnabled()) << name;
-        target->click();
-        settle();
+        showWindow(*services, step, tool, {1100, 1500});
     }
     void waitForDashboard() const
     {
@@ -86,18 +65,6 @@ protected:
     SystemToolCard* item(const char* key) const
     {
         return child<SystemToolCard>(screen(), QStringLiteral("systemToolCard.") + QLatin1String(key));
-    }
-    void waitForCheck() const
-    {
-        auto* check = screenAs<SystemCheckView>();
-        ASSERT_TRUE(QTest::qWaitFor([check] { return !check->isChecking(); }, 20000));
-        settle();
-    }
-    void waitForInstallation() const
-    {
-        InstallationController& controller = window->installationController();
-        ASSERT_TRUE(QTest::qWaitFor([&] { return !controller.isInstalling() && !controller.isRunning(); }, 30000));
-        settle();
     }
     // Every text the current screen shows.
     QStringList visibleTexts() const
@@ -117,8 +84,6 @@ protected:
     SimulatedMac mac;
     std::unique_ptr<Platform> platform;
     std::unique_ptr<Services> services;
-    InstallationState state;
-    std::unique_ptr<MainWindow> window;
 };
 
 } // namespace qf::test

@@ -1,5 +1,7 @@
 #include "NodeReleaseFixture.h"
 
+#include "TestSupport.h"
+
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
@@ -9,18 +11,6 @@
 #include <gtest/gtest.h>
 
 namespace qf::test {
-
-namespace {
-
-void writeFile(const QString& path, const QByteArray& content)
-{
-    QDir().mkpath(QFileInfo(path).absolutePath());
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate)) << path.toStdString();
-    file.write(content);
-}
-
-} // namespace
 
 QString publishNodeRelease(const QString& dist, const QString& version, const QString& platformName, const QString& tar,
                            const QByteArray& checksum)

@@ -1,5 +1,7 @@
 #include "SimulatedMac.h"
 
+#include "TestSupport.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -13,14 +15,6 @@ namespace {
 
 const QString kState = QStringLiteral("/var/simulated-mac");
 const QString kDeveloperTools = QStringLiteral("/Library/Developer/CommandLineTools");
-
-void writeFile(const QString& path, const QByteArray& content)
-{
-    QDir().mkpath(QFileInfo(path).absolutePath());
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate)) << path.toStdString();
-    file.write(content);
-}
 
 } // namespace
 

@@ -17,6 +17,9 @@ T* child(const QObject* root, const QString& name)
     return found;
 }
 
+// Writes `content` to `path`, making its folders first; fails the test when it cannot.
+void writeFile(const QString& path, const QByteArray& content);
+
 // Runs posted events, including deferred deletions.
 void settle();
 

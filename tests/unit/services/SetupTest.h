@@ -2,6 +2,7 @@
 
 #include "CoroTest.h"
 #include "TestMachine.h"
+#include "TestSupport.h"
 #include "ToolInstaller.h"
 
 #include <QDir>
@@ -68,13 +69,7 @@ protected:
 
     QList<SetupStep> steps(CLITool tool) { return *await(installer.setupSteps(tool)); }
 
-    static void writeFile(const QString& path, const QByteArray& bytes)
-    {
-        QDir().mkpath(QFileInfo(path).absolutePath());
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-    }
+    static void writeFile(const QString& path, const QByteArray& bytes) { test::writeFile(path, bytes); }
 
     ToolInstaller& installer = services.installer;
 };
