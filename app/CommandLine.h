@@ -11,8 +11,10 @@ namespace qf {
 // `--version` read them). Callable before the application object exists.
 void describeApplication();
 
-// Answers `--version` and `--help` at once, without a window (and without a display): the exit
-// status when the command line asked for one of them, nothing when the window should open.
+// Answers the command line before any window (or display) is needed: `--version`, `--help`,
+// and an option Quillforge does not know or a stray argument, which get what is wrong and
+// where to look. The exit status when it answered, nothing when the window should open (Qt's
+// own options, such as "-platform offscreen", are left to it).
 std::optional<int> answerCommandLine(int argc, char* argv[]);
 
 // What is wrong with the command line of a launch that opens the window (an option Quillforge

@@ -6,6 +6,7 @@
 #include <QSocketNotifier>
 #include <QStandardPaths>
 #include <QThread>
+#include <QTimer>
 
 #include <cerrno>
 #include <cstdio>
@@ -32,6 +33,14 @@ constexpr int handOverMs = 3000;
 constexpr int attemptMs = 500;
 // The longest request line read from a connection; anything longer is no request of ours.
 constexpr qsizetype maximumLine = 64;
+// A connection that has not said what it wants by then is closed: a launch says it at once.
+constexpr int requestDeadlineMs = 2000;
+// At most this many connections are open at a time; a new one closes the oldest, which had
+// the longest to speak. Well below any limit of open files.
+constexpr qsizetype maximumConnections = 16;
+// Out of descriptors, the copy stops taking connections for this long instead of trying again
+// at once, over and over.
+constexpr int acceptPauseMs = 200;
 
 // The socket's address, when its path fits one.
 std::optional<sockaddr_un> addressOf(const QString& path)
@@ -111,6 +120,7 @@ public:
         : QObject(parent), m_socket(fd), m_notifier(fd, QSocketNotifier::Read), m_onActivate(std::move(onActivate))
     {
         connect(&m_notifier, &QSocketNotifier::activated, this, [this] { readRequest(); });
+        QTimer::singleShot(requestDeadlineMs, this, [this] { deleteLater(); });
     }
 
 private:
@@ -201,18 +211,31 @@ int SingleInstance::listen()
 
 void SingleInstance::acceptConnections()
 {
-    while (true) {
+    // A turn of the event loop after at most a full set, so that the ones taken get read.
+    for (qsizetype taken = 0; taken < maximumConnections;) {
         const int fd = ::accept(m_listener->get(), nullptr, nullptr);
         if (fd < 0) {
             if (errno == EINTR)
                 continue;
+            if (errno == EMFILE || errno == ENFILE || errno == ENOBUFS || errno == ENOMEM) {
+                // The connection waits in the queue until a descriptor is free again.
+                m_connections.removeAll(nullptr);
+                if (!m_connections.isEmpty())
+                    delete m_connections.takeFirst().data();
+                m_listening->setEnabled(false);
+                QTimer::singleShot(acceptPauseMs, m_listening, [listening = m_listening] { listening->setEnabled(true); });
+            }
             return; // none waiting any more, or the connection went away before it was taken
         }
         if (!prepare(fd)) {
             ::close(fd);
             continue;
         }
-        new Connection(fd, this, [this] { Q_EMIT activationRequested(); });
+        ++taken;
+        m_connections.removeAll(nullptr);
+        while (m_connections.size() >= maximumConnections)
+            delete m_connections.takeFirst().data();
+        m_connections << new Connection(fd, this, [this] { Q_EMIT activationRequested(); });
     }
 }
 

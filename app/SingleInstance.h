@@ -3,7 +3,9 @@
 #include "FileDescriptor.h"
 
 #include <QLockFile>
+#include <QList>
 #include <QObject>
+#include <QPointer>
 #include <QString>
 
 #include <memory>
@@ -17,7 +19,9 @@ namespace qf {
 // later copy finds the lock held, asks the first one to come to the front and steps aside. A
 // lock left by a copy that crashed belongs to no running process and is taken over.
 // The socket is a plain local (Unix domain) socket: a line "activate" asks for the window and
-// the answer "ok" says it was heard.
+// the answer "ok" says it was heard. Connections that say nothing cannot crowd a launch out:
+// each gets a short time to speak, only a few are open at once (a new one closes the oldest),
+// and with no descriptor left the copy pauses instead of trying again and again.
 class SingleInstance : public QObject {
     Q_OBJECT
 
@@ -56,6 +60,8 @@ private:
     std::unique_ptr<QLockFile> m_lock;
     std::unique_ptr<FileDescriptor> m_listener;
     QSocketNotifier* m_listening = nullptr;
+    // The connections open now, oldest first (those gone are null).
+    QList<QPointer<QObject>> m_connections;
 };
 
 } // namespace qf

@@ -2,11 +2,16 @@
 #include "InstallationState.h"
 #include "MainWindow.h"
 #include "Services.h"
+#include "Diagnostics.h"
 #include "SingleInstance.h"
+#include "StagedInstall.h"
 #include "StartupProbe.h"
 #include "Theme.h"
 
 #include <QApplication>
+#include <QDateTime>
+#include <QDir>
+#include <QThreadPool>
 #include <QIcon>
 
 #include <cstdio>
@@ -31,7 +36,17 @@ int main(int argc, char* argv[])
     case qf::SingleInstance::Role::unanswered:
         std::fprintf(stderr, "Quillforge is already running but does not answer. Quit it and open Quillforge again.\n");
         return 1;
-    case qf::SingleInstance::Role::first:
+    case qf::SingleInstance::Role::first: {
+        // The only copy: what an earlier one stopped half-way left behind goes, off the window's thread.
+        const qint64 started = QDateTime::currentSecsSinceEpoch();
+        QThreadPool::globalInstance()->start([started] {
+            const QStringList removed = qf::stagedInstall::removeLeftovers(
+                QDir::homePath() + QStringLiteral("/.local"), QDir::tempPath(), started);
+            for (const QString& path : removed)
+                qf::printDiagnostic(QStringLiteral("Removed what an earlier run left: ") + path);
+        });
+        break;
+    }
     case qf::SingleInstance::Role::unguarded: break;
     }
 

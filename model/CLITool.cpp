@@ -229,9 +229,9 @@ int CLITool::minimumNodeMajorVersion() const
     return m_case == geminiCLI ? 20 : 18;
 }
 
-QString CLITool::nodeRequirementNote() const
+QString CLITool::nodeRequirementNote(int major) const
 {
-    return tr("%1 needs Node.js %2 or newer.").arg(displayName()).arg(minimumNodeMajorVersion());
+    return tr("%1 needs Node.js %2 or newer.").arg(displayName()).arg(major > 0 ? major : minimumNodeMajorVersion());
 }
 
 QString CLITool::toolDescription() const { return tr(texts(*this).toolDescription); }

@@ -58,10 +58,12 @@ public:
     bool requiresNodeJS() const;
     // Installed as a global npm package (Claude Code comes from its maker's installer).
     bool installsThroughNpm() const { return m_case != claudeCode; }
-    // The oldest major version of Node.js the tool's package runs on (never below 18).
+    // The oldest major version of Node.js the tool's package runs on (never below 18), as
+    // known when this was written: the registry's answer for its newest release, when there is
+    // one, may ask for more (SystemDetector::requiredNodeMajor).
     int minimumNodeMajorVersion() const;
-    // "Gemini CLI needs Node.js 20 or newer."
-    QString nodeRequirementNote() const;
+    // "Gemini CLI needs Node.js 20 or newer." (`major`: the version needed; 0: the one above).
+    QString nodeRequirementNote(int major = 0) const;
 
     QString toolDescription() const;
     QString accountRequirement() const;

@@ -1,22 +1,32 @@
 #include "LogFile.h"
 
+#include "Diagnostics.h"
+
 #include <QCoro/QCoroFuture>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QPromise>
 #include <QRegularExpression>
+#include <QScopeGuard>
 #include <QThreadPool>
 
 #include <atomic>
 #include <mutex>
 #include <vector>
 
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 namespace qf {
 
 namespace {
 
-constexpr QFileDevice::Permissions kOwnerOnlyFile = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
+// A new file, never one that is there already or a link: for reading and writing, its owner only.
+constexpr int kNewFileFlags = O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
+constexpr mode_t kOwnerOnlyFileMode = S_IRUSR | S_IWUSR;
 constexpr QFileDevice::Permissions kOwnerOnlyFolder = QFileDevice::ReadOwner | QFileDevice::WriteOwner |
                                                       QFileDevice::ExeOwner;
 // Output waiting for a disk that cannot keep up is given up beyond this much.
@@ -43,6 +53,22 @@ const QRegularExpression& logNamePattern()
 {
     static const QRegularExpression pattern(QStringLiteral(R"(^\d{4}-\d\d-\d\d \d\d-\d\d-\d\d(-\d\d)? .+\.log$)"));
     return pattern;
+}
+
+// Everything in the open file `descriptor`, from its start, leaving its position as it is.
+std::optional<QByteArray> readAll(int descriptor)
+{
+    QByteArray bytes;
+    char buffer[64 * 1024];
+    for (;;) {
+        const ssize_t n = ::pread(descriptor, buffer, sizeof buffer, static_cast<off_t>(bytes.size()));
+        if (n == 0)
+            return bytes;
+        if (n < 0 && errno != EINTR)
+            return std::nullopt;
+        if (n > 0)
+            bytes.append(buffer, n);
+    }
 }
 
 QCoro::Task<WholeText> awaitText(QFuture<WholeText> future)
@@ -98,10 +124,10 @@ struct LogFile::Writer {
             }
             for (QPromise<WholeText>& reader : waiting) {
                 WholeText text;
+                // Read through the file's own descriptor, wherever its name leads now.
                 if (!broken) {
-                    QFile in(file.fileName());
-                    if (in.open(QIODevice::ReadOnly))
-                        text = QString::fromUtf8(in.readAll());
+                    if (const std::optional<QByteArray> bytes = readAll(file.handle()))
+                        text = QString::fromUtf8(*bytes);
                 }
                 reader.start();
                 reader.addResult(text);
@@ -113,13 +139,22 @@ struct LogFile::Writer {
 
 LogFile::LogFile() = default;
 
-LogFile::LogFile(const QString& path) : m_writer(std::make_shared<Writer>())
+LogFile::LogFile(const QString& path)
+    : LogFile(path, ::open(QFile::encodeName(path).constData(), kNewFileFlags, kOwnerOnlyFileMode))
 {
-    m_writer->file.setFileName(path);
-    if (m_writer->file.open(QIODevice::WriteOnly | QIODevice::NewOnly, kOwnerOnlyFile))
+}
+
+LogFile::LogFile(const QString& path, int descriptor)
+{
+    if (descriptor < 0)
+        return;
+    m_writer = std::make_shared<Writer>();
+    if (m_writer->file.open(descriptor, QIODevice::ReadWrite, QFileDevice::AutoCloseHandle)) {
         m_path = path;
-    else
+    } else {
+        ::close(descriptor);
         m_writer.reset();
+    }
 }
 
 LogFile::~LogFile() = default;
@@ -176,18 +211,33 @@ std::shared_ptr<LogFile> LogBook::start(const QString& title, const QDateTime& w
 {
     if (m_folder.isEmpty() || !makePrivateFolder(m_folder))
         return std::make_shared<LogFile>();
+    // Everything from here on goes through the folder's descriptor: a link put in its place
+    // meanwhile leads nowhere.
+    const int folder = ::open(QFile::encodeName(m_folder).constData(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
+    if (folder < 0) {
+        printDiagnostic(QStringLiteral("Logs: %1 is not a folder of its own (a link?); no log is kept.").arg(m_folder));
+        return std::make_shared<LogFile>();
+    }
+    const auto closeFolder = qScopeGuard([folder] { ::close(folder); });
+    struct stat status {};
+    if (::fstat(folder, &status) != 0 || status.st_uid != ::geteuid()) {
+        printDiagnostic(QStringLiteral("Logs: %1 belongs to someone else; no log is kept.").arg(m_folder));
+        return std::make_shared<LogFile>();
+    }
     // The logs may name paths in the home folder: nobody else gets to read them.
-    QFile::setPermissions(m_folder, kOwnerOnlyFolder);
+    ::fchmod(folder, S_IRWXU);
 
-    QDir folder(m_folder);
     const QStringList logs = logFiles(m_folder);
     for (qsizetype i = 0; i + (kKeptFiles - 1) < logs.size(); ++i)
-        folder.remove(logs[i]);
+        ::unlinkat(folder, QFile::encodeName(logs[i]).constData(), 0);
 
     for (int number = 1; number < 100; ++number) {
-        const QString path = folder.filePath(fileName(title, when, number));
-        if (!QFileInfo(path).exists() && !QFileInfo(path).isSymLink())
-            return std::make_shared<LogFile>(path);
+        const QString name = fileName(title, when, number);
+        const int file = ::openat(folder, QFile::encodeName(name).constData(), kNewFileFlags, kOwnerOnlyFileMode);
+        if (file >= 0)
+            return std::make_shared<LogFile>(QDir(m_folder).filePath(name), file);
+        if (errno != EEXIST)
+            break;
     }
     return std::make_shared<LogFile>();
 }

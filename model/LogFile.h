@@ -18,8 +18,12 @@ class LogFile {
 public:
     // A log that keeps nothing on disk.
     LogFile();
-    // Creates the file at `path`, which must not exist yet. Failing that, keeps nothing.
+    // Creates the file at `path`, which must not exist yet (not even as a link). Failing that,
+    // keeps nothing.
     explicit LogFile(const QString& path);
+    // Takes over `descriptor`, a new file at `path` open for reading and writing; -1: keeps
+    // nothing.
+    LogFile(const QString& path, int descriptor);
     // What is not written yet still will be, after the object is gone.
     ~LogFile();
     LogFile(const LogFile&) = delete;
@@ -53,7 +57,9 @@ public:
 
     // A new log for `title` ("Install Gemini CLI"), started at `when`. Makes the folder when
     // it is missing and removes the oldest logs, so that with the new one `kKeptFiles` stay.
-    // Never fails: when no file can be made, the log keeps nothing.
+    // A folder that is a link or belongs to someone else is left alone (changed, emptied or
+    // written in, it could be another user's). Never fails: when no file can be made, the log
+    // keeps nothing.
     std::shared_ptr<LogFile> start(const QString& title, const QDateTime& when = QDateTime::currentDateTime()) const;
 
     // The file name for `title` at `when`, with nothing in it that a file system could object

@@ -67,6 +67,8 @@ struct RequirementStatus {
     SystemRequirement requirement;
     bool isMet = false;
     QString details;
+    // The Node.js row: the major version the chosen tool needs (0 elsewhere).
+    int nodeMajorNeeded = 0;
 
     QString id() const { return requirement.id(); }
     friend bool operator==(const RequirementStatus&, const RequirementStatus&) = default;

@@ -258,7 +258,7 @@ void SystemCheckView::rebuildRequirementRows()
     const std::optional<CLITool> tool = m_state.selectedTool();
     for (const RequirementStatus& status : m_state.requirements()) {
         // The Node.js row says which version the chosen tool needs.
-        const QString note = tool && status.requirement == SystemRequirement::nodeJS ? tool->nodeRequirementNote()
+        const QString note = tool && status.requirement == SystemRequirement::nodeJS ? tool->nodeRequirementNote(status.nodeMajorNeeded)
                                                                                      : QString();
         // Git comes with the system's developer tools, whose installer the row offers.
         std::function<void()> fix;

@@ -43,4 +43,12 @@ QStringList Platform::loginShellInvocation(const QString& line) const
     return {shell, QStringLiteral("-l"), QStringLiteral("-c"), line};
 }
 
+QStringList Platform::plainLoginShellInvocation(const QString& line) const
+{
+    const QString shell = loginShell();
+    if (QFileInfo(shell).fileName().endsWith(QLatin1String("csh")))
+        return {shell, QStringLiteral("-c"), line};
+    return {shell, QStringLiteral("-l"), QStringLiteral("-c"), line};
+}
+
 } // namespace qf

@@ -171,6 +171,10 @@ public:
     // "-l -c" for other shells, except csh and tcsh, which take "-l" only alone and run it
     // with "-c" (reading ~/.cshrc or ~/.tcshrc).
     virtual QStringList loginShellInvocation(const QString& line) const;
+    // The program and arguments that run `line` in the user's shell started as a login shell
+    // that is not interactive: "-l -c", and "-c" for csh and tcsh. What an interactive shell
+    // reads besides (a ~/.bashrc that starts tmux, a prompt theme) stays out.
+    virtual QStringList plainLoginShellInvocation(const QString& line) const;
     // Whether a new terminal window starts it as a login shell (bash then reads
     // ~/.bash_profile instead of ~/.bashrc).
     virtual bool terminalStartsLoginShell() const = 0;

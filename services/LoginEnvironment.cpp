@@ -9,7 +9,8 @@ namespace {
 // What a shell sets for itself on start and a command's own shell sets again.
 bool isShellBookkeeping(const QByteArray& name)
 {
-    return name == "PATH" || name == "_" || name == "SHLVL" || name == "PWD" || name == "OLDPWD";
+    return name == "PATH" || name == "_" || name == "SHLVL" || name == "PWD" || name == "OLDPWD" ||
+           name == loginEnvironment::kEnvironmentFileVariable;
 }
 
 QByteArray beginMarker(const QByteArray& token) { return "quillforge-environment-" + token + "-begin"; }
@@ -54,9 +55,11 @@ QList<QByteArray> entries(const EnvironmentVariables& variables)
 QString script(const QByteArray& token)
 {
     // env is called by its path: a start-up file may have left a search path without it. It
-    // takes the shell's place, which saves starting one more process.
-    return QStringLiteral("printf '%s' '%1'; exec /usr/bin/env -0 '%2'")
-        .arg(QString::fromLatin1(beginMarker(token)), QString::fromLatin1(endEntry(token)));
+    // takes the shell's place, which saves starting one more process. The file does not exist
+    // before: '>' creates it even where the shell refuses to overwrite files.
+    return QStringLiteral("printf '%s' '%1' > \"$%3\"; exec /usr/bin/env -0 '%2' >> \"$%3\"")
+        .arg(QString::fromLatin1(beginMarker(token)), QString::fromLatin1(endEntry(token)),
+             QLatin1String(kEnvironmentFileVariable));
 }
 
 std::optional<EnvironmentVariables> parse(const QByteArray& output, const QByteArray& token)
@@ -123,6 +126,20 @@ QByteArray joinSearchPath(const QString& front, const QByteArray& tail)
         path += element;
     }
     return path;
+}
+
+QByteArray completeSearchPath(const QByteArray& own, const QString& fallback)
+{
+    QList<QByteArray> elements;
+    for (const QByteArray& element : own.split(':')) {
+        if (!element.isEmpty())
+            elements << element;
+    }
+    for (const QByteArray& element : fallback.toLocal8Bit().split(':')) {
+        if (!element.isEmpty() && !elements.contains(element))
+            elements << element;
+    }
+    return elements.join(':');
 }
 
 } // namespace loginEnvironment

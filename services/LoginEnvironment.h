@@ -34,14 +34,19 @@ EnvironmentVariables applicationEnvironment();
 // "NAME=value" entries, as a process is given them.
 QList<QByteArray> entries(const EnvironmentVariables& variables);
 
+// The variable that names the file the login shell writes its environment into. The file lies
+// in a folder only the user can enter, and start-up files that send the shell's own output
+// elsewhere (to a session log) cannot send it along.
+inline constexpr char kEnvironmentFileVariable[] = "QUILLFORGE_ENVIRONMENT_FILE";
+
 // The line the login shell runs once its start-up files are done: its whole environment,
 // NUL-separated, after a marker and ending in a variable of its own, both made from `token`,
-// so that nothing a start-up file prints (before, or after in the background) is taken for
-// part of it. Every shell understands it: sh, bash, zsh, fish and csh alike.
+// into the file named by kEnvironmentFileVariable. Every shell understands it: sh, bash, zsh,
+// fish and csh alike.
 QString script(const QByteArray& token);
 
-// The variables the shell printed after the marker in `output`; nothing when the marker or
-// the closing variable is missing or what lies between is not an environment.
+// The variables the shell wrote after the marker in `output`; nothing when the marker or the
+// closing variable is missing or what lies between is not an environment.
 std::optional<EnvironmentVariables> parse(const QByteArray& output, const QByteArray& token);
 
 // What the start-up files changed, from the environment the shell was `started` with to the
@@ -52,6 +57,11 @@ LoginEnvironment difference(const EnvironmentVariables& started, const Environme
 // `front` (the folders a command always searches first) followed by the non-empty elements of
 // `tail`, byte for byte: an empty element would mean the current folder.
 QByteArray joinSearchPath(const QString& front, const QByteArray& tail);
+
+// The login shell's search path `own` in its own order, as the user's terminal searches it,
+// followed by the folders of `fallback` it lacks: a Node.js the user's start-up files put
+// first is the one commands find. Empty elements are left out.
+QByteArray completeSearchPath(const QByteArray& own, const QString& fallback);
 
 } // namespace loginEnvironment
 

@@ -173,13 +173,12 @@ QCoro::Task<Result<QString>> NodeInstaller::installRelease(Output log)
     co_return version;
 }
 
-QString NodeInstaller::shadowedMessage(CLITool tool, const QList<NodeInstall>& installs)
+QString NodeInstaller::shadowedMessage(CLITool tool, int minimum, const QList<NodeInstall>& installs)
 {
-    const int minimum = tool.minimumNodeMajorVersion();
     const auto newEnough = [minimum](const NodeInstall& install) {
         return SystemDetector::evaluateNodeVersion(install.version, minimum).meetsRequirement;
     };
-    const QString need = tool.nodeRequirementNote();
+    const QString need = tool.nodeRequirementNote(minimum);
     if (installs.isEmpty())
         return tr("Node.js was installed, but no Node.js is found on the search path. %1").arg(need);
     const NodeInstall& first = installs.first();

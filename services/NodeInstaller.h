@@ -40,7 +40,7 @@ public:
     // Why the Node.js step failed although an installation ran: the first Node.js on the
     // search path (`installs`, in search order) is older than `tool` needs. Names both
     // versions and their folders when a new enough one is there too.
-    static QString shadowedMessage(CLITool tool, const QList<NodeInstall>& installs);
+    static QString shadowedMessage(CLITool tool, int minimum, const QList<NodeInstall>& installs);
 
 private:
     ServiceError failure(InstallationError error) const { return {error, m_platform.wording()}; }

@@ -95,8 +95,13 @@ ProcessRun::ProcessRun(Options options) : m_options(std::move(options)), m_proce
     // A session of its own: no controlling terminal (so sudo or a login file cannot ask a
     // question on the terminal Quillforge was started from) and one process group to stop.
     m_process->setChildProcessModifier([executable = m_executable.constData(), argv = m_argv.data(),
-                                        envp = m_envp.data(), byDefault = &m_defaultAction, none = &m_noSignals] {
+                                        envp = m_envp.data(), byDefault = &m_defaultAction, none = &m_noSignals,
+                                        copies = m_options.outputAlsoOnThreeAndFour] {
         ::setsid();
+        if (copies) {
+            ::dup2(STDOUT_FILENO, 3);
+            ::dup2(STDERR_FILENO, 4);
+        }
         ::sigaction(SIGPIPE, byDefault, nullptr);
         ::sigprocmask(SIG_SETMASK, none, nullptr);
         ::execve(executable, argv, envp);

@@ -62,6 +62,10 @@ public:
         std::function<void(const QString&)> onOutput;
         QPointer<QObject> context;
         bool hasContext = false;
+        // The child also finds its standard output on descriptor 3 and its standard error on
+        // descriptor 4, where a shell's start-up files, which may send 1 and 2 elsewhere,
+        // leave them alone.
+        bool outputAlsoOnThreeAndFour = false;
     };
 
     // Starts on the next turn of the event loop, so that the outcome can be awaited first.

@@ -37,6 +37,8 @@ public:
           terminal(platform),
           logs(platform.logFolder())
     {
+        // What Node.js a tool needs comes from its newest release, as the update checks read it.
+        detector.setPublishedRequirement([this](CLITool tool) { return updateChecker.publishedNodeMajor(tool); });
     }
     Services(const Services&) = delete;
     Services& operator=(const Services&) = delete;

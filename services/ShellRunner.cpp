@@ -13,6 +13,7 @@
 #include <QElapsedTimer>
 #include <QFileInfo>
 #include <QRandomGenerator>
+#include <QTemporaryDir>
 
 #include <algorithm>
 #include <chrono>
@@ -91,6 +92,23 @@ struct MarkedStream {
     }
 };
 
+// Where a command run as a login shell of its own notes that its own shell has started: a
+// file in a folder only the user can enter, which no start-up file sends elsewhere as it may
+// send the shell's output. Only a command that provably never started may run again.
+class StartMark {
+public:
+    StartMark() : m_folder(QDir::tempPath() + QStringLiteral("/quillforge-command-XXXXXX")) {}
+
+    QString path() const
+    {
+        return m_folder.isValid() ? m_folder.filePath(QStringLiteral("started")) : QStringLiteral("/dev/null");
+    }
+    bool provesNoStart() const { return m_folder.isValid() && !QFileInfo::exists(path()); }
+
+private:
+    QTemporaryDir m_folder;
+};
+
 } // namespace
 
 // One reading of the login shell's environment, shared by the commands waiting for it, for
@@ -164,7 +182,10 @@ EnvironmentVariables ShellRunner::commandVariables(const LoginEnvironment* login
                                      .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
                                                 QDir::NoSort);
     const QString front = searchPath(home, versions, m_configuration.fixedDirectories, std::nullopt);
-    variables.insert("PATH", loginEnvironment::joinSearchPath(front, inherited.value_or(QByteArray())));
+    // The login shell's own order wins, as in the user's terminal; without one, the folders
+    // every command searches come first.
+    variables.insert("PATH", login ? loginEnvironment::completeSearchPath(login->path, front)
+                                   : loginEnvironment::joinSearchPath(front, inherited.value_or(QByteArray())));
     return variables;
 }
 
@@ -178,23 +199,41 @@ QProcessEnvironment ShellRunner::commandEnvironment() const
 }
 
 ProcessRun::Options ShellRunner::processOptions(const QString& command, const LoginEnvironment* login, Start start,
-                                                ProcessRun::Channels channels) const
+                                                ProcessRun::Channels channels, const QString& startMark) const
 {
     ProcessRun::Options options;
-    options.program = m_configuration.shell;
     options.channels = channels;
+    EnvironmentVariables variables = commandVariables(login);
     if (start == Start::asLoginShell) {
-        // The marker goes where each channel's own output begins: standard output, and also
-        // standard error when it is kept apart.
+        // The user's shell reads its start-up files and hands over to the commands' shell,
+        // which takes its output back where a start-up file sent it elsewhere (descriptors 3
+        // and 4, where the shell keeps them), marks that it started, and puts a marker where
+        // each channel's own output begins: standard output, and standard error when it is
+        // kept apart. The command travels in the environment, safe from every shell's quoting;
+        // the line is one line of plain words that sh, zsh, bash, fish and csh read alike.
         const QString marker = QString::fromLatin1(m_marker);
-        QString line = QStringLiteral("printf '%s' ") + marker + QLatin1Char(';');
+        QString inner = QStringLiteral("if { : >&3 } 2>/dev/null; then exec 1>&3 2>&4; fi; exec 3>&- 4>&-; "
+                                       ": >> \"$QUILLFORGE_STARTED\"; quillforge_command=$QUILLFORGE_COMMAND; "
+                                       "unset QUILLFORGE_COMMAND QUILLFORGE_STARTED QUILLFORGE_SHELL; printf %s ") +
+                        marker + QLatin1Char(';');
         if (channels == ProcessRun::Channels::separate)
-            line += QStringLiteral(" printf '%s' ") + marker + QStringLiteral(" >&2;");
-        options.arguments = {QStringLiteral("-l"), QStringLiteral("-c"), line + QLatin1Char('\n') + command};
+            inner += QStringLiteral(" printf %s ") + marker + QStringLiteral(" >&2;");
+        inner += QStringLiteral(" eval \"$quillforge_command\"");
+        const QString line = QStringLiteral("exec \"$QUILLFORGE_SHELL\" -f -c '") + inner + QLatin1Char('\'');
+        const QStringList invocation = m_platform ? m_platform->plainLoginShellInvocation(line)
+                                                  : QStringList{m_configuration.shell, QStringLiteral("-l"),
+                                                                QStringLiteral("-c"), line};
+        options.program = invocation.value(0);
+        options.arguments = invocation.mid(1);
+        options.outputAlsoOnThreeAndFour = true;
+        variables.insert("QUILLFORGE_COMMAND", command.toLocal8Bit());
+        variables.insert("QUILLFORGE_SHELL", QFile::encodeName(m_configuration.shell));
+        variables.insert("QUILLFORGE_STARTED", QFile::encodeName(startMark));
     } else {
+        options.program = m_configuration.shell;
         options.arguments = {QStringLiteral("-f"), QStringLiteral("-c"), command};
     }
-    options.environment = loginEnvironment::entries(commandVariables(login));
+    options.environment = loginEnvironment::entries(variables);
     options.workingDirectory = workingFolder();
     options.terminationGraceMs = m_configuration.terminationGraceMs;
     return options;
@@ -204,12 +243,16 @@ void ShellRunner::invalidateEnvironment() { ++m_generation; }
 
 QCoro::Task<std::shared_ptr<const LoginEnvironment>> ShellRunner::environment()
 {
-    if (m_state.source == EnvironmentState::Source::loginShellPerCommand)
+    if (!m_platform)
         co_return std::shared_ptr<const LoginEnvironment>();
     if (m_environment && m_environmentGeneration == m_generation) {
         std::shared_ptr<const LoginEnvironment> known = m_environment;
         co_return known;
     }
+    // A reading that failed is tried again once something may have changed it (a profile
+    // written, an installation, the user back after a while), not for every command.
+    if (m_failedGeneration == m_generation)
+        co_return std::shared_ptr<const LoginEnvironment>();
     // Commands that need it at the same time share one reading.
     if (m_reading && m_reading->generation() == m_generation) {
         const std::shared_ptr<Reading> reading = m_reading;
@@ -219,31 +262,52 @@ QCoro::Task<std::shared_ptr<const LoginEnvironment>> ShellRunner::environment()
 
     const auto reading = std::make_shared<Reading>(m_generation);
     m_reading = reading;
-    std::shared_ptr<const LoginEnvironment> read = co_await readLoginShell();
+    const LoginReading outcome = co_await readLoginShell();
+    const std::shared_ptr<const LoginEnvironment>& read = outcome.environment;
     if (m_reading == reading)
         m_reading.reset();
-    if (read) {
-        // A reading that an invalidation overtook still serves the commands that waited for it.
-        if (reading->generation() == m_generation) {
+    // A reading that an invalidation overtook still serves the commands that waited for it,
+    // but says nothing about the environment of later ones.
+    if (reading->generation() == m_generation) {
+        if (read) {
             m_environment = read;
             m_environmentGeneration = reading->generation();
+            m_state.source = EnvironmentState::Source::loginShellOnce;
+            m_state.path = QString::fromLocal8Bit(read->path);
+            m_state.reason.clear();
+        } else {
+            m_environment.reset();
+            m_failedGeneration = reading->generation();
+            const bool first = m_state.source != EnvironmentState::Source::loginShellPerCommand;
+            m_state.source = EnvironmentState::Source::loginShellPerCommand;
+            m_state.reason = m_state.loginShell + QLatin1Char(' ') + outcome.failure;
+            if (first) {
+                printDiagnostic(QStringLiteral("Login environment: %1; every command starts a login shell of its "
+                                               "own until the start-up files may have changed.")
+                                    .arg(m_state.reason));
+            }
         }
-    } else {
-        m_environment.reset();
     }
     reading->finish(read);
     co_return read;
 }
 
-QCoro::Task<std::shared_ptr<const LoginEnvironment>> ShellRunner::readLoginShell()
+QCoro::Task<ShellRunner::LoginReading> ShellRunner::readLoginShell()
 {
     const QByteArray token = randomToken();
     const QStringList invocation = m_platform->loginShellInvocation(loginEnvironment::script(token));
     const QString shown = invocation.mid(0, invocation.size() - 2).join(QLatin1Char(' '));
 
+    // The shell writes its environment into a file of a folder only the user can enter: the
+    // shell's own output may go wherever its start-up files send it (a session log), and an
+    // environment holds keys.
+    const QTemporaryDir folder(QDir::tempPath() + QStringLiteral("/quillforge-environment-XXXXXX"));
+    const QString file = folder.filePath(QStringLiteral("environment"));
+
     // The shell starts from the application's environment and search path, as a terminal does.
     EnvironmentVariables started = loginEnvironment::applicationEnvironment();
     started.insert("PATH", inheritedSearchPath().toLocal8Bit());
+    started.insert(loginEnvironment::kEnvironmentFileVariable, QFile::encodeName(file));
     ProcessRun::Options options;
     options.program = invocation.value(0);
     options.arguments = invocation.mid(1);
@@ -256,8 +320,14 @@ QCoro::Task<std::shared_ptr<const LoginEnvironment>> ShellRunner::readLoginShell
 
     QElapsedTimer clock;
     clock.start();
-    auto* process = new ProcessRun(std::move(options));
-    const ProcessOutcome outcome = co_await process->outcome();
+    ProcessOutcome outcome;
+    if (folder.isValid()) {
+        auto* process = new ProcessRun(std::move(options));
+        outcome = co_await process->outcome();
+    } else {
+        outcome.kind = ProcessOutcome::failedToStart;
+        outcome.launchError = QStringLiteral("no private folder in ") + QDir::tempPath();
+    }
     m_state.loginShell = shown;
     m_state.readingMs = clock.nsecsElapsed() / 1.0e6;
 
@@ -273,7 +343,9 @@ QCoro::Task<std::shared_ptr<const LoginEnvironment>> ShellRunner::readLoginShell
     case ProcessOutcome::stalled:
     case ProcessOutcome::exited: {
         // Whatever the shell's exit status, an environment between the markers is what it had.
-        const std::optional<EnvironmentVariables> printed = loginEnvironment::parse(outcome.standardOutput, token);
+        QFile written(file);
+        const QByteArray contents = written.open(QIODevice::ReadOnly) ? written.readAll() : QByteArray();
+        const std::optional<EnvironmentVariables> printed = loginEnvironment::parse(contents, token);
         if (!printed)
             failure = QStringLiteral("gave no environment (exit code %1; a start-up file may end or replace the shell)")
                           .arg(outcome.exitCode);
@@ -284,27 +356,7 @@ QCoro::Task<std::shared_ptr<const LoginEnvironment>> ShellRunner::readLoginShell
         break;
     }
     }
-
-    if (!read) {
-        // For the rest of the run: a shell that failed once would only hold every later
-        // command up again.
-        const bool first = m_state.source != EnvironmentState::Source::loginShellPerCommand;
-        m_state.source = EnvironmentState::Source::loginShellPerCommand;
-        m_state.reason = shown + QLatin1Char(' ') + failure;
-        if (first) {
-            printDiagnostic(QStringLiteral("Login environment: %1; every command starts a login shell of its own "
-                                           "from now on.")
-                                .arg(m_state.reason));
-        }
-        co_return std::shared_ptr<const LoginEnvironment>();
-    }
-    // A reading that was under way when another one failed is no reason to go back.
-    if (m_state.source != EnvironmentState::Source::loginShellPerCommand) {
-        m_state.source = EnvironmentState::Source::loginShellOnce;
-        m_state.path = QString::fromLocal8Bit(read->path);
-    }
-    std::shared_ptr<const LoginEnvironment> result = std::move(read);
-    co_return result;
+    co_return LoginReading{std::move(read), failure};
 }
 
 QCoro::Task<ShellRunner::EnvironmentState> ShellRunner::readEnvironment()
@@ -318,7 +370,9 @@ QCoro::Task<Result<QString>> ShellRunner::run(QString command, double timeoutSec
 {
     const std::shared_ptr<const LoginEnvironment> login = co_await environment();
     const Start start = login ? Start::withoutStartupFiles : Start::asLoginShell;
-    ProcessRun::Options options = processOptions(command, login.get(), start, ProcessRun::Channels::separate);
+    const StartMark mark;
+    ProcessRun::Options options = processOptions(command, login.get(), start, ProcessRun::Channels::separate,
+                                                 mark.path());
     // At least a millisecond, at most what a timer can wait.
     const int timeoutMs = timeoutSeconds > 0 ? static_cast<int>(std::clamp(timeoutSeconds * 1000.0, 1.0, 2.0e9)) : 0;
     options.timeoutMs = timeoutMs;
@@ -330,22 +384,21 @@ QCoro::Task<Result<QString>> ShellRunner::run(QString command, double timeoutSec
     auto* process = new ProcessRun(std::move(options));
     ProcessOutcome outcome = co_await process->outcome();
     if (start == Start::asLoginShell && outcome.kind == ProcessOutcome::exited) {
-        // The command's own output follows the marker; what came before is the start-up files'.
-        std::optional<QByteArray> output = after(outcome.standardOutput, m_marker);
-        std::optional<QByteArray> error = after(outcome.standardError, m_marker);
-        if (output || error) {
-            outcome.standardOutput = output.value_or(QByteArray());
-            outcome.standardError = error.value_or(QByteArray());
-            if (limit > 0 && std::max(outcome.standardOutput.size(), outcome.standardError.size()) > limit)
-                outcome.kind = ProcessOutcome::outputLimitReached;
-        } else {
-            // No marker at all: the command never ran, because a start-up file ended or
-            // replaced the shell first. It runs without them.
+        if (mark.provesNoStart()) {
+            // The command never ran: a start-up file ended or replaced the shell first. It
+            // runs without them.
             ProcessRun::Options bare = processOptions(command, nullptr, Start::bare, ProcessRun::Channels::separate);
             bare.timeoutMs = timeoutMs;
             bare.captureLimitBytes = m_configuration.outputLimitBytes;
             auto* again = new ProcessRun(std::move(bare));
             outcome = co_await again->outcome();
+        } else {
+            // The command's own output follows the marker; what came before is the start-up
+            // files'. Without a marker, its output went where a start-up file sent it.
+            outcome.standardOutput = after(outcome.standardOutput, m_marker).value_or(QByteArray());
+            outcome.standardError = after(outcome.standardError, m_marker).value_or(QByteArray());
+            if (limit > 0 && std::max(outcome.standardOutput.size(), outcome.standardError.size()) > limit)
+                outcome.kind = ProcessOutcome::outputLimitReached;
         }
     }
 
@@ -406,7 +459,9 @@ QCoro::Task<Result<void>> ShellRunner::runWithStreaming(QString command, OutputH
     // A login shell's output is the command's own only from the marker on.
     auto marked = std::make_shared<MarkedStream>(MarkedStream{QString::fromLatin1(m_marker), {}, false});
 
-    ProcessRun::Options options = processOptions(command, login.get(), start, ProcessRun::Channels::merged);
+    const StartMark mark;
+    ProcessRun::Options options =
+        processOptions(command, login.get(), start, ProcessRun::Channels::merged, mark.path());
     if (start == Start::asLoginShell) {
         options.onOutput = [marked, deliver](const QString& text) {
             const QString own = marked->feed(text);
@@ -423,7 +478,7 @@ QCoro::Task<Result<void>> ShellRunner::runWithStreaming(QString command, OutputH
 
     auto* process = new ProcessRun(options);
     ProcessOutcome outcome = co_await process->outcome();
-    if (start == Start::asLoginShell && outcome.kind == ProcessOutcome::exited && !marked->found) {
+    if (start == Start::asLoginShell && outcome.kind == ProcessOutcome::exited && mark.provesNoStart()) {
         // The command never ran: a start-up file ended or replaced the shell first. It runs
         // without them.
         ProcessRun::Options bare = processOptions(command, nullptr, Start::bare, ProcessRun::Channels::merged);

@@ -24,9 +24,13 @@ class Platform;
 // The environment comes from the user's login shell, started once (and again after
 // `invalidateEnvironment()`): its start-up files are read once, not for every command, and
 // whatever they print never reaches an answer. Each command then runs as `zsh -f -c LINE`,
-// reading no start-up file. Where that login shell cannot be read (it fails, takes too long or
-// gives no environment), or no platform says which shell it is, every command is a login shell
-// of its own, `zsh -l -c LINE`, and only what the command itself prints is kept.
+// reading no start-up file, and searches the login shell's search path first, in its order.
+// Where that login shell cannot be read (it fails, takes too long or gives no environment),
+// every command until the next invalidation is a login shell of its own: the user's shell,
+// not interactive, which hands over to `zsh -f -c LINE`, and only what the command itself
+// prints is kept. Without a platform to say which shell that is, it is always so, with the
+// commands' own shell. A command runs once: a second time only when it provably never
+// started, because a start-up file ended or replaced the shell.
 //
 // Commands never read from a terminal: standard input is the null device and the child runs
 // in a session of its own, so a command that would ask a question fails at once instead of
@@ -139,18 +143,24 @@ private:
     // How a command's shell is started.
     enum class Start {
         withoutStartupFiles, // `-f -c`, with the login shell's environment
-        asLoginShell,        // `-l -c`, the command after a marker
+        asLoginShell,        // the user's shell as a login shell, handing over to `-f -c`
         bare,                // `-f -c`, with the application's environment
     };
 
     // The login shell's environment; nothing when every command is a login shell of its own.
     QCoro::Task<std::shared_ptr<const LoginEnvironment>> environment();
+    struct LoginReading {
+        std::shared_ptr<const LoginEnvironment> environment; // nothing when it gave none
+        QString failure;                                     // and why
+    };
     // Starts the login shell and reads its environment.
-    QCoro::Task<std::shared_ptr<const LoginEnvironment>> readLoginShell();
+    QCoro::Task<LoginReading> readLoginShell();
     // The variables a command gets.
     EnvironmentVariables commandVariables(const LoginEnvironment* login) const;
+    // `startMark`: the file a command run as a login shell of its own creates once its own
+    // shell has started.
     ProcessRun::Options processOptions(const QString& command, const LoginEnvironment* login, Start start,
-                                       ProcessRun::Channels channels) const;
+                                       ProcessRun::Channels channels, const QString& startMark = QString()) const;
 
     Configuration m_configuration;
     const Platform* m_platform;
@@ -159,6 +169,9 @@ private:
     // The newest environment read, and the generation it belongs to.
     std::shared_ptr<const LoginEnvironment> m_environment;
     quint64 m_environmentGeneration = 0;
+    // The generation whose reading failed: commands run as login shells of their own until an
+    // invalidation.
+    quint64 m_failedGeneration = 0;
     // The reading in flight, if any; its generation says whether it is still current.
     std::shared_ptr<Reading> m_reading;
     // Grows with every invalidation.

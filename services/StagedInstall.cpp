@@ -560,4 +560,63 @@ void abandon(const Staging& staging)
         ::rmdir(QFile::encodeName(staging.madeFolders[index]).constData());
 }
 
+namespace {
+
+bool hasPrefix(const std::string& name, const char* prefix) { return name.rfind(prefix, 0) == 0; }
+
+// `path` is a folder of this user's that was last changed before `before`.
+bool isOwnOldFolder(const std::string& path, qint64 before)
+{
+    struct stat status {};
+    return ::lstat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode) && status.st_uid == ::geteuid() &&
+           status.st_mtime < before;
+}
+
+void removeLeftoversIn(const std::string& folder, int depth, qint64 before, QStringList& removed)
+{
+    std::vector<std::string> names;
+    listFolder(folder, names);
+    for (const std::string& name : names) {
+        const std::string path = joined(folder, name);
+        struct stat status {};
+        if (::lstat(path.c_str(), &status) != 0 || !S_ISDIR(status.st_mode))
+            continue;
+        if (hasPrefix(name, ".quillforge-staging-") || hasPrefix(name, ".quillforge-swap-")) {
+            if (isOwnOldFolder(path, before)) {
+                removeTree(path);
+                removed << pathText(path);
+            }
+        } else if (depth > 1) {
+            removeLeftoversIn(path, depth - 1, before, removed);
+        }
+    }
+}
+
+} // namespace
+
+QStringList removeLeftovers(const QString& destination, const QString& temporary, qint64 before)
+{
+    QStringList removed;
+    const std::string local = pathBytes(destination);
+    struct stat status {};
+    // ~/.local itself may be a link the user made; what lies inside it is searched as it is.
+    if (::stat(local.c_str(), &status) == 0 && S_ISDIR(status.st_mode))
+        removeLeftoversIn(local, 3, before, removed);
+
+    const std::string shared = pathBytes(temporary);
+    std::vector<std::string> names;
+    listFolder(shared, names);
+    for (const std::string& name : names) {
+        if (!hasPrefix(name, "quillforge-node-") && !hasPrefix(name, "quillforge-environment-") &&
+            !hasPrefix(name, "quillforge-command-"))
+            continue;
+        const std::string path = joined(shared, name);
+        if (isOwnOldFolder(path, before)) {
+            removeTree(path);
+            removed << pathText(path);
+        }
+    }
+    return removed;
+}
+
 } // namespace qf::stagedInstall

@@ -35,6 +35,14 @@ Result<void> complete(const Staging& staging, const QString& destination, const 
 // Removes the staging folder and the folders `begin` made: nothing is installed.
 void abandon(const Staging& staging);
 
+// What a copy of Quillforge stopped half-way (killed, crashed, the computer switched off)
+// leaves behind: staging folders and folders of replaced entries in `destination` (searched
+// three folders deep, links never followed), and downloads and the private folders of
+// commands in `temporary`. Removes those whose names are ours, that belong to this user and
+// that were last changed before `before` (seconds since the epoch), so that nothing of a run
+// under way goes. Only a copy that holds the one-window lock calls it. Returns what it removed.
+QStringList removeLeftovers(const QString& destination, const QString& temporary, qint64 before);
+
 } // namespace stagedInstall
 
 } // namespace qf

@@ -6,7 +6,10 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QVersionNumber>
 
+#include <algorithm>
+#include <map>
 #include <vector>
 
 namespace qf {
@@ -26,12 +29,42 @@ NodeCheck SystemDetector::evaluateNodeVersion(const std::optional<QString>& vers
     return {true, version, parsed && major >= minimumMajorVersion};
 }
 
-RequirementStatus SystemDetector::nodeStatus(const NodeCheck& node, CLITool tool)
+std::optional<QDate> SystemDetector::nodeEndOfLife(int major)
+{
+    // Even lines get three years of fixes, odd ones about eight months (nodejs.org's schedule).
+    static const std::map<int, QDate> known = {
+        {17, QDate(2022, 6, 1)},  {18, QDate(2025, 4, 30)}, {19, QDate(2023, 6, 1)},  {20, QDate(2026, 4, 30)},
+        {21, QDate(2024, 6, 1)},  {22, QDate(2027, 4, 30)}, {23, QDate(2025, 6, 1)},  {24, QDate(2028, 4, 30)},
+        {25, QDate(2026, 6, 1)},  {26, QDate(2029, 4, 30)},
+    };
+    if (major <= 16)
+        return QDate(2023, 9, 11); // Node.js 16, the last of the older lines to end
+    const auto found = known.find(major);
+    if (found == known.end())
+        return std::nullopt;
+    return found->second;
+}
+
+RequirementStatus SystemDetector::nodeStatus(const NodeCheck& node, int minimumMajor, const QDate& today)
 {
     QString details = node.version.value_or(QStringLiteral("Not installed"));
-    if (node.isInstalled && !node.meetsRequirement)
-        details += QStringLiteral(" (needs %1 or newer)").arg(tool.minimumNodeMajorVersion());
-    return {SystemRequirement::nodeJS, node.isInstalled && node.meetsRequirement, details};
+    if (node.isInstalled && !node.meetsRequirement) {
+        details += QStringLiteral(" (needs %1 or newer)").arg(minimumMajor);
+    } else if (node.isInstalled && node.version) {
+        const QVersionNumber version = QVersionNumber::fromString(node.version->mid(node.version->startsWith(QLatin1Char('v')) ? 1 : 0));
+        const std::optional<QDate> end = version.isNull() ? std::nullopt : nodeEndOfLife(version.majorVersion());
+        if (end && *end < today)
+            details += QStringLiteral(" \u2013 no longer receives security fixes");
+    }
+    return {SystemRequirement::nodeJS, node.isInstalled && node.meetsRequirement, details, minimumMajor};
+}
+
+QCoro::Task<int> SystemDetector::requiredNodeMajor(CLITool tool)
+{
+    int required = tool.minimumNodeMajorVersion();
+    if (m_published)
+        required = std::max(required, co_await m_published(tool));
+    co_return required;
 }
 
 RequirementStatus SystemDetector::diskSpaceStatus(std::optional<qint64> megabytes)
@@ -82,7 +115,8 @@ QCoro::Task<QList<NodeInstall>> SystemDetector::findNodeInstalls()
 
 QCoro::Task<std::optional<QString>> SystemDetector::getToolVersion(CLITool tool)
 {
-    const Result<QString> result = co_await m_shell.run(tool.commandName() + QStringLiteral(" --version"));
+    const Result<QString> result =
+        co_await m_shell.run(tool.commandName() + QStringLiteral(" --version"), m_versionTimeoutSeconds);
     if (!result)
         co_return std::nullopt;
     co_return result.value().trimmed();
@@ -195,8 +229,9 @@ QCoro::Task<QList<RequirementStatus>> SystemDetector::checkAllRequirements(CLITo
             QCoreApplication::translate("SystemDetector", "%1 not installed").arg(m_platform.developerToolsItem().name);
     requirements << RequirementStatus{SystemRequirement::git, git.version.ok(), gitDetails};
     if (tool.requiresNodeJS()) {
-        const NodeCheck node = co_await checkNodeJS(tool.minimumNodeMajorVersion());
-        requirements << nodeStatus(node, tool);
+        const int minimum = co_await requiredNodeMajor(tool);
+        const NodeCheck node = co_await checkNodeJS(minimum);
+        requirements << nodeStatus(node, minimum);
     }
     co_return requirements;
 }

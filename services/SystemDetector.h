@@ -6,7 +6,10 @@
 #include "ShellRunner.h"
 
 #include <QCoro/QCoroTask>
+#include <QDate>
 #include <QString>
+
+#include <functional>
 
 #include <optional>
 
@@ -46,6 +49,9 @@ public:
     // Claude Code's native build alone is about 400 MB, Codex about 420 MB installed and Node.js
     // about 190 MB: 1 GB leaves room for any one tool with what it needs.
     static constexpr qint64 minimumDiskSpaceMB = 1024;
+    // A tool that has not printed its version by then (one that waits for a sign-in, a broken
+    // update) counts as one whose version is unknown, and ends with everything it started.
+    static constexpr double defaultVersionTimeoutSeconds = 20;
 
     SystemDetector(ShellRunner& shell, const Platform& platform);
     SystemDetector(const SystemDetector&) = delete;
@@ -54,12 +60,22 @@ public:
     // The operating system, the free disk space and, for tools that need it, Node.js.
     QCoro::Task<QList<RequirementStatus>> checkAllRequirements(CLITool tool);
     QCoro::Task<NodeCheck> checkNodeJS(int minimumMajorVersion = minimumNodeMajorVersion);
+    // The major version of Node.js `tool` needs: what its newest release declares, where the
+    // registry says (through the published-requirement source), and never less than the
+    // catalogue's minimum.
+    QCoro::Task<int> requiredNodeMajor(CLITool tool);
+    using PublishedRequirement = std::function<QCoro::Task<int>(CLITool)>;
+    // Where the newest release's requirement comes from (0: not known); without one, the
+    // catalogue alone decides.
+    void setPublishedRequirement(PublishedRequirement source) { m_published = std::move(source); }
     QCoro::Task<std::optional<QString>> getNodeVersion();
     // Every `node` on the commands' search path, in the order it is searched: its folder and
     // the version it prints.
     QCoro::Task<QList<NodeInstall>> findNodeInstalls();
-    // Whatever `<command> --version` prints, trimmed; nothing when it fails.
+    // Whatever `<command> --version` prints, trimmed; nothing when it fails or takes longer
+    // than the version bound.
     QCoro::Task<std::optional<QString>> getToolVersion(CLITool tool);
+    void setVersionTimeoutSeconds(double seconds) { m_versionTimeoutSeconds = seconds; }
     // Where the tool's command is found on the commands' search path; nothing when it is not
     // there or the search could not run.
     QCoro::Task<std::optional<QString>> findTool(CLITool tool);
@@ -85,15 +101,22 @@ public:
     // The rules, on their own.
     static NodeCheck evaluateNodeVersion(const std::optional<QString>& version,
                                          int minimumMajorVersion = minimumNodeMajorVersion);
-    // The Node.js row of the system check for `tool`: the version, with the minimum beside an
-    // older one; "Not installed" without one.
-    static RequirementStatus nodeStatus(const NodeCheck& node, CLITool tool);
+    // The Node.js row of the system check for a tool that needs Node.js `minimumMajor`: the
+    // version, with the minimum beside an older one and a word beside one past its end of life
+    // on `today`, which is still met; "Not installed" without one.
+    static RequirementStatus nodeStatus(const NodeCheck& node, int minimumMajor,
+                                        const QDate& today = QDate::currentDate());
+    // The day the Node.js line `major` stops (or stopped) receiving security fixes; nothing for
+    // a line not known yet.
+    static std::optional<QDate> nodeEndOfLife(int major);
     static RequirementStatus diskSpaceStatus(std::optional<qint64> megabytes);
     static qint64 bytesToMegabytes(qint64 bytes) { return bytes / (qint64(1024) * 1024); }
 
 private:
     ShellRunner& m_shell;
     const Platform& m_platform;
+    double m_versionTimeoutSeconds = defaultVersionTimeoutSeconds;
+    PublishedRequirement m_published;
 };
 
 } // namespace qf

@@ -25,7 +25,8 @@ QCoro::Task<QList<SetupStep>> ToolInstaller::setupSteps(CLITool tool)
     steps << SetupStep{SetupStepType::createDeveloperFolder, SetupStepStatus::pending, std::nullopt};
     steps << SetupStep{SetupStepType::checkGit, SetupStepStatus::pending, std::nullopt};
     if (tool.requiresNodeJS()) {
-        const NodeCheck node = co_await m_detector.checkNodeJS(tool.minimumNodeMajorVersion());
+        const int minimum = co_await m_detector.requiredNodeMajor(tool);
+        const NodeCheck node = co_await m_detector.checkNodeJS(minimum);
         if (node.isInstalled && node.meetsRequirement)
             steps << SetupStep{SetupStepType::installNode, SetupStepStatus::skipped, node.version};
         else
@@ -95,7 +96,7 @@ QCoro::Task<Result<void>> ToolInstaller::runSetup(CLITool tool, StepUpdate repor
 
     // 3. Node.js, for the tools that run on it.
     if (tool.requiresNodeJS()) {
-        const int minimum = tool.minimumNodeMajorVersion();
+        const int minimum = co_await m_detector.requiredNodeMajor(tool);
         const NodeCheck before = co_await m_detector.checkNodeJS(minimum);
         if (before.isInstalled && before.meetsRequirement) {
             report(SetupStepType::installNode, SetupStepStatus::skipped, before.version);
@@ -109,7 +110,7 @@ QCoro::Task<Result<void>> ToolInstaller::runSetup(CLITool tool, StepUpdate repor
             const NodeCheck after = co_await m_detector.checkNodeJS(minimum);
             if (!after.meetsRequirement) {
                 const QList<NodeInstall> found = co_await m_detector.findNodeInstalls();
-                co_return ServiceError::message(NodeInstaller::shadowedMessage(tool, found));
+                co_return ServiceError::message(NodeInstaller::shadowedMessage(tool, minimum, found));
             }
             report(SetupStepType::installNode, SetupStepStatus::completed, after.version);
             const QList<NodeInstall> installs = co_await m_detector.findNodeInstalls();
@@ -148,11 +149,14 @@ QCoro::Task<Result<void>> ToolInstaller::runSetup(CLITool tool, StepUpdate repor
         }
     }
     if (tool.installsThroughNpm()) {
-        const Result<QString> ignoring = co_await m_shell.run(QStringLiteral("npm config get ignore-scripts"));
-        if (ignoring && ignoring.value().trimmed() == QLatin1String("true")) {
-            m_caveats << tr("npm is set to skip install scripts (ignore-scripts), so parts of %1 may be "
-                            "missing. If it does not start, run \"npm config delete ignore-scripts\" in "
-                            "Terminal and install it again.")
+        // The tools run without their install scripts (ignore-scripts is harmless), and npm's own
+        // lines about scripts it was not told to allow stay in the log. Only npm set to refuse
+        // such scripts can break an installation.
+        const Result<QString> strict = co_await m_shell.run(QStringLiteral("npm config get strict-allow-scripts"));
+        if (strict && strict.value().trimmed() == QLatin1String("true")) {
+            m_caveats << tr("npm is set to refuse install scripts it was not told to allow (strict-allow-scripts), "
+                            "so parts of %1 may be missing. If it does not start, run \"npm config delete "
+                            "strict-allow-scripts\" in a terminal window and install it again.")
                              .arg(tool.displayName());
         }
     }

@@ -90,6 +90,12 @@ QCoro::Task<std::optional<QString>> UpdateChecker::installedVersion(CLITool tool
     co_return version->text();
 }
 
+QCoro::Task<int> UpdateChecker::publishedNodeMajor(CLITool tool)
+{
+    const std::optional<PublishedVersion> latest = co_await latestVersion(tool);
+    co_return latest ? latest->requiredNodeMajor : 0;
+}
+
 QCoro::Task<std::optional<PublishedVersion>> UpdateChecker::latestVersion(CLITool tool, bool force)
 {
     const auto index = static_cast<size_t>(tool.index());

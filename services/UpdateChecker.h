@@ -93,6 +93,9 @@ public:
     QCoro::Task<std::optional<QString>> installedVersion(CLITool tool);
     // The newest published version of `tool`, by the same rules as `check`.
     QCoro::Task<std::optional<PublishedVersion>> latestVersion(CLITool tool, bool force = false);
+    // The major version of Node.js the newest published version of `tool` declares it needs
+    // (from the same check); 0 when that is not known or none is declared.
+    QCoro::Task<int> publishedNodeMajor(CLITool tool);
     // Forgets what the checks found for `tool` (after it was updated): the next check asks the
     // registry again.
     void forget(CLITool tool);

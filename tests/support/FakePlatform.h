@@ -81,21 +81,10 @@ public:
     // read, never the machine's own (/etc/zprofile, /etc/profile), which would put this
     // machine's programs on the search path: zsh without its global files, and sh and bash
     // reading the first file a login shell of theirs reads, as a login shell would.
-    QStringList loginShellInvocation(const QString& line) const override
+    QStringList loginShellInvocation(const QString& line) const override { return startedLoginShell(line, true); }
+    QStringList plainLoginShellInvocation(const QString& line) const override
     {
-        const QString name = QFileInfo(terminalShell).fileName();
-        if (name == QLatin1String("zsh"))
-            return {terminalShell,        QStringLiteral("-d"), QStringLiteral("-l"),
-                    QStringLiteral("-i"), QStringLiteral("-c"), line};
-        if (name == QLatin1String("bash") || name == QLatin1String("dash") || name == QLatin1String("sh")) {
-            const QString files = name == QLatin1String("bash")
-                                      ? QStringLiteral("~/.bash_profile ~/.bash_login ~/.profile")
-                                      : QStringLiteral("~/.profile");
-            return {
-                terminalShell, QStringLiteral("-c"),
-                QStringLiteral("for f in %1; do if [ -r \"$f\" ]; then . \"$f\"; break; fi; done; ").arg(files) + line};
-        }
-        return Platform::loginShellInvocation(line);
+        return startedLoginShell(line, false);
     }
     bool terminalStartsLoginShell() const override { return loginTerminals; }
     std::optional<NodeReleaseTarget> nodeReleaseTarget() const override { return releaseTarget; }
@@ -139,6 +128,46 @@ public:
     QStringList revealed;
     QStringList revealedFiles;
     QList<QUrl> openedURLs;
+
+private:
+    QStringList startedLoginShell(const QString& line, bool interactive) const
+    {
+        const QString name = QFileInfo(terminalShell).fileName();
+        if (name == QLatin1String("zsh")) {
+            QStringList invocation{terminalShell, QStringLiteral("-d"), QStringLiteral("-l")};
+            if (interactive)
+                invocation << QStringLiteral("-i");
+            return invocation << QStringLiteral("-c") << line;
+        }
+        if (name == QLatin1String("bash") || name == QLatin1String("dash") || name == QLatin1String("sh")) {
+            const QString files = name == QLatin1String("bash")
+                                      ? QStringLiteral("~/.bash_profile ~/.bash_login ~/.profile")
+                                      : QStringLiteral("~/.profile");
+            const QString sourced =
+                QStringLiteral("for f in %1; do if [ -r \"$f\" ]; then . \"$f\"; break; fi; done; ").arg(files) + line;
+            // bash reads no ~/.bashrc of its own here: a login shell leaves that to its profile.
+            if (interactive && name == QLatin1String("bash"))
+                return {terminalShell, QStringLiteral("--norc"), QStringLiteral("-i"), QStringLiteral("-c"), sourced};
+            return {terminalShell, QStringLiteral("-c"), sourced};
+        }
+        // fish and tcsh read the machine's own files (/etc/fish, /etc/csh.login) with no switch
+        // to leave out only those, and they put the machine's folders (where a real npm may
+        // live) first: they read the account's files the way the shell would, and no others.
+        if (name == QLatin1String("fish")) {
+            const QString files = QStringLiteral(
+                "for f in ~/.config/fish/conf.d/*.fish ~/.config/fish/config.fish; test -r $f; and source $f; end; ");
+            QStringList invocation{terminalShell, QStringLiteral("--no-config")};
+            if (interactive)
+                invocation << QStringLiteral("-i");
+            return invocation << QStringLiteral("-c") << files + line;
+        }
+        if (name.endsWith(QLatin1String("csh"))) {
+            const QString files = QStringLiteral("if ( -r ~/.tcshrc ) source ~/.tcshrc; "
+                                                 "if ( ! -r ~/.tcshrc && -r ~/.cshrc ) source ~/.cshrc; ");
+            return {terminalShell, QStringLiteral("-f"), QStringLiteral("-c"), files + line};
+        }
+        return interactive ? Platform::loginShellInvocation(line) : Platform::plainLoginShellInvocation(line);
+    }
 };
 
 } // namespace qf::test

@@ -19,6 +19,16 @@ void writeFile(const QString& path, const QByteArray& content)
     file.write(content);
 }
 
+bool writeExecutable(const QString& path, const QByteArray& content)
+{
+    QDir().mkpath(QFileInfo(path).absolutePath());
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate) || file.write(content) != content.size())
+        return false;
+    file.close();
+    return file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+}
+
 void settle()
 {
     for (int i = 0; i < 3; ++i) {

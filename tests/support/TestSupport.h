@@ -19,6 +19,8 @@ T* child(const QObject* root, const QString& name)
 
 // Writes `content` to `path`, making its folders first; fails the test when it cannot.
 void writeFile(const QString& path, const QByteArray& content);
+// The same for a program only its owner may change; false when it could not be written.
+bool writeExecutable(const QString& path, const QByteArray& content);
 
 // Runs posted events, including deferred deletions.
 void settle();

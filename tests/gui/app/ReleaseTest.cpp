@@ -132,10 +132,20 @@ TEST(Release, VersionAndHelpAnswerWithoutAWindowAndUnknownOptionsAreRefused)
     EXPECT_EQ(shortForm.exitCode, 0);
     EXPECT_EQ(shortForm.output, QStringLiteral("Quillforge %1\n").arg(version));
 
-    const AppRun unknown = runApp({QStringLiteral("--frobnicate")}, true);
-    EXPECT_EQ(unknown.exitCode, 1);
-    EXPECT_TRUE(unknown.errors.contains(QStringLiteral("frobnicate"))) << unknown.errors.toStdString();
-    EXPECT_TRUE(unknown.errors.contains(QStringLiteral("quillforge --help")));
+    // Refused with where to look, with a display and without one (before Qt would need it),
+    // also beside Qt's own options.
+    for (const bool display : {true, false}) {
+        const AppRun unknown = runApp({QStringLiteral("--frobnicate")}, display);
+        EXPECT_EQ(unknown.exitCode, 1) << display;
+        EXPECT_TRUE(unknown.errors.contains(QStringLiteral("frobnicate"))) << unknown.errors.toStdString();
+        EXPECT_TRUE(unknown.errors.contains(QStringLiteral("quillforge --help")));
+    }
+    const AppRun stray = runApp({QStringLiteral("-platform"), QStringLiteral("offscreen"), QStringLiteral("notes.txt")});
+    EXPECT_EQ(stray.exitCode, 1);
+    EXPECT_TRUE(stray.errors.contains(QStringLiteral("notes.txt"))) << stray.errors.toStdString();
+    const AppRun helpBesideQt = runApp({QStringLiteral("--style=Fusion"), QStringLiteral("-h")});
+    EXPECT_EQ(helpBesideQt.exitCode, 0);
+    EXPECT_TRUE(helpBesideQt.output.contains(QStringLiteral("--version")));
     EXPECT_FALSE(commandLineProblem({QStringLiteral("quillforge"), QStringLiteral("notes.txt")}).isEmpty());
     EXPECT_TRUE(commandLineProblem({QStringLiteral("quillforge")}).isEmpty());
 }

@@ -260,19 +260,19 @@ TEST_F(InstallFlowTest, MissingGitStopsTheRunAndTryAgainStartsOver)
 TEST_F(InstallFlowTest, ACaveatShowsOnTheResultAndTheCompletionScreen)
 {
     sandbox.installFakes({"git", "npm", "node"});
-    sandbox.setEnv("FAKE_NPM_IGNORE_SCRIPTS", "true");
+    sandbox.setEnv("FAKE_NPM_STRICT_ALLOW_SCRIPTS", "true");
     open(InstallationStep::installation, CLITool::geminiCLI);
     waitForInstallation();
     EXPECT_EQ(text("installationTitle"), QStringLiteral("Installation Complete!"));
     ASSERT_TRUE(shows(test::child(screen(), QStringLiteral("caveats"))));
-    EXPECT_TRUE(text("caveat").startsWith(QStringLiteral("npm is set to skip install scripts")));
+    EXPECT_TRUE(text("caveat").startsWith(QStringLiteral("npm is set to refuse install scripts")));
     click("mainButton");
     ASSERT_EQ(state.currentStep(), InstallationStep::completion);
     EXPECT_TRUE(shows(test::child(screen(), QStringLiteral("caveats"))));
     EXPECT_EQ(text("caveat"), state.caveats().first());
 
     // A run without caveats shows none, also after one that had them.
-    sandbox.setEnv("FAKE_NPM_IGNORE_SCRIPTS", "false");
+    sandbox.setEnv("FAKE_NPM_STRICT_ALLOW_SCRIPTS", "false");
     open(InstallationStep::installation, CLITool::geminiCLI);
     waitForInstallation();
     EXPECT_TRUE(state.caveats().isEmpty());

@@ -1,12 +1,22 @@
+#include "FileDescriptor.h"
 #include "SingleInstance.h"
 
 #include <gtest/gtest.h>
 
 #include <QFile>
 #include <QProcess>
+#include <QDeadlineTimer>
 #include <QTemporaryDir>
+#include <QThread>
 
+#include <cstring>
 #include <memory>
+#include <vector>
+
+#include <fcntl.h>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
 
 using namespace qf;
 
@@ -15,10 +25,17 @@ namespace {
 // One launch of the app's start-up claim, in a process of its own.
 class Launch {
 public:
-    explicit Launch(const QString& folder)
+    // `openFiles`: how many descriptors it may have open (0: as many as the system allows).
+    explicit Launch(const QString& folder, int openFiles = 0)
     {
-        m_process.setProgram(QStringLiteral(QF_SINGLE_INSTANCE_HELPER));
-        m_process.setArguments({folder});
+        if (openFiles > 0) {
+            m_process.setProgram(QStringLiteral("/bin/sh"));
+            m_process.setArguments({QStringLiteral("-c"), QStringLiteral("ulimit -n %1 && exec \"$0\" \"$1\"").arg(openFiles),
+                                    QStringLiteral(QF_SINGLE_INSTANCE_HELPER), folder});
+        } else {
+            m_process.setProgram(QStringLiteral(QF_SINGLE_INSTANCE_HELPER));
+            m_process.setArguments({folder});
+        }
         m_process.start();
     }
     ~Launch()
@@ -106,4 +123,38 @@ TEST(SingleInstance, AFolderThatCannotBeMadeStillLetsTheAppOpen)
     SingleInstance instance(blocker.fileName() + QStringLiteral("/runtime"));
     EXPECT_EQ(instance.claim(), SingleInstance::Role::unguarded);
     EXPECT_EQ(SingleInstance(QString()).claim(), SingleInstance::Role::unguarded);
+}
+
+TEST(SingleInstance, IdleConnectionsCannotCrowdOutALaunch)
+{
+    // A first copy that may open 64 files, and 120 connections of the same user that never say
+    // anything, more than it could hold open.
+    QTemporaryDir folder;
+    Launch first(folder.path(), 64);
+    ASSERT_EQ(first.role(), QStringLiteral("first"));
+    const SingleInstance paths(folder.path());
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    const QByteArray socketPath = QFile::encodeName(paths.socketPath());
+    ASSERT_LT(size_t(socketPath.size()), sizeof address.sun_path);
+    std::memcpy(address.sun_path, socketPath.constData(), size_t(socketPath.size()));
+
+    std::vector<std::unique_ptr<FileDescriptor>> idle;
+    const QDeadlineTimer flooding(5000);
+    while (idle.size() < 120 && !flooding.hasExpired()) {
+        auto socket = std::make_unique<FileDescriptor>(::socket(AF_UNIX, SOCK_STREAM, 0));
+        ASSERT_GE(socket->get(), 0);
+        ::fcntl(socket->get(), F_SETFL, O_NONBLOCK);
+        if (::connect(socket->get(), reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0)
+            idle.push_back(std::move(socket));
+        else
+            QThread::msleep(5); // the queue is full for now
+    }
+    // The copy kept taking them (and closing the oldest): the queue never stayed full.
+    EXPECT_EQ(idle.size(), 120u);
+
+    // With all of them still open on this side, a real launch gets through.
+    Launch second(folder.path());
+    EXPECT_EQ(second.role(), QStringLiteral("handed-over"));
+    EXPECT_EQ(first.rest(), QStringLiteral("activated"));
 }

@@ -9,6 +9,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <unistd.h>
+
 using namespace qf;
 
 namespace {
@@ -228,4 +230,36 @@ TEST(LogFile, ALogThatCannotBeWrittenKeepsNothingAndHarmsNothing)
         EXPECT_FALSE(whole->has_value());
     }
     EXPECT_FALSE(QFileInfo(root.filePath(QStringLiteral("state"))).isDir());
+}
+
+TEST(LogFile, AFolderThatIsALinkOrSomeoneElsesIsLeftAlone)
+{
+    // Another account's folder full of old logs, readable by all, reached through a link where
+    // the log folder should be; and (for root, who could change anyone's) the folder itself.
+    QTemporaryDir root;
+    ASSERT_TRUE(root.isValid());
+    const QString theirs = root.filePath(QStringLiteral("theirs"));
+    ASSERT_TRUE(QDir().mkdir(theirs));
+    for (int i = 1; i <= LogBook::kKeptFiles + 5; ++i) {
+        test::writeFile(QDir(theirs).filePath(LogBook::fileName(QStringLiteral("Install Codex"),
+                                                                QDateTime(QDate(2024, 1, i), QTime(9, 0, 0)))),
+                        "their log\n");
+    }
+    const QFileDevice::Permissions open = QFile::permissions(theirs);
+    const QString linked = root.filePath(QStringLiteral("logs"));
+    ASSERT_TRUE(QFile::link(theirs, linked));
+
+    QStringList folders{linked};
+    if (::geteuid() == 0) {
+        ASSERT_EQ(::chown(QFile::encodeName(theirs).constData(), 65534, 65534), 0);
+        folders << theirs;
+    }
+    for (const QString& folder : folders) {
+        SCOPED_TRACE(folder.toStdString());
+        const std::shared_ptr<LogFile> log = LogBook(folder).start(QStringLiteral("Install Claude Code"));
+        EXPECT_TRUE(log->path().isEmpty());
+        EXPECT_FALSE(log->isWhole());
+        EXPECT_EQ(QFile::permissions(theirs), open);
+        EXPECT_EQ(LogBook::logFiles(theirs).size(), LogBook::kKeptFiles + 5);
+    }
 }

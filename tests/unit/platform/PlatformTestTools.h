@@ -1,6 +1,7 @@
 #pragma once
 
 #include "StdoutCapture.h"
+#include "TestSupport.h"
 
 #include <QByteArray>
 #include <QFile>
@@ -88,15 +89,5 @@ inline QStringList availableShells()
     return shells;
 }
 
-// Writes an executable file.
-inline bool writeExecutable(const QString& path, const QByteArray& content)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
-        return false;
-    file.write(content);
-    file.close();
-    return file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
-}
 
 } // namespace qf::test

@@ -8,6 +8,7 @@
 #include "LoginEnvironment.h"
 #include "StdoutCapture.h"
 #include "TestMachine.h"
+#include "TestSupport.h"
 
 #include <QDir>
 #include <QFile>
@@ -282,7 +283,7 @@ TEST_F(LoginEnvironmentTest, StartupFilesThatHoldTheShellUpOrReplaceItFallBackWi
         test::StdoutCapture diagnostics;
         expectFakesFound(load(impatient));
         expectExactAnswers(impatient.runner, impatient.detector);
-        impatient.runner.invalidateEnvironment(); // tried once, not again
+        impatient.runner.invalidateEnvironment(); // tried again, and said once
         EXPECT_EQ(run(impatient.runner, QStringLiteral("echo again")).value(), QStringLiteral("again"));
         const QString said = diagnostics.text();
         diagnostics.restore();
@@ -311,14 +312,143 @@ TEST_F(LoginEnvironmentTest, ABashAccountsProfileSetsTheSearchPath)
               sandbox.path(QStringLiteral("own/bin/mytool")));
     EXPECT_EQ(run(services.runner, QStringLiteral("mytool; printf %s \"$GREETING\"")).value(),
               QStringLiteral("mine\nhello"));
-    // After the folders every command searches first, and the app's own search path is gone.
+    // The profile's order first, as in the user's terminal; the folders every command searches
+    // follow where it lacks them.
     const QStringList path =
         run(services.runner, QStringLiteral("printf %s \"$PATH\"")).value().split(QLatin1Char(':'));
-    ASSERT_GE(path.size(), 4);
-    EXPECT_EQ(path.at(0), sandbox.path(QStringLiteral(".local/bin")));
-    EXPECT_EQ(path.at(1), sandbox.binDirectory());
-    EXPECT_EQ(path.at(2), sandbox.path(QStringLiteral("own/bin")));
+    ASSERT_GE(path.size(), 3);
+    EXPECT_EQ(path.at(0), sandbox.path(QStringLiteral("own/bin")));
+    EXPECT_EQ(path.count(sandbox.binDirectory()), 1);
+    EXPECT_EQ(path.last(), sandbox.binDirectory());
+    EXPECT_EQ(path.at(path.size() - 2), sandbox.path(QStringLiteral(".local/bin")));
     EXPECT_TRUE(services.runner.environmentState().path.startsWith(sandbox.path(QStringLiteral("own/bin"))));
+}
+
+TEST_F(LoginEnvironmentTest, AVersionManagersNodeInZshrcWinsOverTheSystemsOne)
+{
+    // Volta, asdf, mise and fnm put their folder first in ~/.zshrc; the machine has another
+    // Node.js in a folder every command searches.
+    sandbox.writeFile(QStringLiteral(".zshrc"), "export PATH=\"$HOME/.volta/bin:$PATH\"\n");
+    const QString volta = sandbox.path(QStringLiteral(".volta/bin/node"));
+    ASSERT_TRUE(test::writeExecutable(volta, "#!/bin/sh\necho v22.11.0\n"));
+
+    EXPECT_EQ(run(services.runner, QStringLiteral("node --version")).value(), QStringLiteral("v22.11.0"));
+    EXPECT_EQ(await(services.runner.findProgram(QStringLiteral("node")))->value(), volta);
+    const std::optional<std::optional<QString>> version = await(services.detector.getNodeVersion());
+    EXPECT_EQ(version.value_or(std::nullopt), QStringLiteral("v22.11.0"));
+    // The folders the profile lacks still come, once and after it.
+    const QStringList path = services.runner.commandEnvironment().value(QStringLiteral("PATH")).split(QLatin1Char(':'));
+    ASSERT_FALSE(path.isEmpty());
+    EXPECT_EQ(path.first(), sandbox.path(QStringLiteral(".volta/bin")));
+    EXPECT_EQ(path.count(sandbox.path(QStringLiteral(".local/bin"))), 1);
+    EXPECT_EQ(path.count(sandbox.binDirectory()), 1);
+}
+
+TEST_F(LoginEnvironmentTest, StartupFilesThatRedirectTheShellsOutputNeverRunACommandTwice)
+{
+    // Session logging in ~/.zprofile sends the shell's output to a file; a key lives in the
+    // environment. The command counts its runs.
+    sandbox.setEnv("ANTHROPIC_API_KEY", "sk-ant-never-in-the-log");
+    const QString counting = QStringLiteral("echo ran >> ~/runs; echo own output; echo complaint >&2");
+    const auto runs = [this] { return sandbox.readFile(QStringLiteral("runs")).count("ran\n"); };
+    const struct {
+        const char* what;
+        QByteArray redirect;
+    } cases[] = {
+        {"appends to a log", "exec >>\"$HOME/.zsh-session.log\" 2>&1\n"},
+        {"tees to a log", "exec > >(tee -a \"$HOME/.zsh-session.log\") 2>&1\n"},
+    };
+    for (const auto& logging : cases) {
+        SCOPED_TRACE(logging.what);
+        sandbox.writeFile(QStringLiteral(".zprofile"), logging.redirect + "echo 'session started'\n");
+        // An interactive shell (the reading) that ends before it gives anything: every command
+        // is a login shell of its own.
+        sandbox.writeFile(QStringLiteral(".zshrc"), "[ -e ~/rc-ends-the-shell ] && exit 3\n");
+        QFile::remove(sandbox.path(QStringLiteral("runs")));
+        QFile::remove(sandbox.path(QStringLiteral("rc-ends-the-shell")));
+
+        // Read once; a login shell per command for lack of a platform; and for a reading that failed.
+        services.runner.invalidateEnvironment();
+        ShellRunner perCommand(sandbox.shellConfiguration());
+        ShellRunner failedReading(sandbox.shellConfiguration(), &platform);
+        for (ShellRunner* runner : {&services.runner, &perCommand, &failedReading}) {
+            if (runner == &failedReading)
+                sandbox.writeFile(QStringLiteral("rc-ends-the-shell"), "");
+            const Result<QString> answer = run(*runner, counting);
+            ASSERT_TRUE(answer.ok()) << answer.error().plainDescription().toStdString();
+            EXPECT_EQ(answer.value(), QStringLiteral("own output"));
+            EXPECT_EQ(streamed(*runner, counting), QStringLiteral("own output\ncomplaint\n"));
+        }
+        EXPECT_EQ(services.runner.environmentState().source, Source::loginShellOnce);
+        EXPECT_EQ(failedReading.environmentState().source, Source::loginShellPerCommand);
+        EXPECT_EQ(runs(), 6);
+
+        // The start-up files' own output went to their log, and nothing of the reading did.
+        QTRY_VERIFY(sandbox.readFile(QStringLiteral(".zsh-session.log")).contains("session started"));
+        const QByteArray log = sandbox.readFile(QStringLiteral(".zsh-session.log"));
+        EXPECT_FALSE(log.contains("sk-ant-never-in-the-log"));
+        EXPECT_FALSE(log.contains("quillforge"));
+        EXPECT_FALSE(log.contains("own output"));
+    }
+}
+
+TEST_F(LoginEnvironmentTest, AReadingThatFailedIsTriedAgainAtTheNextInvalidation)
+{
+    // One slow start of ~/.zshrc (only the reading's interactive shell reads it).
+    sandbox.writeFile(QStringLiteral(".zshrc"), QByteArray(kCountingProfile) + "[ -e ~/settled ] || sleep 3\n");
+    ShellRunner::Configuration configuration = sandbox.shellConfiguration();
+    configuration.loginEnvironmentTimeoutMs = 300;
+    configuration.terminationGraceMs = 100;
+    ShellRunner runner(configuration, &platform);
+
+    test::StdoutCapture diagnostics;
+    EXPECT_EQ(run(runner, QStringLiteral("echo one")).value(), QStringLiteral("one"));
+    EXPECT_EQ(run(runner, QStringLiteral("echo two")).value(), QStringLiteral("two"));
+    EXPECT_EQ(runner.environmentState().source, Source::loginShellPerCommand);
+    EXPECT_EQ(startupReads(), 1); // not again for every command
+
+    sandbox.writeFile(QStringLiteral("settled"), "");
+    runner.invalidateEnvironment();
+    EXPECT_EQ(run(runner, QStringLiteral("echo three")).value(), QStringLiteral("three"));
+    EXPECT_EQ(runner.environmentState().source, Source::loginShellOnce);
+    EXPECT_TRUE(runner.environmentState().reason.isEmpty());
+    EXPECT_EQ(startupReads(), 2);
+    EXPECT_EQ(diagnostics.text().count(QStringLiteral("Login environment:")), 1);
+}
+
+TEST_F(LoginEnvironmentTest, WithoutAReadingCommandsStartInTheAccountsOwnShellNotInteractive)
+{
+    // A bash account: ~/.bash_profile sets the search path, and ~/.bashrc, which it reads,
+    // starts tmux in an interactive shell, so the reading gives nothing. A zsh login shell
+    // would not even get to the command.
+    platform.terminalShell = QStringLiteral("/bin/bash");
+    sandbox.writeFile(QStringLiteral(".bash_profile"), "PATH=\"$HOME/own/bin:$PATH\"; export PATH; . ~/.bashrc\n");
+    sandbox.writeFile(QStringLiteral(".bashrc"), "case $- in *i*) exec /bin/sh -c 'echo tmux' ;; esac\n");
+    sandbox.writeFile(QStringLiteral(".zprofile"), "exit 3\n");
+    ASSERT_TRUE(test::writeExecutable(sandbox.path(QStringLiteral("own/bin/mytool")), "#!/bin/sh\necho mine\n"));
+
+    EXPECT_EQ(run(services.runner, QStringLiteral("mytool")).value(), QStringLiteral("mine"));
+    EXPECT_EQ(streamed(services.runner, QStringLiteral("mytool")), QStringLiteral("mine\n"));
+    EXPECT_EQ(services.runner.environmentState().source, Source::loginShellPerCommand);
+    EXPECT_TRUE(services.runner.environmentState().reason.contains(QStringLiteral("bash")));
+}
+
+TEST_F(LoginEnvironmentTest, EveryShellHandsTheCommandOverIntact)
+{
+    // The account's shell reads the hand-over line: quotes, dollars, braces and a line break
+    // in the command reach zsh untouched, whichever shell it is.
+    const QString command = QStringLiteral("x='it'\"'\"'s'; printf '%s|%s\\n' \"$x\" '${HOME} {a,b} !1'\necho \"two\"");
+    for (const char* shell : {"/bin/zsh", "/bin/bash", "/bin/dash", "/usr/bin/fish", "/usr/bin/tcsh"}) {
+        SCOPED_TRACE(shell);
+        if (!QFileInfo::exists(QString::fromLatin1(shell)))
+            GTEST_SKIP() << shell << " is not installed";
+        platform.terminalShell = QString::fromLatin1(shell);
+        ShellRunner::Configuration configuration = sandbox.shellConfiguration();
+        configuration.loginEnvironmentTimeoutMs = 1; // no reading: a login shell per command
+        ShellRunner runner(configuration, &platform);
+        EXPECT_EQ(run(runner, command).value(), QStringLiteral("it's|${HOME} {a,b} !1\ntwo"));
+        EXPECT_EQ(runner.environmentState().source, Source::loginShellPerCommand);
+    }
 }
 
 TEST_F(LoginEnvironmentTest, ProgramsAreFoundWithoutAShellExactlyWhereWhichFindsThem)

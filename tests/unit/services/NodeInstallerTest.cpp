@@ -141,10 +141,10 @@ TEST_F(NodeInstallerTest, AnOlderNodeFirstOnThePathFailsTheNodeStep)
 TEST(NodeShadowedMessage, SaysWhatWasFound)
 {
     const QList<NodeInstall> oldOnly = {{QStringLiteral("/usr/bin"), QStringLiteral("v18.19.0")}};
-    EXPECT_EQ(NodeInstaller::shadowedMessage(CLITool::geminiCLI, oldOnly),
+    EXPECT_EQ(NodeInstaller::shadowedMessage(CLITool::geminiCLI, 20, oldOnly),
               QStringLiteral("Node.js was installed, but the Node.js found first is v18.19.0 in /usr/bin. Gemini CLI "
                              "needs Node.js 20 or newer."));
-    EXPECT_EQ(NodeInstaller::shadowedMessage(CLITool::geminiCLI, {}),
+    EXPECT_EQ(NodeInstaller::shadowedMessage(CLITool::geminiCLI, 20, {}),
               QStringLiteral("Node.js was installed, but no Node.js is found on the search path. Gemini CLI needs "
                              "Node.js 20 or newer."));
 }

@@ -71,23 +71,28 @@ TEST_F(ShellRunnerTest, ChildSeesNvmVersionsFirstAndTheAppPathOnceAtTheEnd)
 {
     for (const char* version : {"v18.17.0", "v9.11.2", "v20.10.0", ".hidden"})
         QDir().mkpath(sandbox.path(QStringLiteral(".nvm/versions/node/") + QLatin1String(version)));
-    const Result<QString> path = run(QStringLiteral("printf %s \"$PATH\""));
-    ASSERT_TRUE(path.ok()) << message(path).toStdString();
-    const QStringList parts = path.value().split(QLatin1Char(':'));
     const QString versions = sandbox.home() + QStringLiteral("/.nvm/versions/node/");
     // Descending text order, not version order; hidden entries too.
-    ASSERT_GE(parts.size(), 7);
-    EXPECT_EQ(parts[0], versions + QStringLiteral("v9.11.2/bin"));
-    EXPECT_EQ(parts[1], versions + QStringLiteral("v20.10.0/bin"));
-    EXPECT_EQ(parts[2], versions + QStringLiteral("v18.17.0/bin"));
-    EXPECT_EQ(parts[3], versions + QStringLiteral(".hidden/bin"));
-    EXPECT_EQ(parts[4], sandbox.home() + QStringLiteral("/.local/bin"));
-    EXPECT_EQ(parts[5], sandbox.binDirectory());
+    const QStringList own = {versions + QStringLiteral("v9.11.2/bin"), versions + QStringLiteral("v20.10.0/bin"),
+                             versions + QStringLiteral("v18.17.0/bin"), versions + QStringLiteral(".hidden/bin"),
+                             sandbox.home() + QStringLiteral("/.local/bin"), sandbox.binDirectory()};
+
+    // Without a login environment, the folders every command searches come first.
+    ShellRunner perCommand(sandbox.shellConfiguration());
+    const Result<QString> path = run(perCommand, QStringLiteral("printf %s \"$PATH\""));
+    ASSERT_TRUE(path.ok()) << message(path).toStdString();
+    const QStringList parts = path.value().split(QLatin1Char(':'));
+    ASSERT_EQ(parts.size(), own.size() + 1);
+    EXPECT_EQ(parts.mid(0, own.size()), own);
     EXPECT_TRUE(parts.last().endsWith(QStringLiteral("/tools")));
-    EXPECT_EQ(parts.count(parts.last()), 1);
+
+    // With one, its search path comes first and the same folders follow, once each.
+    const Result<QString> login = run(QStringLiteral("printf %s \"$PATH\""));
+    ASSERT_TRUE(login.ok()) << message(login).toStdString();
+    EXPECT_EQ(login.value().split(QLatin1Char(':')), QStringList{parts.last()} + own);
 
     QDir(sandbox.path(QStringLiteral(".nvm"))).removeRecursively();
-    const Result<QString> plain = run(QStringLiteral("printf %s \"$PATH\""));
+    const Result<QString> plain = run(perCommand, QStringLiteral("printf %s \"$PATH\""));
     ASSERT_TRUE(plain.ok());
     EXPECT_TRUE(plain.value().startsWith(sandbox.home() + QStringLiteral("/.local/bin:")));
 }

@@ -9,13 +9,17 @@
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
+#include <QDateTime>
 #include <QProcess>
+#include <QTemporaryDir>
 
 #include <map>
 #include <string>
 #include <vector>
 
+#include <sys/time.h>
 #include <unistd.h>
+#include <utime.h>
 
 using namespace qf;
 using qf::test::await;
@@ -348,4 +352,58 @@ TEST_F(StagedInstallTest, AFolderLinkedToAnotherDiskGetsCopiesAndAFullOneNothing
               "Could not install " + local.toStdString() + "/bin/node: No space left on device");
     EXPECT_EQ(snapshot(home(QString())), before);
     EXPECT_EQ(runProgram(local + QStringLiteral("/bin/node")), "v20.19.5");
+}
+
+TEST(StagedInstallLeftovers, WhatAStoppedRunLeftGoesAndNothingElse)
+{
+    QTemporaryDir root;
+    ASSERT_TRUE(root.isValid());
+    const QString local = root.filePath(QStringLiteral("home/.local"));
+    const QString temporary = root.filePath(QStringLiteral("tmp"));
+    const qint64 now = QDateTime::currentSecsSinceEpoch();
+    // Folders as a killed run leaves them: last changed an hour ago.
+    const auto leftover = [now](const QString& folder) {
+        writeFile(folder + QStringLiteral("/bin/node"), "#!/bin/sh\n", true);
+        const QByteArray path = QFile::encodeName(folder);
+        const struct timeval times[2] = {{static_cast<time_t>(now - 3600), 0}, {static_cast<time_t>(now - 3600), 0}};
+        ASSERT_EQ(::lutimes(path.constData(), times), 0);
+    };
+    const QStringList gone = {
+        local + QStringLiteral("/.quillforge-staging-a1b2c3"),
+        local + QStringLiteral("/lib/node_modules/.quillforge-swap-d4e5f6"),
+        temporary + QStringLiteral("/quillforge-node-g7h8i9"),
+        temporary + QStringLiteral("/quillforge-command-j0k1l2"),
+    };
+    for (const QString& folder : gone)
+        leftover(folder);
+    // What stays: the user's own files, a folder of ours too deep to be one, one of a run under
+    // way (changed just now), a link with our name, and (for root) another account's folder.
+    writeFile(local + QStringLiteral("/bin/node"), "#!/bin/sh\n", true);
+    leftover(local + QStringLiteral("/a/b/c/.quillforge-staging-deep"));
+    leftover(temporary + QStringLiteral("/quillforge-environment-busy"));
+    ASSERT_EQ(::utime(QFile::encodeName(temporary + QStringLiteral("/quillforge-environment-busy")).constData(),
+                      nullptr),
+              0);
+    leftover(root.filePath(QStringLiteral("elsewhere")));
+    makeLink(root.filePath(QStringLiteral("elsewhere")), temporary + QStringLiteral("/quillforge-node-link"));
+    QStringList kept = {local + QStringLiteral("/bin/node"), local + QStringLiteral("/a/b/c/.quillforge-staging-deep"),
+                        temporary + QStringLiteral("/quillforge-environment-busy"),
+                        root.filePath(QStringLiteral("elsewhere/bin/node"))};
+    if (::geteuid() == 0) {
+        const QString theirs = temporary + QStringLiteral("/quillforge-node-theirs");
+        leftover(theirs);
+        ASSERT_EQ(::lchown(QFile::encodeName(theirs).constData(), 65534, 65534), 0);
+        kept << theirs;
+    }
+
+    QStringList removed = stagedInstall::removeLeftovers(local, temporary, now);
+    removed.sort();
+    QStringList expected = gone;
+    expected.sort();
+    EXPECT_EQ(removed, expected);
+    for (const QString& path : gone)
+        EXPECT_FALSE(QFileInfo::exists(path)) << path.toStdString();
+    for (const QString& path : kept)
+        EXPECT_TRUE(QFileInfo::exists(path)) << path.toStdString();
+    EXPECT_TRUE(QFileInfo(temporary + QStringLiteral("/quillforge-node-link")).isSymLink());
 }

@@ -2,9 +2,13 @@
 #include "StdoutCapture.h"
 #include "SystemDetector.h"
 #include "TestMachine.h"
+#include "TestSupport.h"
 
+#include <QDate>
 #include <QDir>
 #include <QFile>
+
+#include <algorithm>
 
 using namespace qf;
 using qf::test::await;
@@ -54,6 +58,33 @@ TEST(SystemDetectorRules, EachToolNeedsTheNodeOfItsPackage)
     // No tool goes below the floor of 18.
     for (const CLITool& tool : CLITool::allCases())
         EXPECT_GE(tool.minimumNodeMajorVersion(), SystemDetector::minimumNodeMajorVersion);
+}
+
+TEST(SystemDetectorRules, ANodeJSPastItsEndOfLifeIsNamedButStillCounts)
+{
+    const QDate today(2026, 11, 26);
+    const auto status = [&today](const char* version, int minimum) {
+        return SystemDetector::nodeStatus(SystemDetector::evaluateNodeVersion(QString::fromLatin1(version), minimum),
+                                          minimum, today);
+    };
+    const QString ended = QStringLiteral(" \u2013 no longer receives security fixes");
+    EXPECT_EQ(status("v20.20.2", 20),
+              (RequirementStatus{SystemRequirement::nodeJS, true, QStringLiteral("v20.20.2") + ended, 20}));
+    EXPECT_EQ(status("v18.20.8", 18).details, QStringLiteral("v18.20.8") + ended);
+    EXPECT_EQ(status("v25.1.0", 18).details, QStringLiteral("v25.1.0") + ended); // an odd line, ended in June
+    // Supported lines, a line not known yet, and one too old (which says what it needs instead).
+    for (const char* current : {"v22.11.0", "v24.3.0", "v26.0.0", "v31.0.0"})
+        EXPECT_EQ(status(current, 20).details, QString::fromLatin1(current));
+    EXPECT_EQ(status("v18.20.8", 22),
+              (RequirementStatus{SystemRequirement::nodeJS, false, QStringLiteral("v18.20.8 (needs 22 or newer)"), 22}));
+    // The day itself still counts as supported.
+    EXPECT_EQ(SystemDetector::nodeStatus(SystemDetector::evaluateNodeVersion(QStringLiteral("v22.1.0")), 18,
+                                         QDate(2027, 4, 30))
+                  .details,
+              QStringLiteral("v22.1.0"));
+    EXPECT_TRUE(SystemDetector::nodeStatus(SystemDetector::evaluateNodeVersion(QStringLiteral("v22.1.0")), 18,
+                                           QDate(2027, 5, 1))
+                    .details.endsWith(ended));
 }
 
 TEST(SystemDetectorRules, DiskSpaceBoundaries)
@@ -106,14 +137,15 @@ TEST_F(SystemDetectorTest, RequirementListsPerTool)
     // A Node.js too old for the tool shows its version and the one needed, and is not met;
     // the same Node.js is new enough for Codex.
     EXPECT_EQ(gemini[3],
-              (RequirementStatus{SystemRequirement::nodeJS, false, QStringLiteral("v19.0.0 (needs 20 or newer)")}));
+              (RequirementStatus{SystemRequirement::nodeJS, false, QStringLiteral("v19.0.0 (needs 20 or newer)"), 20}));
     sandbox.installFake(QStringLiteral("git"));
     const QList<RequirementStatus> codex = *await(detector.checkAllRequirements(CLITool::codex));
     EXPECT_EQ(codex[2], (RequirementStatus{SystemRequirement::git, true, QStringLiteral("git version 2.39.5")}));
-    EXPECT_EQ(codex[3], (RequirementStatus{SystemRequirement::nodeJS, true, QStringLiteral("v19.0.0")}));
+    EXPECT_EQ(codex[3], (RequirementStatus{SystemRequirement::nodeJS, true,
+                                           QStringLiteral("v19.0.0 \u2013 no longer receives security fixes"), 18}));
     sandbox.setEnv("FAKE_NODE_VERSION", "v17.9.1");
     EXPECT_EQ((*await(detector.checkAllRequirements(CLITool::codex)))[3],
-              (RequirementStatus{SystemRequirement::nodeJS, false, QStringLiteral("v17.9.1 (needs 18 or newer)")}));
+              (RequirementStatus{SystemRequirement::nodeJS, false, QStringLiteral("v17.9.1 (needs 18 or newer)"), 18}));
 
     // Claude Code needs no Node.js: three records, and node is never asked.
     QFile::remove(sandbox.stateDirectory() + QStringLiteral("/node.log"));
@@ -127,7 +159,39 @@ TEST_F(SystemDetectorTest, RequirementListsPerTool)
     sandbox.removeFake(QStringLiteral("node"));
     const QList<RequirementStatus> withoutNode = *await(detector.checkAllRequirements(CLITool::codex));
     ASSERT_EQ(withoutNode.size(), 4);
-    EXPECT_EQ(withoutNode[3], (RequirementStatus{SystemRequirement::nodeJS, false, QStringLiteral("Not installed")}));
+    EXPECT_EQ(withoutNode[3],
+              (RequirementStatus{SystemRequirement::nodeJS, false, QStringLiteral("Not installed"), 18}));
+}
+
+TEST_F(SystemDetectorTest, TheNewestReleaseSaysWhichNodeItNeeds)
+{
+    // Node.js 20, enough for Gemini CLI by the catalogue; its newest release asks for 22.
+    sandbox.installFakes({"node", "npm", "git"});
+    sandbox.setEnv("FAKE_NPM_ENGINES", ">=22");
+    const QList<RequirementStatus> strict = *await(detector.checkAllRequirements(CLITool::geminiCLI));
+    ASSERT_EQ(strict.size(), 4);
+    EXPECT_EQ(strict[3], (RequirementStatus{SystemRequirement::nodeJS, false,
+                                            QStringLiteral("v20.10.0 (needs 22 or newer)"), 22}));
+    EXPECT_EQ(*await(detector.requiredNodeMajor(CLITool::geminiCLI)), 22);
+    // The installation plans Node.js for it too.
+    const QList<SetupStep> steps = *await(services.installer.setupSteps(CLITool::geminiCLI));
+    const auto node = std::find_if(steps.begin(), steps.end(),
+                                   [](const SetupStep& step) { return step.type == SetupStepType::installNode; });
+    ASSERT_NE(node, steps.end());
+    EXPECT_EQ(node->status, SetupStepStatus(SetupStepStatus::pending));
+
+    // A registry that cannot be reached leaves the catalogue's word, and a release that asks
+    // for less never lowers it. Node.js 20 has had its last security fix: the row says so and
+    // still counts it.
+    sandbox.setEnv("FAKE_NPM_OFFLINE", "1");
+    services.updateChecker.forget(CLITool::geminiCLI);
+    EXPECT_EQ((*await(detector.checkAllRequirements(CLITool::geminiCLI)))[3],
+              (RequirementStatus{SystemRequirement::nodeJS, true,
+                                 QStringLiteral("v20.10.0 \u2013 no longer receives security fixes"), 20}));
+    qunsetenv("FAKE_NPM_OFFLINE");
+    sandbox.setEnv("FAKE_NPM_ENGINES", ">=16");
+    services.updateChecker.forget(CLITool::codex);
+    EXPECT_EQ(*await(detector.requiredNodeMajor(CLITool::codex)), 18);
 }
 
 TEST_F(SystemDetectorTest, DiskSpaceOfTheHomeVolume)
@@ -152,6 +216,14 @@ TEST_F(SystemDetectorTest, ToolVersionsAsPrinted)
     EXPECT_EQ(*await(detector.getToolVersion(CLITool::codex)), QStringLiteral("codex-cli 0.5.0\nbuilt today"));
     sandbox.setEnv("FAKE_TOOL_VERSION_FAIL", "1");
     EXPECT_EQ(*await(detector.getToolVersion(CLITool::codex)), std::nullopt);
+
+    // One that never answers (it waits for a sign-in) is unknown once the bound has passed, not
+    // after the ten minutes any command gets.
+    ASSERT_TRUE(test::writeExecutable(sandbox.binDirectory() + QStringLiteral("/codex"), "#!/bin/sh\nsleep 120\n"));
+    detector.setVersionTimeoutSeconds(0.5);
+    const std::optional<std::optional<QString>> version = await(detector.getToolVersion(CLITool::codex), 15000);
+    ASSERT_TRUE(version.has_value()) << "still waiting for the version";
+    EXPECT_EQ(*version, std::nullopt);
 }
 
 TEST_F(SystemDetectorTest, AToolCountsOnlyWhenItsCommandIsOnTheSearchPath)

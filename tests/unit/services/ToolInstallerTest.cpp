@@ -171,13 +171,21 @@ TEST_F(ToolInstallerTest, WhatASuccessfulInstallLeavesToKnowIsSaid)
     ASSERT_TRUE(run.result && run.result->ok()) << run.error().toStdString();
     EXPECT_EQ(installer.caveats(), QStringList());
 
-    // npm set to skip install scripts.
+    // npm set to skip install scripts: the tools run without them.
     sandbox.setEnv("FAKE_NPM_IGNORE_SCRIPTS", "true");
     run = runSetup(CLITool::geminiCLI);
     ASSERT_TRUE(run.result && run.result->ok());
+    EXPECT_EQ(installer.caveats(), QStringList());
+    // npm set to refuse the scripts it was not told to allow.
+    sandbox.setEnv("FAKE_NPM_STRICT_ALLOW_SCRIPTS", "true");
+    run = runSetup(CLITool::geminiCLI);
+    ASSERT_TRUE(run.result && run.result->ok());
     ASSERT_EQ(installer.caveats().size(), 1);
-    EXPECT_TRUE(installer.caveats().first().startsWith(QStringLiteral("npm is set to skip install scripts")));
+    EXPECT_TRUE(installer.caveats().first().startsWith(
+        QStringLiteral("npm is set to refuse install scripts it was not told to allow")));
+    EXPECT_TRUE(installer.caveats().first().contains(QStringLiteral("npm config delete strict-allow-scripts")));
     sandbox.setEnv("FAKE_NPM_IGNORE_SCRIPTS", "false");
+    sandbox.setEnv("FAKE_NPM_STRICT_ALLOW_SCRIPTS", "false");
 
     // A tool in ~/.local/bin that the user's shell will not find: it reads none of the files
     // Quillforge knows for it.
