@@ -7,7 +7,8 @@
 //
 // It only looks. Nothing is installed, removed, written or created; the commands it runs are
 // the user's login shell (once, for the environment) and the detection commands of the
-// services themselves (`which`, `--version`).
+// services themselves (`which`, `--version`). The Node.js each tool needs is the catalogue's:
+// the app also asks the registry what a tool's newest release declares.
 #include "CLITool.h"
 #include "Errors.h"
 #include "Platform.h"
@@ -388,6 +389,9 @@ int main(int argc, char* argv[])
 
     const std::unique_ptr<Platform> platform = createNativePlatform();
     Services services(*platform);
+    // The registry is not asked (that would remember its answer): the Node.js minimums are the
+    // catalogue's.
+    services.detector.setPublishedRequirement({});
     // A command-line tool with nothing else to do meanwhile: waiting here is fine.
     QCoro::waitFor(probe(services));
     return 0;

@@ -81,7 +81,13 @@ public:
     // read, never the machine's own (/etc/zprofile, /etc/profile), which would put this
     // machine's programs on the search path: zsh without its global files, and sh and bash
     // reading the first file a login shell of theirs reads, as a login shell would.
-    QStringList loginShellInvocation(const QString& line) const override { return startedLoginShell(line, true); }
+    QStringList loginShellInvocation(const QString& line) const override
+    {
+        // A shell whose start-up files end it before it gets to the line.
+        if (loginShellEndsEarly)
+            return {terminalShell, QStringLiteral("-c"), QStringLiteral("exit 3")};
+        return startedLoginShell(line, true);
+    }
     QStringList plainLoginShellInvocation(const QString& line) const override
     {
         return startedLoginShell(line, false);
@@ -107,6 +113,8 @@ public:
     std::optional<WindowFrame> windowFrame;
     std::optional<NodeReleaseTarget> releaseTarget = NodeReleaseTarget{QStringLiteral("linux-x64"),
                                                                        QStringLiteral("linux-x64")};
+    // The login shell read for the environment ends before it gives one.
+    bool loginShellEndsEarly = false;
     // The shell a new terminal window would start.
     QString terminalShell = QStringLiteral("/bin/zsh");
     bool loginTerminals = true;

@@ -6,19 +6,25 @@
 #include "Preferences.h"
 #include "QuillforgeVersion.h"
 #include "Services.h"
+#include "TestMachine.h"
 #include "TestSupport.h"
 
 #include <QAbstractButton>
 #include <QBuffer>
 #include <QClipboard>
+#include <QDateTime>
+#include <QDir>
 #include <QFile>
 #include <QImage>
 #include <QLabel>
 #include <QMap>
 #include <QProcess>
 #include <QSettings>
+#include <QTemporaryDir>
 #include <QXmlStreamReader>
 #include <QtEndian>
+
+#include <sys/time.h>
 
 using namespace qf;
 
@@ -150,6 +156,47 @@ TEST(Release, VersionAndHelpAnswerWithoutAWindowAndUnknownOptionsAreRefused)
     EXPECT_TRUE(commandLineProblem({QStringLiteral("quillforge")}).isEmpty());
 }
 
+TEST(Release, ALaunchClearsWhatAStoppedRunLeftBehind)
+{
+    // A home and a temporary folder of its own; an installation that was killed left its
+    // staging folder and its download an hour ago.
+    QTemporaryDir root;
+    ASSERT_TRUE(root.isValid());
+    const QString home = root.filePath(QStringLiteral("home"));
+    const QString staging = home + QStringLiteral("/.local/.quillforge-staging-Ab12Cd");
+    const QString download = root.filePath(QStringLiteral("tmp/quillforge-node-Ef34Gh"));
+    test::writeFile(staging + QStringLiteral("/bin/node"), "node");
+    test::writeFile(download + QStringLiteral("/node.tar.gz"), "archive");
+    const QString settings = home + QStringLiteral("/.config/Quillforge/Quillforge.conf");
+    test::writeFile(settings, "[General]\nhasCompletedOnboarding=false\n");
+    QDir().mkpath(root.filePath(QStringLiteral("run")));
+    QFile::setPermissions(root.filePath(QStringLiteral("run")), QFileDevice::ReadOwner | QFileDevice::WriteOwner |
+                                                                   QFileDevice::ExeOwner);
+    const qint64 hourAgo = QDateTime::currentSecsSinceEpoch() - 3600;
+    for (const QString& folder : {staging, download}) {
+        const struct timeval times[2] = {{static_cast<time_t>(hourAgo), 0}, {static_cast<time_t>(hourAgo), 0}};
+        ASSERT_EQ(::utimes(QFile::encodeName(folder).constData(), times), 0);
+    }
+
+    QProcess app;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("HOME"), home);
+    environment.insert(QStringLiteral("XDG_CONFIG_HOME"), home + QStringLiteral("/.config"));
+    environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), root.filePath(QStringLiteral("run")));
+    environment.insert(QStringLiteral("TMPDIR"), root.filePath(QStringLiteral("tmp")));
+    environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+    environment.insert(QStringLiteral("QUILLFORGE_REPORT_FIRST_FRAME"), QStringLiteral("1"));
+    app.setProcessEnvironment(environment);
+    app.start(QStringLiteral(QF_APP_BINARY), QStringList());
+    ASSERT_TRUE(app.waitForFinished(30000));
+    const QString said = QString::fromUtf8(app.readAllStandardOutput());
+    EXPECT_EQ(app.exitCode(), 0) << said.toStdString();
+    EXPECT_TRUE(said.contains(QStringLiteral("first-frame"))) << said.toStdString();
+    EXPECT_FALSE(QFileInfo::exists(staging));
+    EXPECT_FALSE(QFileInfo::exists(download));
+    EXPECT_TRUE(QFileInfo(home + QStringLiteral("/.local")).isDir());
+}
+
 TEST(Release, TheMacBundleDescribesItselfCompletely)
 {
     const auto plist = readPropertyList(QStringLiteral(QF_GENERATED_DIR "/Info.plist"));
@@ -215,10 +262,11 @@ TEST(Release, TheDashboardOpensTheAboutWindowWhereTheSystemHasNoApplicationMenu)
 {
     test::clearPreferences();
     Preferences::setHasCompletedOnboarding(true);
-    test::FakePlatform platform;
-    Services services(platform);
+    // The dashboard looks at the machine: a sandbox of its own, whose commands end with the test.
+    test::TestMachine machine;
+    test::FakePlatform& platform = machine.platform;
     InstallationState state;
-    MainWindow window(state, services);
+    MainWindow window(state, machine.services);
     window.show();
 
     auto* about = test::child<QAbstractButton>(window.contentView(), QStringLiteral("aboutButton"));
@@ -240,21 +288,19 @@ TEST(Release, TheDashboardOpensTheAboutWindowWhereTheSystemHasNoApplicationMenu)
     EXPECT_EQ(window.aboutDialog(), nullptr);
 
     // A Mac keeps it in the application menu, so the dashboard shows no button for it.
-    test::FakePlatform mac;
-    mac.applicationMenu = true;
-    Services macServices(mac);
+    test::TestMachine macMachine;
+    macMachine.platform.applicationMenu = true;
     InstallationState macState;
-    MainWindow macWindow(macState, macServices);
+    MainWindow macWindow(macState, macMachine.services);
     EXPECT_EQ(macWindow.contentView()->findChild<QWidget*>(QStringLiteral("aboutButton")), nullptr);
 }
 
 TEST(Release, BringingToFrontRestoresAMinimisedWindow)
 {
     test::clearPreferences();
-    test::FakePlatform platform;
-    Services services(platform);
+    test::TestMachine machine;
     InstallationState state;
-    MainWindow window(state, services);
+    MainWindow window(state, machine.services);
     window.showMinimized();
     test::settle();
     window.bringToFront();

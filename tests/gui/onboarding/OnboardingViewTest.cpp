@@ -5,6 +5,7 @@
 #include "OnboardingView.h"
 #include "Preferences.h"
 #include "Services.h"
+#include "TestMachine.h"
 #include "TestSupport.h"
 
 #include "Button.h"
@@ -151,9 +152,8 @@ TEST_F(OnboardingTest, GetStartedMidAnimationStoresThePreferenceAndGoesHome)
     test::AnimationsOn animations;
     InstallationState state;
     ASSERT_EQ(state.currentStep(), InstallationStep::onboarding);
-    test::FakePlatform platform;
-    Services services(platform);
-    MainWindow window(state, services);
+    test::TestMachine machine;
+    MainWindow window(state, machine.services);
     window.resize(900, 700);
     window.show();
     auto* view = qobject_cast<OnboardingView*>(window.contentView()->currentScreen());

@@ -354,9 +354,10 @@ TEST_F(LoginEnvironmentTest, StartupFilesThatRedirectTheShellsOutputNeverRunACom
     const struct {
         const char* what;
         QByteArray redirect;
+        bool echoed; // the start-up files' output also reaches the shell's own, at any moment
     } cases[] = {
-        {"appends to a log", "exec >>\"$HOME/.zsh-session.log\" 2>&1\n"},
-        {"tees to a log", "exec > >(tee -a \"$HOME/.zsh-session.log\") 2>&1\n"},
+        {"appends to a log", "exec >>\"$HOME/.zsh-session.log\" 2>&1\n", false},
+        {"tees to a log", "exec > >(tee -a \"$HOME/.zsh-session.log\") 2>&1\n", true},
     };
     for (const auto& logging : cases) {
         SCOPED_TRACE(logging.what);
@@ -374,10 +375,14 @@ TEST_F(LoginEnvironmentTest, StartupFilesThatRedirectTheShellsOutputNeverRunACom
         for (ShellRunner* runner : {&services.runner, &perCommand, &failedReading}) {
             if (runner == &failedReading)
                 sandbox.writeFile(QStringLiteral("rc-ends-the-shell"), "");
+            // Where a background tee echoes the greeting, it may come after the command's start.
+            const auto own = [&logging](QString text) {
+                return logging.echoed ? text.remove(QStringLiteral("session started\n")) : text;
+            };
             const Result<QString> answer = run(*runner, counting);
             ASSERT_TRUE(answer.ok()) << answer.error().plainDescription().toStdString();
-            EXPECT_EQ(answer.value(), QStringLiteral("own output"));
-            EXPECT_EQ(streamed(*runner, counting), QStringLiteral("own output\ncomplaint\n"));
+            EXPECT_EQ(own(answer.value()), QStringLiteral("own output"));
+            EXPECT_EQ(own(streamed(*runner, counting)), QStringLiteral("own output\ncomplaint\n"));
         }
         EXPECT_EQ(services.runner.environmentState().source, Source::loginShellOnce);
         EXPECT_EQ(failedReading.environmentState().source, Source::loginShellPerCommand);
@@ -443,9 +448,8 @@ TEST_F(LoginEnvironmentTest, EveryShellHandsTheCommandOverIntact)
         if (!QFileInfo::exists(QString::fromLatin1(shell)))
             GTEST_SKIP() << shell << " is not installed";
         platform.terminalShell = QString::fromLatin1(shell);
-        ShellRunner::Configuration configuration = sandbox.shellConfiguration();
-        configuration.loginEnvironmentTimeoutMs = 1; // no reading: a login shell per command
-        ShellRunner runner(configuration, &platform);
+        platform.loginShellEndsEarly = true; // no reading: a login shell per command
+        ShellRunner runner(sandbox.shellConfiguration(), &platform);
         EXPECT_EQ(run(runner, command).value(), QStringLiteral("it's|${HOME} {a,b} !1\ntwo"));
         EXPECT_EQ(runner.environmentState().source, Source::loginShellPerCommand);
     }
