@@ -6,6 +6,8 @@
 
 #include <QCoro/QCoroFuture>
 #include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
 #include <QtConcurrent/QtConcurrentRun>
 
 namespace qf {
@@ -18,24 +20,25 @@ SearchPathFix::SearchPathFix(ShellRunner& shell, SystemDetector& detector, const
 QCoro::Task<bool> SearchPathFix::newTerminalSearches(QString folder)
 {
     // The line runs as a new terminal window's shell would run it: the user's shell, reading
-    // its start-up files, from the search path the application was started with. It prints
-    // the search path between two marks, so that what a start-up file prints is not taken
-    // for a folder.
-    const QString begin = QStringLiteral("<quillforge-path>");
-    const QString end = QStringLiteral("</quillforge-path>");
+    // its start-up files, from the search path the application was started with. It writes
+    // the search path into a file of a private folder: what a start-up file prints is never
+    // taken for a folder, and a start-up file that sends the shell's output to a session log
+    // neither hides the answer nor gets it.
+    const QTemporaryDir answer(QDir::tempPath() + QStringLiteral("/quillforge-command-XXXXXX"));
+    if (!answer.isValid())
+        co_return false;
+    const QString file = answer.filePath(QStringLiteral("path"));
     QString line = QStringLiteral("PATH=") + shellQuote(m_shell.inheritedSearchPath()) +
-                   QStringLiteral("; export PATH; exec");
+                   QStringLiteral("; export PATH; QUILLFORGE_PATH_FILE=") + shellQuote(file) +
+                   QStringLiteral("; export QUILLFORGE_PATH_FILE; exec");
     for (const QString& word :
-         m_platform.terminalShellInvocation(QStringLiteral("printf '%1%s%2' \"$PATH\"").arg(begin, end)))
+         m_platform.terminalShellInvocation(QStringLiteral("printf '%s' \"$PATH\" > \"$QUILLFORGE_PATH_FILE\"")))
         line += QLatin1Char(' ') + shellQuote(word);
-    const Result<QString> printed = co_await m_shell.run(line, 30);
-    if (!printed)
+    const Result<QString> ran = co_await m_shell.run(line, 30);
+    QFile written(file);
+    if (!ran || !written.open(QIODevice::ReadOnly))
         co_return false;
-    const qsizetype from = printed.value().lastIndexOf(begin);
-    const qsizetype to = printed.value().indexOf(end, from);
-    if (from < 0 || to < 0)
-        co_return false;
-    const QString path = printed.value().sliced(from + begin.size(), to - from - begin.size());
+    const QString path = QFile::decodeName(written.readAll());
     const QString home = QDir::homePath();
     for (QString entry : path.split(QLatin1Char(':'))) {
         if (entry.startsWith(QLatin1String("~/")))

@@ -23,6 +23,8 @@ TEST_F(SearchPathFixTest, AnUnwritableNpmFolderSendsTheToolToLocalAndTheTerminal
     QFile::setPermissions(sandbox.path(QStringLiteral("dotfiles/zshrc")),
                           QFileDevice::ReadOwner | QFileDevice::WriteOwner);
     QFile::link(sandbox.path(QStringLiteral("dotfiles/zshrc")), sandbox.path(QStringLiteral(".zshrc")));
+    // Session logging: the login shell's output goes to a file of the user's.
+    sandbox.writeFile(QStringLiteral(".zprofile"), "exec >>\"$HOME/.zsh-session.log\" 2>&1\necho 'session started'\n");
 
     const SetupRun run = runSetup(CLITool::codex);
     ASSERT_TRUE(run.result && run.result->ok()) << run.error().toStdString();
@@ -54,6 +56,10 @@ TEST_F(SearchPathFixTest, AnUnwritableNpmFolderSendsTheToolToLocalAndTheTerminal
     ASSERT_TRUE(again.result && again.result->ok()) << again.error().toStdString();
     EXPECT_FALSE(again.log.contains(QStringLiteral("search path"))) << again.log.toStdString();
     EXPECT_EQ(sandbox.readFile(QStringLiteral("dotfiles/zshrc")), profile);
+    // What the checks asked never went to the session log.
+    const QByteArray session = sandbox.readFile(QStringLiteral(".zsh-session.log"));
+    EXPECT_TRUE(session.contains("session started"));
+    EXPECT_FALSE(session.contains(".local/bin")) << session.constData();
 
     // The block makes bash find the programs too.
     platform.terminalShell = QStringLiteral("/bin/bash");
