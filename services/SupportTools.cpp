@@ -110,7 +110,9 @@ QCoro::Task<SystemTool> SupportTools::detect(SystemTool tool)
             output = present.value();
         else if (*version)
             output = version->value();
-        if (output)
+        // A version command that printed nothing (xcodebuild where only the Command Line Tools
+        // are installed) leaves the version unknown, not empty.
+        if (output && !QString(*output).remove(developerTools.versionPrefix).trimmed().isEmpty())
             tool.version = QString(*output).remove(developerTools.versionPrefix);
         break;
     }

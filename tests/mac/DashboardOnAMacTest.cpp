@@ -1,3 +1,4 @@
+#include "Badge.h"
 #include "MacTest.h"
 
 #include <QDir>
@@ -47,13 +48,14 @@ TEST_F(DashboardOnAMac, InstallingTheCommandLineToolsOpensTheSystemsInstaller)
     EXPECT_EQ(events[2], QStringLiteral("system-events\t"));
 
     // Once the user has installed them, the next load shows them. Without Xcode the version
-    // pipeline prints nothing (xcodebuild says it needs Xcode): an empty version, and still no
-    // dialog.
+    // pipeline prints nothing (xcodebuild says it needs Xcode): no version, the badge says
+    // they are ready, and still no dialog.
     mac.setDeveloperTools(true);
     screenAs<HomeView>()->loadData();
     waitForDashboard();
     EXPECT_TRUE(item("xcode")->tool().isInstalled);
-    EXPECT_EQ(item("xcode")->tool().version, QString());
+    EXPECT_EQ(item("xcode")->tool().version, std::nullopt);
+    EXPECT_EQ(test::child<ui::Badge>(item("xcode"), QStringLiteral("versionBadge"))->text(), QStringLiteral("Ready"));
     EXPECT_EQ(mac.events(QStringLiteral("developer-tools-dialog")).size(), 1);
 }
 

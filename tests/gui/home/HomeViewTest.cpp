@@ -102,10 +102,11 @@ TEST_F(HomeTest, InstalledToolsAndItemsShowTheirState)
         EXPECT_EQ(aiCard->accessibleDescription(), QStringLiteral("Installed"));
     }
 
-    // Versions as detected; the Command Line Tools without Xcode give an empty version.
+    // Versions as detected; the Command Line Tools without Xcode give none, and say they are ready.
     EXPECT_EQ(test::child<ui::Badge>(card(*view, "homebrew"), QStringLiteral("versionBadge"))->text(),
               QStringLiteral("4.2.0"));
-    EXPECT_EQ(test::child<ui::Badge>(card(*view, "xcode"), QStringLiteral("versionBadge"))->text(), QString());
+    EXPECT_EQ(test::child<ui::Badge>(card(*view, "xcode"), QStringLiteral("versionBadge"))->text(),
+              QStringLiteral("Ready"));
     EXPECT_EQ(card(*view, "node")->accessibleDescription(), QStringLiteral("Installed, v20.10.0, Optional"));
     // The projects folder offers "Open"; installed developer tools and the optional items none.
     EXPECT_EQ(card(*view, "developer")->actionButton()->title(), QStringLiteral("Open"));

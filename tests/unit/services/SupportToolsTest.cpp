@@ -114,10 +114,10 @@ TEST_F(SupportToolsTest, VersionsAsTheyAreShown)
     sandbox.installFakes({"xcode-select", "xcodebuild", "brew", "node"});
     QDir().mkpath(sandbox.path(QStringLiteral("Developer")));
 
-    // Only the Command Line Tools: the version pipeline prints nothing, an empty version.
+    // Only the Command Line Tools: the version pipeline prints nothing, so no version is known.
     QList<SystemTool> tools = detect();
     EXPECT_TRUE(item(tools, SystemToolID::developerTools).isInstalled);
-    EXPECT_EQ(item(tools, SystemToolID::developerTools).version, QString());
+    EXPECT_EQ(item(tools, SystemToolID::developerTools).version, std::nullopt);
     EXPECT_TRUE(item(tools, SystemToolID::developerFolder).isInstalled);
     EXPECT_FALSE(item(tools, SystemToolID::developerFolder).version.has_value());
     EXPECT_EQ(item(tools, SystemToolID::homebrew).version, QStringLiteral("4.2.0")); // first line only
