@@ -30,11 +30,26 @@ struct QtOption {
     bool takesValue;
 };
 constexpr QtOption kQtOptions[] = {
-    {"platform", true},   {"platformpluginpath", true}, {"platformtheme", true}, {"plugin", true},
-    {"qwindowgeometry", true}, {"qwindowicon", true},    {"qwindowtitle", true},  {"session", true},
-    {"display", true},    {"geometry", true},           {"name", true},          {"title", true},
-    {"style", true},      {"stylesheet", true},         {"reverse", false},      {"widgetcount", false},
-    {"nograb", false},    {"dograb", false},            {"sync", false},         {"visual", true},
+    {"platform", true},
+    {"platformpluginpath", true},
+    {"platformtheme", true},
+    {"plugin", true},
+    {"qwindowgeometry", true},
+    {"qwindowicon", true},
+    {"qwindowtitle", true},
+    {"session", true},
+    {"display", true},
+    {"geometry", true},
+    {"name", true},
+    {"title", true},
+    {"style", true},
+    {"stylesheet", true},
+    {"reverse", false},
+    {"widgetcount", false},
+    {"nograb", false},
+    {"dograb", false},
+    {"sync", false},
+    {"visual", true},
     {"qmljsdebugger", true},
 };
 
@@ -54,9 +69,8 @@ QStringList withoutQtOptions(const QStringList& arguments)
         const bool valueAttached = equals >= 0;
         if (valueAttached)
             name.truncate(equals);
-        const auto known = std::find_if(std::begin(kQtOptions), std::end(kQtOptions), [&name](const QtOption& option) {
-            return name == QLatin1String(option.name);
-        });
+        const auto known = std::find_if(std::begin(kQtOptions), std::end(kQtOptions),
+                                        [&name](const QtOption& option) { return name == QLatin1String(option.name); });
         if (known == std::end(kQtOptions) || (valueAttached && !known->takesValue)) {
             kept << argument;
             continue;

@@ -223,7 +223,8 @@ void SingleInstance::acceptConnections()
                 if (!m_connections.isEmpty())
                     delete m_connections.takeFirst().data();
                 m_listening->setEnabled(false);
-                QTimer::singleShot(acceptPauseMs, m_listening, [listening = m_listening] { listening->setEnabled(true); });
+                QTimer::singleShot(acceptPauseMs, m_listening,
+                                   [listening = m_listening] { listening->setEnabled(true); });
             }
             return; // none waiting any more, or the connection went away before it was taken
         }

@@ -2,8 +2,8 @@
 
 #include "FileDescriptor.h"
 
-#include <QLockFile>
 #include <QList>
+#include <QLockFile>
 #include <QObject>
 #include <QPointer>
 #include <QString>

@@ -1,8 +1,8 @@
 #include "CommandLine.h"
+#include "Diagnostics.h"
 #include "InstallationState.h"
 #include "MainWindow.h"
 #include "Services.h"
-#include "Diagnostics.h"
 #include "SingleInstance.h"
 #include "StagedInstall.h"
 #include "StartupProbe.h"
@@ -11,8 +11,8 @@
 #include <QApplication>
 #include <QDateTime>
 #include <QDir>
-#include <QThreadPool>
 #include <QIcon>
+#include <QThreadPool>
 
 #include <cstdio>
 
@@ -40,8 +40,8 @@ int main(int argc, char* argv[])
         // The only copy: what an earlier one stopped half-way left behind goes, off the window's thread.
         const qint64 started = QDateTime::currentSecsSinceEpoch();
         QThreadPool::globalInstance()->start([started] {
-            const QStringList removed = qf::stagedInstall::removeLeftovers(
-                QDir::homePath() + QStringLiteral("/.local"), QDir::tempPath(), started);
+            const QStringList removed = qf::stagedInstall::removeLeftovers(QDir::homePath() + QStringLiteral("/.local"),
+                                                                           QDir::tempPath(), started);
             for (const QString& path : removed)
                 qf::printDiagnostic(QStringLiteral("Removed what an earlier run left: ") + path);
         });

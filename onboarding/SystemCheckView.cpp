@@ -258,8 +258,9 @@ void SystemCheckView::rebuildRequirementRows()
     const std::optional<CLITool> tool = m_state.selectedTool();
     for (const RequirementStatus& status : m_state.requirements()) {
         // The Node.js row says which version the chosen tool needs.
-        const QString note = tool && status.requirement == SystemRequirement::nodeJS ? tool->nodeRequirementNote(status.nodeMajorNeeded)
-                                                                                     : QString();
+        const QString note = tool && status.requirement == SystemRequirement::nodeJS
+                                 ? tool->nodeRequirementNote(status.nodeMajorNeeded)
+                                 : QString();
         // Git comes with the system's developer tools, whose installer the row offers.
         std::function<void()> fix;
         if (status.requirement == SystemRequirement::git)

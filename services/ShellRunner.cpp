@@ -460,8 +460,8 @@ QCoro::Task<Result<void>> ShellRunner::runWithStreaming(QString command, OutputH
     auto marked = std::make_shared<MarkedStream>(MarkedStream{QString::fromLatin1(m_marker), {}, false});
 
     const StartMark mark;
-    ProcessRun::Options options =
-        processOptions(command, login.get(), start, ProcessRun::Channels::merged, mark.path());
+    ProcessRun::Options options = processOptions(command, login.get(), start, ProcessRun::Channels::merged,
+                                                 mark.path());
     if (start == Start::asLoginShell) {
         options.onOutput = [marked, deliver](const QString& text) {
             const QString own = marked->feed(text);

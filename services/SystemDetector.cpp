@@ -33,9 +33,9 @@ std::optional<QDate> SystemDetector::nodeEndOfLife(int major)
 {
     // Even lines get three years of fixes, odd ones about eight months (nodejs.org's schedule).
     static const std::map<int, QDate> known = {
-        {17, QDate(2022, 6, 1)},  {18, QDate(2025, 4, 30)}, {19, QDate(2023, 6, 1)},  {20, QDate(2026, 4, 30)},
-        {21, QDate(2024, 6, 1)},  {22, QDate(2027, 4, 30)}, {23, QDate(2025, 6, 1)},  {24, QDate(2028, 4, 30)},
-        {25, QDate(2026, 6, 1)},  {26, QDate(2029, 4, 30)},
+        {17, QDate(2022, 6, 1)}, {18, QDate(2025, 4, 30)}, {19, QDate(2023, 6, 1)}, {20, QDate(2026, 4, 30)},
+        {21, QDate(2024, 6, 1)}, {22, QDate(2027, 4, 30)}, {23, QDate(2025, 6, 1)}, {24, QDate(2028, 4, 30)},
+        {25, QDate(2026, 6, 1)}, {26, QDate(2029, 4, 30)},
     };
     if (major <= 16)
         return QDate(2023, 9, 11); // Node.js 16, the last of the older lines to end
@@ -51,7 +51,8 @@ RequirementStatus SystemDetector::nodeStatus(const NodeCheck& node, int minimumM
     if (node.isInstalled && !node.meetsRequirement) {
         details += QStringLiteral(" (needs %1 or newer)").arg(minimumMajor);
     } else if (node.isInstalled && node.version) {
-        const QVersionNumber version = QVersionNumber::fromString(node.version->mid(node.version->startsWith(QLatin1Char('v')) ? 1 : 0));
+        const QVersionNumber version =
+            QVersionNumber::fromString(node.version->mid(node.version->startsWith(QLatin1Char('v')) ? 1 : 0));
         const std::optional<QDate> end = version.isNull() ? std::nullopt : nodeEndOfLife(version.majorVersion());
         if (end && *end < today)
             details += QStringLiteral(" \u2013 no longer receives security fixes");
@@ -62,8 +63,10 @@ RequirementStatus SystemDetector::nodeStatus(const NodeCheck& node, int minimumM
 QCoro::Task<int> SystemDetector::requiredNodeMajor(CLITool tool)
 {
     int required = tool.minimumNodeMajorVersion();
-    if (m_published)
-        required = std::max(required, co_await m_published(tool));
+    if (m_published) {
+        const int published = co_await m_published(tool);
+        required = std::max(required, published);
+    }
     co_return required;
 }
 
@@ -115,8 +118,8 @@ QCoro::Task<QList<NodeInstall>> SystemDetector::findNodeInstalls()
 
 QCoro::Task<std::optional<QString>> SystemDetector::getToolVersion(CLITool tool)
 {
-    const Result<QString> result =
-        co_await m_shell.run(tool.commandName() + QStringLiteral(" --version"), m_versionTimeoutSeconds);
+    const Result<QString> result = co_await m_shell.run(tool.commandName() + QStringLiteral(" --version"),
+                                                        m_versionTimeoutSeconds);
     if (!result)
         co_return std::nullopt;
     co_return result.value().trimmed();

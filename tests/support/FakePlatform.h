@@ -88,10 +88,7 @@ public:
             return {terminalShell, QStringLiteral("-c"), QStringLiteral("exit 3")};
         return startedLoginShell(line, true);
     }
-    QStringList plainLoginShellInvocation(const QString& line) const override
-    {
-        return startedLoginShell(line, false);
-    }
+    QStringList plainLoginShellInvocation(const QString& line) const override { return startedLoginShell(line, false); }
     bool terminalStartsLoginShell() const override { return loginTerminals; }
     std::optional<NodeReleaseTarget> nodeReleaseTarget() const override { return releaseTarget; }
     // Through the fake `sudo`, which runs the command unless told to refuse.

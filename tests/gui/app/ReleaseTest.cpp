@@ -146,7 +146,8 @@ TEST(Release, VersionAndHelpAnswerWithoutAWindowAndUnknownOptionsAreRefused)
         EXPECT_TRUE(unknown.errors.contains(QStringLiteral("frobnicate"))) << unknown.errors.toStdString();
         EXPECT_TRUE(unknown.errors.contains(QStringLiteral("quillforge --help")));
     }
-    const AppRun stray = runApp({QStringLiteral("-platform"), QStringLiteral("offscreen"), QStringLiteral("notes.txt")});
+    const AppRun stray =
+        runApp({QStringLiteral("-platform"), QStringLiteral("offscreen"), QStringLiteral("notes.txt")});
     EXPECT_EQ(stray.exitCode, 1);
     EXPECT_TRUE(stray.errors.contains(QStringLiteral("notes.txt"))) << stray.errors.toStdString();
     const AppRun helpBesideQt = runApp({QStringLiteral("--style=Fusion"), QStringLiteral("-h")});
@@ -170,8 +171,8 @@ TEST(Release, ALaunchClearsWhatAStoppedRunLeftBehind)
     const QString settings = home + QStringLiteral("/.config/Quillforge/Quillforge.conf");
     test::writeFile(settings, "[General]\nhasCompletedOnboarding=false\n");
     QDir().mkpath(root.filePath(QStringLiteral("run")));
-    QFile::setPermissions(root.filePath(QStringLiteral("run")), QFileDevice::ReadOwner | QFileDevice::WriteOwner |
-                                                                   QFileDevice::ExeOwner);
+    QFile::setPermissions(root.filePath(QStringLiteral("run")),
+                          QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
     const qint64 hourAgo = QDateTime::currentSecsSinceEpoch() - 3600;
     for (const QString& folder : {staging, download}) {
         const struct timeval times[2] = {{static_cast<time_t>(hourAgo), 0}, {static_cast<time_t>(hourAgo), 0}};

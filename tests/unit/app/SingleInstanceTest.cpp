@@ -3,9 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QDeadlineTimer>
 #include <QFile>
 #include <QProcess>
-#include <QDeadlineTimer>
 #include <QTemporaryDir>
 #include <QThread>
 
@@ -30,7 +30,8 @@ public:
     {
         if (openFiles > 0) {
             m_process.setProgram(QStringLiteral("/bin/sh"));
-            m_process.setArguments({QStringLiteral("-c"), QStringLiteral("ulimit -n %1 && exec \"$0\" \"$1\"").arg(openFiles),
+            m_process.setArguments({QStringLiteral("-c"),
+                                    QStringLiteral("ulimit -n %1 && exec \"$0\" \"$1\"").arg(openFiles),
                                     QStringLiteral(QF_SINGLE_INSTANCE_HELPER), folder});
         } else {
             m_process.setProgram(QStringLiteral(QF_SINGLE_INSTANCE_HELPER));

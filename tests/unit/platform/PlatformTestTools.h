@@ -89,5 +89,4 @@ inline QStringList availableShells()
     return shells;
 }
 
-
 } // namespace qf::test

@@ -73,8 +73,8 @@ TEST_F(ShellRunnerTest, ChildSeesNvmVersionsFirstAndTheAppPathOnceAtTheEnd)
         QDir().mkpath(sandbox.path(QStringLiteral(".nvm/versions/node/") + QLatin1String(version)));
     const QString versions = sandbox.home() + QStringLiteral("/.nvm/versions/node/");
     // Descending text order, not version order; hidden entries too.
-    const QStringList own = {versions + QStringLiteral("v9.11.2/bin"), versions + QStringLiteral("v20.10.0/bin"),
-                             versions + QStringLiteral("v18.17.0/bin"), versions + QStringLiteral(".hidden/bin"),
+    const QStringList own = {versions + QStringLiteral("v9.11.2/bin"),       versions + QStringLiteral("v20.10.0/bin"),
+                             versions + QStringLiteral("v18.17.0/bin"),      versions + QStringLiteral(".hidden/bin"),
                              sandbox.home() + QStringLiteral("/.local/bin"), sandbox.binDirectory()};
 
     // Without a login environment, the folders every command searches come first.

@@ -5,11 +5,11 @@
 #include "TestMachine.h"
 
 #include <QCryptographicHash>
+#include <QDateTime>
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
-#include <QDateTime>
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -381,9 +381,8 @@ TEST(StagedInstallLeftovers, WhatAStoppedRunLeftGoesAndNothingElse)
     writeFile(local + QStringLiteral("/bin/node"), "#!/bin/sh\n", true);
     leftover(local + QStringLiteral("/a/b/c/.quillforge-staging-deep"));
     leftover(temporary + QStringLiteral("/quillforge-environment-busy"));
-    ASSERT_EQ(::utime(QFile::encodeName(temporary + QStringLiteral("/quillforge-environment-busy")).constData(),
-                      nullptr),
-              0);
+    ASSERT_EQ(
+        ::utime(QFile::encodeName(temporary + QStringLiteral("/quillforge-environment-busy")).constData(), nullptr), 0);
     leftover(root.filePath(QStringLiteral("elsewhere")));
     makeLink(root.filePath(QStringLiteral("elsewhere")), temporary + QStringLiteral("/quillforge-node-link"));
     QStringList kept = {local + QStringLiteral("/bin/node"), local + QStringLiteral("/a/b/c/.quillforge-staging-deep"),

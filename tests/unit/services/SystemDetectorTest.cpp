@@ -75,8 +75,8 @@ TEST(SystemDetectorRules, ANodeJSPastItsEndOfLifeIsNamedButStillCounts)
     // Supported lines, a line not known yet, and one too old (which says what it needs instead).
     for (const char* current : {"v22.11.0", "v24.3.0", "v26.0.0", "v31.0.0"})
         EXPECT_EQ(status(current, 20).details, QString::fromLatin1(current));
-    EXPECT_EQ(status("v18.20.8", 22),
-              (RequirementStatus{SystemRequirement::nodeJS, false, QStringLiteral("v18.20.8 (needs 22 or newer)"), 22}));
+    EXPECT_EQ(status("v18.20.8", 22), (RequirementStatus{SystemRequirement::nodeJS, false,
+                                                         QStringLiteral("v18.20.8 (needs 22 or newer)"), 22}));
     // The day itself still counts as supported.
     EXPECT_EQ(SystemDetector::nodeStatus(SystemDetector::evaluateNodeVersion(QStringLiteral("v22.1.0")), 18,
                                          QDate(2027, 4, 30))
