@@ -66,7 +66,7 @@ public:
         enum class Source {
             notReadYet,           // no command has run yet
             loginShellOnce,       // read once from the login shell
-            loginShellPerCommand, // every command is a login shell of its own
+            loginShellPerCommand, // every command is a login shell of its own (until an invalidation)
         };
         Source source = Source::notReadYet;
         // The login shell read (or tried), as a command line: "/bin/zsh -l".

@@ -67,6 +67,13 @@ TEST(MacPlatformShell, TheLoginEnvironmentComesFromTheAccountsShell)
                                                        QStringLiteral("-c"), line};
         EXPECT_EQ(MacPlatform().loginShellInvocation(line), expected);
         EXPECT_EQ(qf::LinuxPlatform().loginShellInvocation(line), expected);
+        // A login shell per command is never interactive: what only a terminal's shell reads
+        // (a ~/.bashrc that starts tmux) stays out.
+        const QStringList plain = which == QLatin1String("tcsh")
+                                      ? QStringList{path, QStringLiteral("-c"), line}
+                                      : QStringList{path, QStringLiteral("-l"), QStringLiteral("-c"), line};
+        EXPECT_EQ(MacPlatform().plainLoginShellInvocation(line), plain);
+        EXPECT_EQ(qf::LinuxPlatform().plainLoginShellInvocation(line), plain);
     }
 }
 
