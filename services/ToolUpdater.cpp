@@ -78,10 +78,10 @@ QCoro::Task<QString> ToolUpdater::updateCommand(CLITool tool, UpdateRoute route,
     // The administrator's shell searches only the system's folders (on macOS
     // /usr/bin:/bin:/usr/sbin:/sbin), and npm starts through `env node`: node's own folder goes
     // first on that search path, and npm is called by its path.
-    const Result<QString> npm = co_await m_shell.run(QStringLiteral("command -v npm"));
+    const Result<QString> npm = co_await m_shell.findProgram(QStringLiteral("npm"));
     QString line = prefix + (npm ? shellQuote(npm.value()) : QStringLiteral("npm")) + QStringLiteral(" install -g ") +
                    package;
-    const Result<QString> node = co_await m_shell.run(QStringLiteral("command -v node"));
+    const Result<QString> node = co_await m_shell.findProgram(QStringLiteral("node"));
     if (node) {
         line = QStringLiteral("PATH=") +
                shellQuote(QFileInfo(node.value()).absolutePath() + QStringLiteral(":/usr/bin:/bin:/usr/sbin:/sbin")) +

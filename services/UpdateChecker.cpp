@@ -143,7 +143,7 @@ void UpdateChecker::forget(CLITool tool)
 
 QCoro::Task<std::optional<PublishedVersion>> UpdateChecker::askRegistry(CLITool tool)
 {
-    const Result<QString> npm = co_await m_shell.run(QStringLiteral("command -v npm"));
+    const Result<QString> npm = co_await m_shell.findProgram(QStringLiteral("npm"));
     if (npm) {
         std::optional<PublishedVersion> found = co_await askNpm(tool);
         co_return found;
