@@ -350,8 +350,7 @@ void SystemToolCard::render()
     m_name->setText(m_tool.name);
     m_optional->setVisible(m_tool.isOptional);
     m_version->setVisible(installed);
-    // An item whose version is not known shows that it is ready, never an empty badge.
-    m_version->setText(m_tool.version && !m_tool.version->isEmpty() ? *m_tool.version : tr("Ready"));
+    m_version->setText(m_tool.version.value_or(tr("Ready")));
     m_description->setText(m_tool.description);
 
     QStringList state{installed ? tr("Installed") : tr("Not installed")};

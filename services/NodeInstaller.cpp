@@ -3,6 +3,7 @@
 #include "NodeRelease.h"
 #include "ShellQuote.h"
 #include "StagedInstall.h"
+#include "TemporaryFolders.h"
 
 #include <QCoro/QCoroFuture>
 #include <QDir>
@@ -86,7 +87,7 @@ QCoro::Task<Result<QString>> NodeInstaller::installRelease(Output log)
 
     // The archive goes into a folder of its own that disappears with this call, so nothing of
     // a failed or refused download stays behind.
-    QTemporaryDir downloads(QDir::tempPath() + QStringLiteral("/quillforge-node-XXXXXX"));
+    QTemporaryDir downloads(temporaryFolders::pattern(temporaryFolders::kNodeDownload));
     if (!downloads.isValid())
         co_return ServiceError::message(
             tr("Could not make a folder for the Node.js download: %1").arg(downloads.errorString()));

@@ -3,6 +3,7 @@
 #include "APIKeyStore.h"
 #include "ProfileWriter.h"
 #include "ShellQuote.h"
+#include "TemporaryFolders.h"
 
 #include <QCoro/QCoroFuture>
 #include <QDir>
@@ -24,7 +25,7 @@ QCoro::Task<bool> SearchPathFix::newTerminalSearches(QString folder)
     // the search path into a file of a private folder: what a start-up file prints is never
     // taken for a folder, and a start-up file that sends the shell's output to a session log
     // neither hides the answer nor gets it.
-    const QTemporaryDir answer(QDir::tempPath() + QStringLiteral("/quillforge-command-XXXXXX"));
+    const QTemporaryDir answer(temporaryFolders::pattern(temporaryFolders::kCommand));
     if (!answer.isValid())
         co_return false;
     const QString file = answer.filePath(QStringLiteral("path"));

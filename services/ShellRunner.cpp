@@ -1,6 +1,7 @@
 #include "ShellRunner.h"
 
 #include "SharedResult.h"
+#include "TemporaryFolders.h"
 
 #include "Diagnostics.h"
 #include "Platform.h"
@@ -97,7 +98,7 @@ struct MarkedStream {
 // send the shell's output. Only a command that provably never started may run again.
 class StartMark {
 public:
-    StartMark() : m_folder(QDir::tempPath() + QStringLiteral("/quillforge-command-XXXXXX")) {}
+    StartMark() : m_folder(temporaryFolders::pattern(temporaryFolders::kCommand)) {}
 
     QString path() const
     {
@@ -301,7 +302,7 @@ QCoro::Task<ShellRunner::LoginReading> ShellRunner::readLoginShell()
     // The shell writes its environment into a file of a folder only the user can enter: the
     // shell's own output may go wherever its start-up files send it (a session log), and an
     // environment holds keys.
-    const QTemporaryDir folder(QDir::tempPath() + QStringLiteral("/quillforge-environment-XXXXXX"));
+    const QTemporaryDir folder(temporaryFolders::pattern(temporaryFolders::kEnvironment));
     const QString file = folder.filePath(QStringLiteral("environment"));
 
     // The shell starts from the application's environment and search path, as a terminal does.

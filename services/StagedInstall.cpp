@@ -1,6 +1,7 @@
 #include "StagedInstall.h"
 
 #include "FileDescriptor.h"
+#include "TemporaryFolders.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -607,8 +608,8 @@ QStringList removeLeftovers(const QString& destination, const QString& temporary
     std::vector<std::string> names;
     listFolder(shared, names);
     for (const std::string& name : names) {
-        if (!hasPrefix(name, "quillforge-node-") && !hasPrefix(name, "quillforge-environment-") &&
-            !hasPrefix(name, "quillforge-command-"))
+        if (std::none_of(temporaryFolders::kAll.begin(), temporaryFolders::kAll.end(),
+                         [&name](const char* prefix) { return hasPrefix(name, prefix); }))
             continue;
         const std::string path = joined(shared, name);
         if (isOwnOldFolder(path, before)) {

@@ -112,8 +112,11 @@ QCoro::Task<SystemTool> SupportTools::detect(SystemTool tool)
             output = version->value();
         // A version command that printed nothing (xcodebuild where only the Command Line Tools
         // are installed) leaves the version unknown, not empty.
-        if (output && !QString(*output).remove(developerTools.versionPrefix).trimmed().isEmpty())
-            tool.version = QString(*output).remove(developerTools.versionPrefix);
+        if (output) {
+            const QString shown = QString(*output).remove(developerTools.versionPrefix);
+            if (!shown.trimmed().isEmpty())
+                tool.version = shown;
+        }
         break;
     }
     case SystemToolID::homebrew: {
