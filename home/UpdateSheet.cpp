@@ -28,7 +28,7 @@ using namespace ui;
 
 namespace {
 
-constexpr int kSheetWidth = 440;
+constexpr int kUpdateSheetWidth = 440;
 constexpr int kSheetHeight = 340;
 
 } // namespace
@@ -48,7 +48,7 @@ UpdateSheet::UpdateSheet(CLITool tool, std::optional<QString> currentVersion, QS
     setWindowModality(Qt::WindowModal);
     setWindowTitle(tr("Update %1").arg(tool.displayName()));
     FocusRing::attach(this);
-    setFixedSize(kSheetWidth, kSheetHeight);
+    setFixedSize(kUpdateSheetWidth, kSheetHeight);
 
     auto* column = vstack(this, 20, QMargins(0, 24, 0, 24));
     column->addStretch(1);
@@ -258,9 +258,9 @@ void UpdateSheet::render()
 
     // The sheet keeps its size unless its content needs more room; nothing is ever cut off.
     layout()->activate();
-    const int needed = layout()->hasHeightForWidth() ? layout()->totalHeightForWidth(kSheetWidth)
+    const int needed = layout()->hasHeightForWidth() ? layout()->totalHeightForWidth(kUpdateSheetWidth)
                                                      : layout()->totalSizeHint().height();
-    setFixedSize(kSheetWidth, std::max(kSheetHeight, needed));
+    setFixedSize(kUpdateSheetWidth, std::max(kSheetHeight, needed));
 }
 
 } // namespace qf

@@ -12,7 +12,7 @@ namespace qf {
 namespace {
 
 // Sentences of this file, in their own translation context.
-struct Text {
+struct DiagnosisText {
     Q_DECLARE_TR_FUNCTIONS(Diagnosis)
 };
 
@@ -121,23 +121,28 @@ QString failureSentence(FailureCause cause)
 {
     switch (cause) {
     case FailureCause::offline:
-        return Text::tr("Your computer could not reach the internet. Check that you are online, then try again.");
+        return DiagnosisText::tr(
+            "Your computer could not reach the internet. Check that you are online, then try again.");
     case FailureCause::unreachable:
-        return Text::tr("The server could not be reached. Check that you are online, then try again.");
+        return DiagnosisText::tr("The server could not be reached. Check that you are online, then try again.");
     case FailureCause::timedOut:
-        return Text::tr("The connection timed out. Your internet may be slow or down: try again in a moment.");
+        return DiagnosisText::tr("The connection timed out. Your internet may be slow or down: try again in a moment.");
     case FailureCause::secureConnection:
-        return Text::tr("No secure connection to the server could be made. A proxy or security software on this "
-                        "network may be in the way: try another network, or ask whoever runs this one.");
+        return DiagnosisText::tr(
+            "No secure connection to the server could be made. A proxy or security software on this "
+            "network may be in the way: try another network, or ask whoever runs this one.");
     case FailureCause::permissionDenied:
-        return Text::tr("Your user may not change a folder the installation needs. The log names it: make sure it "
-                        "belongs to you, then try again.");
-    case FailureCause::diskFull: return Text::tr("Your disk is full. Free up some space, then try again.");
-    case FailureCause::notFound: return Text::tr("What was asked for is not on the server right now. Try again later.");
+        return DiagnosisText::tr(
+            "Your user may not change a folder the installation needs. The log names it: make sure it "
+            "belongs to you, then try again.");
+    case FailureCause::diskFull: return DiagnosisText::tr("Your disk is full. Free up some space, then try again.");
+    case FailureCause::notFound:
+        return DiagnosisText::tr("What was asked for is not on the server right now. Try again later.");
     case FailureCause::nodeTooOld:
-        return Text::tr("Your Node.js is too old for this tool. Update Node.js (or remove the old one so a new one is "
-                        "installed), then try again.");
-    case FailureCause::cutOff: return Text::tr("The download was cut off before it was complete. Try again.");
+        return DiagnosisText::tr(
+            "Your Node.js is too old for this tool. Update Node.js (or remove the old one so a new one is "
+            "installed), then try again.");
+    case FailureCause::cutOff: return DiagnosisText::tr("The download was cut off before it was complete. Try again.");
     }
     return {};
 }
@@ -161,9 +166,9 @@ QString plainFailure(const QString& output)
         return failureSentence(*cause);
     const QString line = lastMeaningfulLine(output);
     if (line.isEmpty() || line == QLatin1String("Command failed"))
-        return Text::tr("Something went wrong. The log has the details.");
+        return DiagnosisText::tr("Something went wrong. The log has the details.");
     constexpr qsizetype shown = 300;
-    return Text::tr("Something went wrong. The last message was: \u201c%1\u201d. The log has the details.")
+    return DiagnosisText::tr("Something went wrong. The last message was: \u201c%1\u201d. The log has the details.")
         .arg(line.size() > shown ? line.left(shown) + QStringLiteral("\u2026") : line);
 }
 

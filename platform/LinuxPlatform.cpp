@@ -19,8 +19,6 @@ namespace qf {
 
 namespace {
 
-QString translated(const char* context, const char* text) { return QCoreApplication::translate(context, text); }
-
 QMap<QString, QString> readOsRelease()
 {
     for (const char* path : {"/etc/os-release", "/usr/lib/os-release"}) {

@@ -31,8 +31,6 @@ constexpr int kInstallerFrontDelayMs = 500;
 
 void printAppleScriptError(const QString& text) { printDiagnostic(QStringLiteral("AppleScript error: ") + text); }
 
-QString translated(const char* context, const char* text) { return QCoreApplication::translate(context, text); }
-
 // Runs `script` through osascript without waiting for it. The process belongs to `owner` and
 // is deleted once it has finished or failed to start. With `reportErrors`
 // a failure becomes one "AppleScript error: " line on standard output. `outcome`, when given,

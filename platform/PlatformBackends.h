@@ -2,10 +2,14 @@
 
 #include "Platform.h"
 
+#include <QCoreApplication>
 #include <QMap>
 #include <QObject>
 
 namespace qf {
+
+// A backend's wording in the user's language.
+inline QString translated(const char* context, const char* text) { return QCoreApplication::translate(context, text); }
 
 // macOS: Terminal and System Events through AppleScript (run by /usr/bin/osascript), the
 // Command Line Tools installer, the official Node.js package. The script texts and command

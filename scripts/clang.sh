@@ -18,7 +18,7 @@ elif command -v apt-get >/dev/null 2>&1; then
         exit 1
     fi
     ensure_debian_packages "clang-$clang_version" "libc++-$clang_version-dev" "libc++abi-$clang_version-dev" \
-        python3-minimal
+        "libclang-rt-$clang_version-dev" python3-minimal
     export QUILLFORGE_CLANGXX="clang++-$clang_version"
     export QUILLFORGE_LIBCXX_FLAGS="-stdlib=libc++"
 else

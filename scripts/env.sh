@@ -22,3 +22,11 @@ ensure_debian_packages() {
     "${as_root[@]}" apt-get update -qq
     "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}"
 }
+
+# Installs what the build needs (scripts/setup), once per run of .ci/run: the scripts it calls
+# find it done.
+run_setup() {
+    if [ "${QUILLFORGE_SETUP_DONE:-}" != 1 ]; then
+        bash "$(dirname "${BASH_SOURCE[0]}")/setup"
+    fi
+}
