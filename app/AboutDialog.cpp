@@ -18,6 +18,13 @@ namespace qf {
 
 using namespace ui;
 
+namespace {
+
+// Between the window's edges and its column.
+constexpr QMargins kPadding(32, 28, 32, 24);
+
+} // namespace
+
 AboutDialog::AboutDialog(Platform& platform, QWidget* parent)
     : QDialog(parent, platform.sheetWindowFlags()),
       m_details(QStringLiteral("%1, %2").arg(qf::versionDetails(), platform.checkOperatingSystem().details))
@@ -28,7 +35,7 @@ AboutDialog::AboutDialog(Platform& platform, QWidget* parent)
     setFixedWidth(380);
     ui::FocusRing::attach(this);
 
-    auto* column = vstack(this, 6, QMargins(32, 28, 32, 24));
+    auto* column = vstack(this, 6, kPadding);
     auto* logo = new ImageView(QStringLiteral("QuillforgeLogo"), 72);
     logo->setAccessibleName(tr("Quillforge"));
     column->addWidget(logo, 0, Qt::AlignHCenter);

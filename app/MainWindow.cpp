@@ -6,6 +6,7 @@
 #include "InstallationState.h"
 #include "Services.h"
 #include "Theme.h"
+#include "WindowChrome.h"
 
 #include <QAction>
 #include <QGuiApplication>
@@ -31,7 +32,7 @@ MainWindow::MainWindow(InstallationState& state, Services& services, ScreenFacto
 
     // Start at the size the window will open with, so the first screen is laid out once.
     if (QScreen* screen = QGuiApplication::primaryScreen()) {
-        const QMargins frame = services.platform.mainWindowFrame(this).margins;
+        const QMargins frame = ui::mainWindowFrame(this, services.platform).margins;
         resize(screen->availableGeometry().marginsRemoved(frame).size().expandedTo(minimumSize()));
     }
 
@@ -96,7 +97,7 @@ bool MainWindow::event(QEvent* event)
     // that turned out other than assumed is made room for, once.
     const QEvent::Type type = event->type();
     if (m_assumedFrame && (type == QEvent::Move || type == QEvent::Resize || type == QEvent::WindowActivate)) {
-        const WindowFrame frame = m_services.platform.mainWindowFrame(this);
+        const WindowFrame frame = ui::mainWindowFrame(this, m_services.platform);
         if (frame.reported && std::exchange(m_assumedFrame, std::nullopt) != frame.margins)
             fitToScreen();
     }
@@ -106,7 +107,7 @@ bool MainWindow::event(QEvent* event)
 void MainWindow::configure()
 {
     fitToScreen();
-    m_services.platform.configureMainWindow(this);
+    ui::shapeMainWindow(this, m_services.platform);
 }
 
 void MainWindow::fitToScreen()
@@ -116,7 +117,7 @@ void MainWindow::fitToScreen()
         return;
     // Whatever size the window was created with, the window and its frame together cover
     // the usable area of the screen.
-    const WindowFrame frame = m_services.platform.mainWindowFrame(this);
+    const WindowFrame frame = ui::mainWindowFrame(this, m_services.platform);
     setGeometry(screen->availableGeometry().marginsRemoved(frame.margins));
     m_assumedFrame = frame.reported ? std::nullopt : std::optional(frame.margins);
 }

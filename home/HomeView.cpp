@@ -31,6 +31,9 @@ using namespace ui;
 
 namespace {
 
+// Under the dashboard's last section.
+constexpr QMargins kContentPadding(0, 0, 0, 32);
+
 // The hover key of a supporting item's card.
 QString systemKey(const SystemTool& tool) { return QStringLiteral("sys-") + tool.key; }
 
@@ -61,7 +64,7 @@ HomeView::HomeView(InstallationState& state, Services& services, QWidget* parent
     m_scroll->setAccessibleName(tr("Your AI Coding Assistants"));
     vstack(backdrop, 0)->addWidget(m_scroll);
     // The content keeps to a centred column; the backdrop spans the window.
-    auto* column = centredColumn(m_scroll->content(), this, 32, QMargins(0, 0, 0, 32));
+    auto* column = centredColumn(m_scroll->content(), this, 32, kContentPadding);
 
     // Header: the logo and name, and what this screen is.
     auto* header = vstack(8, sides(spacing::dashboardSide, 20));

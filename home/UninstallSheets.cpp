@@ -27,6 +27,8 @@ using namespace ui;
 namespace {
 
 constexpr int kSheetWidth = 420;
+// Above and below a sheet's content.
+constexpr QMargins kColumnPadding(0, 24, 0, 24);
 
 } // namespace
 
@@ -46,7 +48,7 @@ RemovalSheet::RemovalSheet(const QString& name, const LogBook& logs, std::functi
     FocusRing::attach(this);
     setFixedSize(kSheetWidth, height);
 
-    auto* column = vstack(this, 24, QMargins(0, 24, 0, 24));
+    auto* column = vstack(this, 24, kColumnPadding);
     column->addStretch(1);
 
     // Header: the state icon, the title and what is about to happen.

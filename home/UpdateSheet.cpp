@@ -30,6 +30,8 @@ namespace {
 
 constexpr int kUpdateSheetWidth = 440;
 constexpr int kSheetHeight = 340;
+// Above and below the sheet's content.
+constexpr QMargins kColumnPadding(0, 24, 0, 24);
 
 } // namespace
 
@@ -50,7 +52,7 @@ UpdateSheet::UpdateSheet(CLITool tool, std::optional<QString> currentVersion, QS
     FocusRing::attach(this);
     setFixedSize(kUpdateSheetWidth, kSheetHeight);
 
-    auto* column = vstack(this, 20, QMargins(0, 24, 0, 24));
+    auto* column = vstack(this, 20, kColumnPadding);
     column->addStretch(1);
 
     // Header: the state icon, the title and what is about to happen.

@@ -19,6 +19,8 @@ namespace {
 
 // How a step row looks before the entrance: invisible, 10 points lower.
 const motion::Look kStepOut{0.0, {0, 10}, 1.0};
+// Between a step's texts and the next step.
+constexpr int kStepGap = 20;
 
 } // namespace
 
@@ -54,7 +56,7 @@ AccountSetupStepRow::AccountSetupStepRow(int stepNumber, const QString& title, c
     markerBox->setLayout(marker);
     row->addWidget(markerBox);
 
-    auto* text = vstack(4, QMargins(0, 0, 0, isLast ? 0 : 20));
+    auto* text = vstack(4, QMargins(0, 0, 0, isLast ? 0 : kStepGap));
     auto* titleLabel = new Label(title, Theme::headline());
     titleLabel->setObjectName(QStringLiteral("stepTitle"));
     titleLabel->setWrapping(true);

@@ -27,6 +27,16 @@ using namespace ui;
 
 namespace {
 
+// Above and below a command row.
+constexpr QMargins kCommandRowPadding(0, 4, 0, 4);
+// Between a code box's edges and its command: a command row's, and the smaller one of a step.
+constexpr QMargins kCommandPadding(8, 4, 8, 4);
+constexpr QMargins kStepCommandPadding(6, 3, 6, 3);
+// "Try asking" in from the left, lined up with the steps' titles after the badge and its gap.
+constexpr QMargins kTryAskingIndent(32, 0, 0, 0);
+// Under the screen's content.
+constexpr QMargins kContentPadding(0, 0, 0, 24);
+
 // Code in a box on the text background: commands to copy.
 RoundedCard* codeBox(const QString& code, const QFont& font, QMargins padding, qreal radius)
 {
@@ -57,9 +67,9 @@ CommandRow::CommandRow(const QString& command, const QString& description, std::
     : QWidget(parent), m_command(command)
 {
     setObjectName(QStringLiteral("commandRow"));
-    auto* column = vstack(this, 4, QMargins(0, 4, 0, 4));
+    auto* column = vstack(this, 4, kCommandRowPadding);
     auto* row = hstack(6);
-    row->addWidget(codeBox(command, Theme::font(10, QFont::Normal, FontDesign::monospaced), QMargins(8, 4, 8, 4), 4));
+    row->addWidget(codeBox(command, Theme::font(10, QFont::Normal, FontDesign::monospaced), kCommandPadding, 4));
     row->addStretch(1);
     auto* copy = new CopyButton(command, CopyButton::CopyButtonStyle::small, std::move(onCopy));
     copy->setAccessibleName(tr("Copy %1").arg(command));
@@ -104,7 +114,7 @@ StepRow::StepRow(int number, const QString& title, const std::optional<QString>&
     if (command) {
         auto* commandRow = hstack(6);
         commandRow->addWidget(
-            codeBox(*command, Theme::font(10, QFont::Normal, FontDesign::monospaced), QMargins(6, 3, 6, 3), 4), 1);
+            codeBox(*command, Theme::font(10, QFont::Normal, FontDesign::monospaced), kStepCommandPadding, 4), 1);
         auto* copy = new CopyButton(*command, CopyButton::CopyButtonStyle::small, std::move(onCopy));
         copy->setAccessibleName(tr("Copy %1").arg(*command));
         commandRow->addWidget(copy, 0, Qt::AlignVCenter);
@@ -133,8 +143,7 @@ FirstProjectTipsCard::FirstProjectTipsCard(const std::function<void()>& onCopy, 
                           Tint(Role::secondary));
     ask->setObjectName(QStringLiteral("tryAsking"));
     ask->setWrapping(true);
-    // Lined up with the steps' titles, after the badge and its gap.
-    ask->setContentsMargins(32, 0, 0, 0);
+    ask->setContentsMargins(kTryAskingIndent);
     list->addWidget(ask);
     setBody(body, 12, motion::defaultDurationMs, motion::easeInOut());
     setExpanded(true, false);
@@ -192,7 +201,7 @@ CompletionView::CompletionView(InstallationState& state, TerminalLauncher& termi
     m_scroll = new ScrollView;
     m_scroll->setObjectName(QStringLiteral("completionScroll"));
     m_scroll->setAccessibleName(accessibleName());
-    auto* column = centredColumn(m_scroll->content(), this, 24, QMargins(0, 0, 0, 24));
+    auto* column = centredColumn(m_scroll->content(), this, 24, kContentPadding);
     if (tool) {
         // Shown when a terminal window could not be opened, where the button that tried is.
         m_fallback = new TerminalFallbackRow(m_launch->typedLine(), [this] { m_toast->present(); });

@@ -91,6 +91,13 @@ void FlowScreen::paintEvent(QPaintEvent*)
     QPainter(this).fillRect(rect(), ui::Theme::color(ui::Role::windowBackground));
 }
 
+namespace {
+
+// Between the caveats card's edges and its rows.
+constexpr QMargins kCaveatsPadding(16, 14, 16, 14);
+
+} // namespace
+
 namespace flow {
 
 ui::Button* mainButton(const QString& title, const QString& objectName)
@@ -139,7 +146,7 @@ QWidget* caveatCard(const QStringList& caveats)
 {
     auto* card = ui::roundedCard(QStringLiteral("caveats"), 12, ui::Tint(ui::Role::orange, 0.08));
     card->setStroke(ui::Tint(ui::Role::orange, 0.25), 1);
-    auto* rows = ui::vstack(card, 10, QMargins(16, 14, 16, 14));
+    auto* rows = ui::vstack(card, 10, kCaveatsPadding);
     for (const QString& caveat : caveats) {
         auto* row = ui::hstack(8);
         row->addWidget(

@@ -25,6 +25,9 @@ using namespace ui;
 
 namespace {
 
+// Between a setup step's row edges and its icon, texts and status.
+constexpr QMargins kStepRowPadding(12, 10, 12, 10);
+
 Tint statusTint(StatusColorRole role)
 {
     switch (role) {
@@ -85,7 +88,7 @@ SetupStepRow::SetupStepRow(const SetupStep& step, QWidget* parent) : RoundedCard
     setObjectName(QStringLiteral("setupStepRow.") + step.id());
     setCornerRadius(10);
     setFill(Tint(Role::controlBackground));
-    auto* row = hstack(this, 12, QMargins(12, 10, 12, 10));
+    auto* row = hstack(this, 12, kStepRowPadding);
     m_icon = new IconTile(QSize(32, 32), Shape::circle(), Tint(Role::clear));
     m_icon->setObjectName(QStringLiteral("stepIcon"));
     row->addWidget(m_icon, 0, Qt::AlignVCenter);

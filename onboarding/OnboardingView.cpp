@@ -24,6 +24,11 @@ const ui::motion::Look kLogoOut{0.0, {0, 0}, 0.8};
 const ui::motion::Look kTitleOut{0.0, {0, 10}, 1.0};
 const ui::motion::Look kRowOut{0.0, {0, 20}, 1.0};
 
+// Above the content.
+constexpr QMargins kContentPadding(0, 60, 0, 0);
+// Around "Get Started", inside its animated row: above it, and under it to the window's edge.
+constexpr QMargins kButtonRowPadding(0, 20, 0, 60);
+
 } // namespace
 
 OnboardingView::OnboardingView(InstallationState& state, QWidget* parent) : QWidget(parent), m_state(state)
@@ -38,7 +43,7 @@ OnboardingView::OnboardingView(InstallationState& state, QWidget* parent) : QWid
 
     // Every animated element is a direct child of the scroll content, so that while it rises
     // into place it is never clipped by a smaller container; the stacks are plain layouts.
-    auto* stack = centredColumn(scroll->content(), this, 40, QMargins(0, 60, 0, 0));
+    auto* stack = centredColumn(scroll->content(), this, 40, kContentPadding);
 
     // Header: logo and title block.
     auto* header = vstack(16);
@@ -91,7 +96,7 @@ OnboardingView::OnboardingView(InstallationState& state, QWidget* parent) : QWid
     // "Get Started", with its padding inside the animated row.
     m_buttonRow = new QWidget;
     m_buttonRow->setObjectName(QStringLiteral("getStartedRow"));
-    auto* buttonLayout = hstack(m_buttonRow, 0, QMargins(0, 20, 0, 60));
+    auto* buttonLayout = hstack(m_buttonRow, 0, kButtonRowPadding);
     auto* button = new Button(tr("Get Started"), Button::Style::prominent, Button::Size::large);
     button->setObjectName(QStringLiteral("getStartedButton"));
     button->setTitleFont(Theme::font(13, QFont::DemiBold));

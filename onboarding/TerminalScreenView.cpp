@@ -23,6 +23,10 @@ using namespace ui;
 namespace {
 
 constexpr int kCardWidth = 400;
+// Above and below the screen's content.
+constexpr QMargins kContentPadding(0, 24, 0, 24);
+// Between the quick tips card's edges and its rows.
+constexpr QMargins kTipsPadding(16, 14, 16, 16);
 
 Button* backToHomeButton(InstallationState& state, QWidget* context)
 {
@@ -56,7 +60,7 @@ TerminalLaunchedView::TerminalLaunchedView(InstallationState& state, CLITool too
     auto* root = vstack(this, 0);
     m_scroll = new ScrollView;
     root->addWidget(m_scroll);
-    auto* column = centredColumn(m_scroll->content(), this, 12, QMargins(0, 24, 0, 24));
+    auto* column = centredColumn(m_scroll->content(), this, 12, kContentPadding);
     column->addStretch(1);
 
     column->addWidget(new SymbolView(QStringLiteral("terminal.fill"), 48, Tint(tool.brandColor())), 0,
@@ -89,7 +93,7 @@ TerminalLaunchedView::TerminalLaunchedView(InstallationState& state, CLITool too
 
     // The first three example commands.
     auto* tips = roundedCard(QStringLiteral("quickTipsCard"), 8);
-    auto* tipsColumn = vstack(tips, 10, QMargins(16, 14, 16, 16));
+    auto* tipsColumn = vstack(tips, 10, kTipsPadding);
     tipsColumn->addWidget(new Label(tr("Quick Tips"), Theme::headline()));
     const QList<ExampleCommand>& examples = tool.exampleCommands();
     for (qsizetype i = 0; i < std::min<qsizetype>(3, examples.size()); ++i) {

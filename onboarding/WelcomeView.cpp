@@ -20,6 +20,11 @@ using namespace ui;
 
 namespace {
 
+// Above the reassurance under the features.
+constexpr QMargins kReassurancePadding(0, 4, 0, 0);
+// Above a tool's "Learn more" link, under its features.
+constexpr QMargins kLearnMorePadding(0, 4, 0, 0);
+
 // Selection and the explainer open and close with the design's spring.
 Expander* springExpander(QWidget* content) { return new Expander(content, motion::springDurationMs, motion::spring()); }
 
@@ -120,7 +125,7 @@ WhatIsAICodingCard::WhatIsAICodingCard(QWidget* parent)
         tr("No prior coding experience? That's okay! AI assistants can help you learn as you build."), Theme::caption(),
         Tint(Role::secondary));
     reassurance->setWrapping(true);
-    reassurance->setContentsMargins(0, 4, 0, 0);
+    reassurance->setContentsMargins(kReassurancePadding);
     bodyColumn->addWidget(reassurance);
     setBody(body, 12, motion::springDurationMs, motion::spring());
 }
@@ -191,7 +196,7 @@ ToolCard::ToolCard(CLITool tool, Platform& platform, QWidget* parent)
     learnMore->setSpacing(4);
     learnMore->setContentPadding(0, 0);
     connect(learnMore, &QAbstractButton::clicked, this, [&platform, tool] { platform.openURL(tool.docsURL()); });
-    auto* learnRow = hstack(0, QMargins(0, 4, 0, 0));
+    auto* learnRow = hstack(0, kLearnMorePadding);
     learnRow->addWidget(learnMore);
     learnRow->addStretch(1);
     detailsColumn->addLayout(learnRow);

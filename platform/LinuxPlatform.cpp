@@ -10,10 +10,8 @@
 #include <QFileInfo>
 #include <QProcess>
 #include <QStandardPaths>
-#include <QStyle>
 #include <QSysInfo>
 #include <QUrl>
-#include <QWidget>
 
 namespace qf {
 
@@ -155,15 +153,9 @@ QStringList LinuxPlatform::globalNpmPrograms() const
             QStringLiteral("~/.local/bin/npm")};
 }
 
-void LinuxPlatform::configureMainWindow(QWidget*)
+WindowFrame LinuxPlatform::mainWindowFrame(const WindowFacts& window) const
 {
-    // An ordinary decorated window: the window manager draws the title bar and corners.
-}
-
-WindowFrame LinuxPlatform::mainWindowFrame(const QWidget* window) const
-{
-    const int titleBar = window ? window->style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, window) : 0;
-    return windowFrame(reportedWindowFrame(window), titleBar);
+    return windowFrame(window.reported, window.titleBarHeight);
 }
 
 WindowFrame LinuxPlatform::windowFrame(const QMargins& reported, int titleBarHeight)

@@ -2,7 +2,6 @@
 
 #include "Diagnostics.h"
 #include "MacVolume.h"
-#include "MacWindowStyle.h"
 #include "ShellQuote.h"
 
 #include <QCoreApplication>
@@ -14,7 +13,6 @@
 #include <QTimer>
 #include <QUrl>
 #include <QVersionNumber>
-#include <QWidget>
 
 #include <algorithm>
 
@@ -150,12 +148,10 @@ ApplicationLook MacPlatform::applicationLook() const
 #endif
 }
 
-void MacPlatform::configureMainWindow(QWidget* window) { applyMacWindowStyle(window); }
-
-WindowFrame MacPlatform::mainWindowFrame(const QWidget* window) const
+WindowFrame MacPlatform::mainWindowFrame(const WindowFacts& window) const
 {
-    if (window && window->testAttribute(Qt::WA_WState_Created) && window->windowHandle())
-        return {reportedWindowFrame(window), true};
+    if (window.created)
+        return {window.reported, true};
     // Not made yet: a standard title bar, 28 points tall.
     return {QMargins(0, 28, 0, 0), false};
 }

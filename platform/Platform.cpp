@@ -4,8 +4,6 @@
 #include <QFileInfo>
 #include <QStorageInfo>
 #include <QUrl>
-#include <QWidget>
-#include <QWindow>
 
 namespace qf {
 
@@ -20,12 +18,6 @@ DiskSpace Platform::availableDiskSpace(const QString& path) const
 bool Platform::revealFolder(const QString& path) { return QDesktopServices::openUrl(QUrl::fromLocalFile(path)); }
 
 void Platform::revealFile(const QString& path) { revealFolder(QFileInfo(path).absolutePath()); }
-
-QMargins reportedWindowFrame(const QWidget* window)
-{
-    const QWindow* handle = window ? window->windowHandle() : nullptr;
-    return handle ? handle->frameMargins() : QMargins();
-}
 
 void Platform::openURL(const QUrl& url) { QDesktopServices::openUrl(url); }
 

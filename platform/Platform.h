@@ -10,8 +10,6 @@
 #include <memory>
 #include <optional>
 
-class QWidget;
-
 namespace qf {
 
 // Whether the operating system is new enough, and how to describe it ("macOS 14.5.0",
@@ -91,6 +89,26 @@ struct WindowFrame {
     friend bool operator==(const WindowFrame&, const WindowFrame&) = default;
 };
 
+// What the window system says of the main window at a moment, as the widgets read it
+// (`ui::windowFacts`).
+struct WindowFacts {
+    // Whether the window exists in the window system yet.
+    bool created = false;
+    // The frame it reports: none until the window is on screen and framed (none at all for a
+    // window without a frame).
+    QMargins reported;
+    // How tall the widget style draws a title bar.
+    int titleBarHeight = 0;
+};
+
+// How the main window is shaped; the widgets apply it (`ui::shapeMainWindow`).
+enum class WindowStyle {
+    // An ordinary window: the window manager draws the title bar and the corners.
+    decorated,
+    // A hidden title bar with the content reaching the top edge, and rounded content (macOS).
+    fullSizeContent,
+};
+
 // Free space on a volume, or why it could not be read.
 struct DiskSpace {
     std::optional<qint64> bytes;
@@ -129,12 +147,13 @@ public:
     virtual const SystemWording& wording() const = 0;
     virtual ApplicationLook applicationLook() const = 0;
 
-    // Shapes the main window once it is on screen: on macOS a hidden title bar with the
+    // How the main window is shaped once it is on screen: on macOS a hidden title bar with the
     // content reaching the top edge and rounded content; elsewhere an ordinary window.
-    virtual void configureMainWindow(QWidget* window) = 0;
-    // The frame around the main window, which its first size leaves room for so that the
-    // whole window fits the usable area of the screen.
-    virtual WindowFrame mainWindowFrame(const QWidget* window) const = 0;
+    virtual WindowStyle mainWindowStyle() const { return WindowStyle::decorated; }
+    // The frame around the main window, given what the window system says of it now, which
+    // its first size leaves room for so that the whole window fits the usable area of the
+    // screen.
+    virtual WindowFrame mainWindowFrame(const WindowFacts& window) const = 0;
     // How a sheet of the main window is made: on macOS a real sheet, elsewhere a dialog
     // window in front of the main window. Either way it is window-modal.
     virtual Qt::WindowFlags sheetWindowFlags() const { return Qt::Dialog; }
@@ -207,10 +226,6 @@ public:
     // nodejs.org publishes none for it.
     virtual std::optional<NodeReleaseTarget> nodeReleaseTarget() const = 0;
 };
-
-// The frame the window system reports for `window`: none until the window is on screen and
-// framed (none at all for a window without a frame).
-QMargins reportedWindowFrame(const QWidget* window);
 
 // The backend for the system this binary was built for.
 std::unique_ptr<Platform> createNativePlatform();

@@ -24,9 +24,9 @@ public:
     QString name() const override;
     const SystemWording& wording() const override;
     ApplicationLook applicationLook() const override;
-    void configureMainWindow(QWidget* window) override;
+    WindowStyle mainWindowStyle() const override { return WindowStyle::fullSizeContent; }
     // As AppKit frames it: known as soon as the window exists.
-    WindowFrame mainWindowFrame(const QWidget* window) const override;
+    WindowFrame mainWindowFrame(const WindowFacts& window) const override;
     Qt::WindowFlags sheetWindowFlags() const override { return Qt::Sheet; }
     bool hasApplicationMenu() const override { return true; }
     OperatingSystemCheck checkOperatingSystem() const override;
@@ -87,10 +87,10 @@ public:
     QString name() const override;
     const SystemWording& wording() const override;
     ApplicationLook applicationLook() const override;
-    void configureMainWindow(QWidget* window) override;
-    // As the window manager reports it once it has framed the window; before that a title
-    // bar as tall as the style's.
-    WindowFrame mainWindowFrame(const QWidget* window) const override;
+    // An ordinary decorated window: the window manager draws the title bar and corners.
+    // The frame: as the window manager reports it once it has framed the window; before that
+    // a title bar as tall as the style's.
+    WindowFrame mainWindowFrame(const WindowFacts& window) const override;
     OperatingSystemCheck checkOperatingSystem() const override;
     QStringList programDirectories() const override;
     QStringList globalNpmPrograms() const override;

@@ -1,6 +1,7 @@
 #include "APIKeyStore.h"
 
 #include "ProfileWriter.h"
+#include "ShellExport.h"
 
 #include <QCoro/QCoroFuture>
 #include <QtConcurrent/QtConcurrentRun>
@@ -19,13 +20,13 @@ QCoro::Task<Result<QString>> APIKeyStore::save(QString key, CLITool tool)
     const QString variable = tool.apiKeyEnvVar();
     const ShellProfile profile = m_detector.shellProfile();
     const QString displayName = tool.displayName();
-    const QString line = ProfileWriter::exportLine(variable, key, profile.family);
+    const QString line = shellExport::exportLine(variable, key, profile.family);
     // The files are handled on a worker thread: a slow or stuck home folder never freezes the
     // window.
-    QFuture<Result<ProfileWriter::ProfileChange>> storing = QtConcurrent::run([profile, variable, displayName, line] {
+    QFuture<Result<ProfileChange>> storing = QtConcurrent::run([profile, variable, displayName, line] {
         return ProfileWriter::store(profile.path, variable, displayName, line, profile.family);
     });
-    const Result<ProfileWriter::ProfileChange> stored = co_await storing;
+    const Result<ProfileChange> stored = co_await storing;
     if (!stored) {
         // Named as the screen's caption names it.
         QString reason = stored.error().errorDescription();

@@ -2,6 +2,7 @@
 
 #include "APIKeyStore.h"
 #include "ProfileWriter.h"
+#include "ShellExport.h"
 #include "ShellQuote.h"
 #include "TemporaryFolders.h"
 
@@ -62,7 +63,7 @@ QCoro::Task<std::optional<QString>> SearchPathFix::addLocalPrograms(CLITool tool
     // never reads ~/.zshrc.
     const ShellProfile profile = m_detector.shellProfile();
     const QString shown = APIKeyStore::displayedPath(profile.path);
-    const QString line = ProfileWriter::searchPathLine(profile.family);
+    const QString line = shellExport::searchPathLine(profile.family);
     QFuture<Result<bool>> adding =
         QtConcurrent::run([profile] { return ProfileWriter::addSearchPathBlock(profile.path, profile.family); });
     const Result<bool> added = co_await adding;

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "CLITool.h"
-#include "ProfileWriter.h"
 #include "SetupModel.h"
+#include "ShellExport.h"
 #include "ShellRunner.h"
 
 #include <QCoro/QCoroTask>

@@ -14,6 +14,13 @@
 
 namespace qf::ui {
 
+namespace {
+
+// Between the card's edges and the log, until its owner says otherwise (setPadding).
+constexpr QMargins kPadding = around(10);
+
+} // namespace
+
 LogView::LogView(QWidget* parent) : RoundedCard(parent), m_text(new QPlainTextEdit(this))
 {
     setObjectName(QStringLiteral("logView"));
@@ -46,7 +53,7 @@ LogView::LogView(QWidget* parent) : RoundedCard(parent), m_text(new QPlainTextEd
             m_follow = value >= bar->maximum();
     });
 
-    auto* layout = vstack(this, 0, QMargins(10, 10, 10, 10));
+    auto* layout = vstack(this, 0, kPadding);
     layout->addWidget(m_text);
 }
 

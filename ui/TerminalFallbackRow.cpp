@@ -7,6 +7,15 @@
 
 namespace qf::ui {
 
+namespace {
+
+// Between the row's edges and its symbol, texts and line.
+constexpr QMargins kPadding(14, 12, 14, 12);
+// Between the code box's edges and the line.
+constexpr QMargins kLinePadding(8, 4, 8, 4);
+
+} // namespace
+
 TerminalFallbackRow::TerminalFallbackRow(const QString& line, std::function<void()> onCopy, QWidget* parent)
     : TerminalFallbackRow(tr("No terminal window could be opened"), tr("Open a terminal yourself and type this line:"),
                           line, std::move(onCopy), parent)
@@ -24,7 +33,7 @@ TerminalFallbackRow::TerminalFallbackRow(const QString& title, const QString& hi
     setAccessibleName(title);
     setAccessibleDescription(line);
 
-    auto* row = hstack(this, 12, QMargins(14, 12, 14, 12));
+    auto* row = hstack(this, 12, kPadding);
     row->addWidget(new SymbolView(QStringLiteral("exclamationmark.triangle.fill"), 15, Tint(Role::orange)), 0,
                    Qt::AlignTop);
     auto* column = vstack(6);
@@ -43,7 +52,7 @@ TerminalFallbackRow::TerminalFallbackRow(const QString& title, const QString& hi
     text->setTextInteractionFlags(Qt::TextSelectableByMouse);
     // As wide as the line, wrapping only where the window is too narrow for it.
     text->setWrapping(true, 4);
-    hstack(code, 0, QMargins(8, 4, 8, 4))->addWidget(text);
+    hstack(code, 0, kLinePadding)->addWidget(text);
     code->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
     codeRow->addWidget(code, 1);
     auto* copy = new CopyButton(line, CopyButton::CopyButtonStyle::regular, std::move(onCopy));

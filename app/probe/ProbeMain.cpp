@@ -12,9 +12,9 @@
 #include "CLITool.h"
 #include "Errors.h"
 #include "Platform.h"
-#include "ProfileWriter.h"
 #include "Services.h"
 #include "SetupModel.h"
+#include "ShellExport.h"
 #include "SupportTools.h"
 
 #include "CommandLine.h"

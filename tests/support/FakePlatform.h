@@ -20,10 +20,14 @@ public:
     QString name() const override { return QStringLiteral("Fake"); }
     const SystemWording& wording() const override { return words; }
     ApplicationLook applicationLook() const override { return look; }
-    void configureMainWindow(QWidget*) override { ++windowsConfigured; }
-    WindowFrame mainWindowFrame(const QWidget* window) const override
+    WindowStyle mainWindowStyle() const override
     {
-        return windowFrame.value_or(WindowFrame{reportedWindowFrame(window), true});
+        ++windowsShaped;
+        return WindowStyle::decorated;
+    }
+    WindowFrame mainWindowFrame(const WindowFacts& window) const override
+    {
+        return windowFrame.value_or(WindowFrame{window.reported, true});
     }
     OperatingSystemCheck checkOperatingSystem() const override { return osCheck; }
     DiskSpace availableDiskSpace(const QString& path) const override
@@ -124,7 +128,8 @@ public:
     // Where logs are kept: a Mac's folder in the home of the moment, which is a test's own.
     QString logs = MacPlatform::logFolderIn(QDir::homePath());
 
-    int windowsConfigured = 0;
+    // How often the app shaped a main window (asked how to shape it).
+    mutable int windowsShaped = 0;
     int installersStarted = 0;
     // Whether a file manager shows a folder when asked.
     bool fileManagerAnswers = true;

@@ -29,7 +29,7 @@ int main(int argc, char* argv[])
     const QString& path = arguments.at(1);
     const QString& variable = arguments.at(2);
     for (int i = 0; i < arguments.at(4).toInt(); ++i) {
-        const QString line = qf::ProfileWriter::exportLine(variable, QStringLiteral("key-%1").arg(i));
+        const QString line = qf::shellExport::exportLine(variable, QStringLiteral("key-%1").arg(i));
         const auto stored = qf::ProfileWriter::store(path, variable, arguments.at(3), line);
         if (!stored) {
             std::printf("%s\n", qUtf8Printable(stored.error().errorDescription()));

@@ -153,7 +153,7 @@ TEST_F(RoutingTest, WindowFillsTheUsableScreenAndKeepsItsMinimum)
     ASSERT_TRUE(window.isConfigured());
     const QRect available = QGuiApplication::primaryScreen()->availableGeometry();
     EXPECT_EQ(window.frameGeometry(), available);
-    EXPECT_EQ(platform.windowsConfigured, 1); // the platform shapes it once
+    EXPECT_EQ(platform.windowsShaped, 1); // shaped once
 }
 
 TEST_F(RoutingTest, TheFirstWindowLeavesRoomForItsFrame)

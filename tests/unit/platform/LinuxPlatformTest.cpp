@@ -1,6 +1,7 @@
 #include "PlatformBackends.h"
 #include "PlatformTestTools.h"
 #include "ShellQuote.h"
+#include "WindowChrome.h"
 
 #include <QDir>
 #include <QFile>
@@ -585,20 +586,20 @@ TEST(WindowFrames, UntilTheWindowIsFramedEachSystemAssumesItsTitleBar)
     EXPECT_EQ(LinuxPlatform::windowFrame(QMargins(1, 20, 1, 5), 24), (WindowFrame{QMargins(1, 20, 1, 5), true}));
     EXPECT_EQ(LinuxPlatform::windowFrame(QMargins(), 24), (WindowFrame{QMargins(0, 24, 0, 0), false}));
     QWidget window;
-    const WindowFrame unframed = LinuxPlatform().mainWindowFrame(&window);
+    const WindowFrame unframed = qf::ui::mainWindowFrame(&window, LinuxPlatform());
     EXPECT_FALSE(unframed.reported);
     EXPECT_EQ(unframed.margins.top(), window.style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, &window));
     EXPECT_GE(unframed.margins.top(), 16);
     // A Mac: a standard title bar until the window exists, then what AppKit says.
-    EXPECT_EQ(qf::MacPlatform().mainWindowFrame(&window), (WindowFrame{QMargins(0, 28, 0, 0), false}));
+    EXPECT_EQ(qf::ui::mainWindowFrame(&window, qf::MacPlatform()), (WindowFrame{QMargins(0, 28, 0, 0), false}));
 
     window.show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
     // The test's window system frames its windows as it shows them.
-    const WindowFrame shown{qf::reportedWindowFrame(&window), true};
+    const WindowFrame shown{qf::ui::windowFacts(&window).reported, true};
     ASSERT_FALSE(shown.margins.isNull());
-    EXPECT_EQ(qf::MacPlatform().mainWindowFrame(&window), shown);
-    EXPECT_EQ(LinuxPlatform().mainWindowFrame(&window), shown);
+    EXPECT_EQ(qf::ui::mainWindowFrame(&window, qf::MacPlatform()), shown);
+    EXPECT_EQ(qf::ui::mainWindowFrame(&window, LinuxPlatform()), shown);
 }
 
 } // namespace

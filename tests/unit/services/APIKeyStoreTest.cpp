@@ -74,23 +74,23 @@ protected:
 
 TEST(ProfileWriter, ExportLines)
 {
-    EXPECT_EQ(ProfileWriter::exportLine(QStringLiteral("ANTHROPIC_API_KEY"), QStringLiteral("sk-ant-api03_AB.c9")),
+    EXPECT_EQ(shellExport::exportLine(QStringLiteral("ANTHROPIC_API_KEY"), QStringLiteral("sk-ant-api03_AB.c9")),
               QStringLiteral("export ANTHROPIC_API_KEY=\"sk-ant-api03_AB.c9\""));
-    EXPECT_EQ(ProfileWriter::exportLine(QStringLiteral("K"), QStringLiteral("it's $(x)")),
+    EXPECT_EQ(shellExport::exportLine(QStringLiteral("K"), QStringLiteral("it's $(x)")),
               QStringLiteral("export K='it'\\''s $(x)'"));
-    EXPECT_TRUE(ProfileWriter::isPlainKey(QStringLiteral("AIzaSy-abc_DEF.123")));
+    EXPECT_TRUE(shellExport::isPlainKey(QStringLiteral("AIzaSy-abc_DEF.123")));
     for (const char* key : {"", "a b", "a$b", "a\"b", "ключ", "a`b`"})
-        EXPECT_FALSE(ProfileWriter::isPlainKey(QString::fromUtf8(key))) << key;
+        EXPECT_FALSE(shellExport::isPlainKey(QString::fromUtf8(key))) << key;
 
     // fish and csh lines, their own quoting for keys that are not plain.
     using enum ShellFamily;
-    EXPECT_EQ(ProfileWriter::exportLine(QStringLiteral("K"), QStringLiteral("sk-1"), fish),
+    EXPECT_EQ(shellExport::exportLine(QStringLiteral("K"), QStringLiteral("sk-1"), fish),
               QStringLiteral("set -gx K \"sk-1\""));
-    EXPECT_EQ(ProfileWriter::exportLine(QStringLiteral("K"), QStringLiteral("it's \\$(x)"), fish),
+    EXPECT_EQ(shellExport::exportLine(QStringLiteral("K"), QStringLiteral("it's \\$(x)"), fish),
               QStringLiteral("set -gx K 'it\\'s \\\\$(x)'"));
-    EXPECT_EQ(ProfileWriter::exportLine(QStringLiteral("K"), QStringLiteral("sk-1"), csh),
+    EXPECT_EQ(shellExport::exportLine(QStringLiteral("K"), QStringLiteral("sk-1"), csh),
               QStringLiteral("setenv K \"sk-1\""));
-    EXPECT_EQ(ProfileWriter::exportLine(QStringLiteral("K"), QStringLiteral("it's!"), csh),
+    EXPECT_EQ(shellExport::exportLine(QStringLiteral("K"), QStringLiteral("it's!"), csh),
               QStringLiteral("setenv K 'it'\\''s\\!'"));
 
     EXPECT_TRUE(ProfileWriter::rejectionReason(QStringLiteral("one\ntwo")).has_value());
@@ -104,8 +104,8 @@ TEST(ProfileWriter, OnlyAPlainLiteralValueIsEditedAndOnlyThatValue)
 {
     const QString line = QStringLiteral("export OPENAI_API_KEY=\"new\"");
     const auto edited = [&line](const QByteArray& profile) {
-        const auto change = ProfileWriter::withExport(profile, QStringLiteral("OPENAI_API_KEY"),
-                                                      QStringLiteral("Codex"), line);
+        const auto change = shellExport::withExport(profile, QStringLiteral("OPENAI_API_KEY"), QStringLiteral("Codex"),
+                                                    line);
         EXPECT_FALSE(change.appended) << profile.toStdString();
         return change.profile;
     };
@@ -125,8 +125,8 @@ TEST(ProfileWriter, OnlyAPlainLiteralValueIsEditedAndOnlyThatValue)
     EXPECT_EQ(edited("export OPENAI_API_KEY=$(cat ~/k)\nexport OPENAI_API_KEY=old\n"),
               QByteArray("export OPENAI_API_KEY=$(cat ~/k)\nexport OPENAI_API_KEY=\"new\"\n"));
     // The key goes in literally: no group references, no escapes.
-    EXPECT_EQ(ProfileWriter::withExport("export K=1", QStringLiteral("K"), QStringLiteral("T"),
-                                        QStringLiteral("export K='$1\\0&'"))
+    EXPECT_EQ(shellExport::withExport("export K=1", QStringLiteral("K"), QStringLiteral("T"),
+                                      QStringLiteral("export K='$1\\0&'"))
                   .profile,
               QByteArray("export K='$1\\0&'"));
 }
@@ -135,9 +135,9 @@ TEST(ProfileWriter, FishAndCshExportsAreTheirOwnLines)
 {
     using enum ShellFamily;
     const auto withKey = [](const QByteArray& profile, ShellFamily family) {
-        return ProfileWriter::withExport(profile, QStringLiteral("K"), QStringLiteral("Codex"),
-                                         ProfileWriter::exportLine(QStringLiteral("K"), QStringLiteral("new"), family),
-                                         family);
+        return shellExport::withExport(profile, QStringLiteral("K"), QStringLiteral("Codex"),
+                                       shellExport::exportLine(QStringLiteral("K"), QStringLiteral("new"), family),
+                                       family);
     };
     // A literal value is edited where it is, whatever the options' order.
     EXPECT_EQ(withKey("set -x -g K old # mine\nset -gx KEEP 1\n", fish).profile,
@@ -230,8 +230,8 @@ TEST_F(APIKeyStoreTest, AComputedValueIsNeverEditedAndTheNewExportComesAfterIt)
                                      "export OPENAI_API_KEY=\"sk-cut-off"};
     for (const QByteArray& before : computed) {
         SCOPED_TRACE(before.toStdString());
-        const auto change = ProfileWriter::withExport(before, QStringLiteral("OPENAI_API_KEY"), QStringLiteral("Codex"),
-                                                      QStringLiteral("export OPENAI_API_KEY=\"sk-new\""));
+        const auto change = shellExport::withExport(before, QStringLiteral("OPENAI_API_KEY"), QStringLiteral("Codex"),
+                                                    QStringLiteral("export OPENAI_API_KEY=\"sk-new\""));
         EXPECT_TRUE(change.appended);
         EXPECT_TRUE(change.afterComputedValue);
         EXPECT_EQ(change.profile, before + "\n# Codex API Key\nexport OPENAI_API_KEY=\"sk-new\"\n");

@@ -66,10 +66,10 @@ QStringList entries(const QString& folder)
 }
 
 // Saves `key` for `variable` as the API key screen does.
-Result<ProfileWriter::ProfileChange> saveKey(const QString& profile, const QString& variable, const QString& toolName,
-                                             const QString& key)
+Result<ProfileChange> saveKey(const QString& profile, const QString& variable, const QString& toolName,
+                              const QString& key)
 {
-    return ProfileWriter::store(profile, variable, toolName, ProfileWriter::exportLine(variable, key));
+    return ProfileWriter::store(profile, variable, toolName, shellExport::exportLine(variable, key));
 }
 
 const QByteArray pathBlockExport = "export PATH=\"$HOME/.local/bin:$PATH\"";
@@ -134,9 +134,8 @@ TEST(ProfileWriterFiles, AFailureAtAnyByteLeavesTheProfileAsBeforeOrAsIntended)
         const QByteArray intended = read(profile);
         const QList<QByteArray> allowed{
             c.before,
-            ProfileWriter::withExport(
-                c.before, QStringLiteral("OPENAI_API_KEY"), QStringLiteral("Codex"),
-                ProfileWriter::exportLine(QStringLiteral("OPENAI_API_KEY"), QStringLiteral("key-0")))
+            shellExport::withExport(c.before, QStringLiteral("OPENAI_API_KEY"), QStringLiteral("Codex"),
+                                    shellExport::exportLine(QStringLiteral("OPENAI_API_KEY"), QStringLiteral("key-0")))
                 .profile,
             intended};
 
@@ -170,7 +169,7 @@ TEST(ProfileWriterFiles, AFullDiskIsNamedAndBreaksNothing)
     write(profile, before);
     disk.fill();
 
-    const QString line = ProfileWriter::exportLine(QStringLiteral("OPENAI_API_KEY"), QStringLiteral("sk-proj-1"));
+    const QString line = shellExport::exportLine(QStringLiteral("OPENAI_API_KEY"), QStringLiteral("sk-proj-1"));
     const auto appended = ProfileWriter::store(profile, QStringLiteral("OPENAI_API_KEY"), QStringLiteral("Codex"),
                                                line);
     ASSERT_FALSE(appended.ok());
@@ -193,7 +192,7 @@ TEST(ProfileWriterFiles, AFullDiskIsNamedAndBreaksNothing)
     const auto added = ProfileWriter::addSearchPathBlock(profile);
     ASSERT_TRUE(added.ok());
     EXPECT_TRUE(added.value());
-    EXPECT_EQ(read(profile), before + "\n# Codex API Key\n" + line.toUtf8() + "\n" + ProfileWriter::searchPathBlock());
+    EXPECT_EQ(read(profile), before + "\n# Codex API Key\n" + line.toUtf8() + "\n" + shellExport::searchPathBlock());
     EXPECT_EQ(entries(root.filePath(QStringLiteral("disk"))), QStringList{QStringLiteral(".zshrc")});
 }
 
@@ -244,7 +243,7 @@ TEST(ProfileWriterFiles, AnUnfinishedSearchPathBlockIsCompletedOnce)
     const auto added = ProfileWriter::addSearchPathBlock(profile);
     ASSERT_TRUE(added.ok());
     EXPECT_TRUE(added.value());
-    EXPECT_EQ(read(profile), cut + ProfileWriter::searchPathBlock());
+    EXPECT_EQ(read(profile), cut + shellExport::searchPathBlock());
     const auto again = ProfileWriter::addSearchPathBlock(profile);
     ASSERT_TRUE(again.ok());
     EXPECT_FALSE(again.value());
@@ -255,7 +254,7 @@ TEST(ProfileWriterFiles, OnlyOrdinaryFilesAreWrittenAndLinksAreFollowed)
 {
     QTemporaryDir home;
     const QString profile = home.filePath(QStringLiteral(".zshrc"));
-    const QString line = ProfileWriter::exportLine(QStringLiteral("OPENAI_API_KEY"), QStringLiteral("k"));
+    const QString line = shellExport::exportLine(QStringLiteral("OPENAI_API_KEY"), QStringLiteral("k"));
 
     // A link to a file that does not exist yet: the file is made where the link points.
     ASSERT_TRUE(QFile::link(home.filePath(QStringLiteral("dotfiles/zshrc")), profile));
