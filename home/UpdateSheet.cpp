@@ -130,7 +130,8 @@ void UpdateSheet::reject()
 
 bool UpdateSheet::needsNewerNode() const
 {
-    return m_run->phase() == Phase::failed && m_run->error() && m_run->error()->requiredNodeMajor() > 0;
+    const std::optional<ServiceError>& error = m_run->error();
+    return m_run->phase() == Phase::failed && error && error->requiredNodeMajor() > 0;
 }
 
 void UpdateSheet::start(bool installNodeFirst)
