@@ -7,6 +7,7 @@
 #include "Services.h"
 #include "ToolCards.h"
 #include "UninstallSheets.h"
+#include "UpdateCheckScheduler.h"
 #include "UpdateSheet.h"
 
 #include "ActivityIndicator.h"
@@ -52,6 +53,18 @@ HomeView::HomeView(InstallationState& state, Services& services, QWidget* parent
     : QWidget(parent), m_state(state), m_services(services)
 {
     setObjectName(QStringLiteral("homeView"));
+    m_updateChecks = new UpdateCheckScheduler(
+        [&checker = services.updateChecker](QList<CLITool> tools, bool force) {
+            return checker.check(std::move(tools), force);
+        },
+        [this]() -> std::optional<QList<CLITool>> {
+            if (m_isLoading)
+                return std::nullopt;
+            return m_installedTools;
+        },
+        this);
+    connect(m_updateChecks, &UpdateCheckScheduler::changed, this, &HomeView::render);
+    connect(m_updateChecks, &UpdateCheckScheduler::checked, this, &HomeView::updatesChecked);
 
     // Behind everything, the window's colour fading very slightly towards the bottom.
     auto* backdrop = new RoundedCard;
@@ -227,58 +240,11 @@ void HomeView::loadData()
                    });
 }
 
-void HomeView::checkForUpdates(bool force)
-{
-    if (m_checkingUpdates) {
-        // Asked for while the quiet check runs: asked again, with its answer, once it ends.
-        m_forcedCheckWaiting = m_forcedCheckWaiting || force;
-        m_updateStatus = force ? tr("Checking for updates...") : m_updateStatus;
-        render();
-        return;
-    }
-    if (m_isLoading)
-        return;
-    // The versions belong to the tools found now: a tool no longer there loses its badge.
-    m_updates.erase(
-        std::remove_if(m_updates.begin(), m_updates.end(),
-                       [this](const ToolUpdateInfo& info) { return !m_installedTools.contains(info.tool); }),
-        m_updates.end());
-    m_updateStatus = force ? tr("Checking for updates...") : QString();
-    if (m_installedTools.isEmpty()) {
-        m_updateStatus.clear();
-        render();
-        return;
-    }
-    m_checkingUpdates = true;
-    render();
-    const int generation = ++m_updateGeneration;
-    QCoro::connect(m_services.updateChecker.check(m_installedTools, force), this,
-                   [this, generation, force](QList<ToolUpdateInfo> infos) {
-                       if (generation != m_updateGeneration)
-                           return;
-                       m_checkingUpdates = false;
-                       const bool anyUpdate = std::any_of(infos.cbegin(), infos.cend(), [](const ToolUpdateInfo& info) {
-                           return info.updateAvailable();
-                       });
-                       const bool allKnown = std::all_of(infos.cbegin(), infos.cend(), [](const ToolUpdateInfo& info) {
-                           return info.latestVersion.has_value();
-                       });
-                       // Only a check someone asked for says that nothing came of it.
-                       if (!force || anyUpdate)
-                           m_updateStatus.clear();
-                       else if (allKnown)
-                           m_updateStatus = tr("Everything is up to date.");
-                       else
-                           m_updateStatus = tr("Could not check for updates. Check that you are online.");
-                       m_updates = std::move(infos);
-                       render();
-                       if (std::exchange(m_forcedCheckWaiting, false)) {
-                           checkForUpdates(true);
-                           return;
-                       }
-                       Q_EMIT updatesChecked();
-                   });
-}
+void HomeView::checkForUpdates(bool force) { m_updateChecks->check(force); }
+
+bool HomeView::isCheckingForUpdates() const { return m_updateChecks->isChecking(); }
+
+const QList<ToolUpdateInfo>& HomeView::updates() const { return m_updateChecks->updates(); }
 
 void HomeView::appear()
 {
@@ -324,11 +290,12 @@ void HomeView::render()
             card->setTool(*found);
         card->setHovered(m_hoveredKey == systemKey(card->tool()));
     }
+    const QList<ToolUpdateInfo>& versions = m_updateChecks->updates();
     for (AIToolCard* card : std::as_const(m_aiCards)) {
         card->setInstalled(m_installedTools.contains(card->tool()));
-        const auto info = std::find_if(m_updates.cbegin(), m_updates.cend(),
+        const auto info = std::find_if(versions.cbegin(), versions.cend(),
                                        [card](const ToolUpdateInfo& update) { return update.tool == card->tool(); });
-        if (info == m_updates.cend())
+        if (info == versions.cend())
             card->setVersions(std::nullopt, std::nullopt);
         else
             card->setVersions(info->installedVersion,
@@ -336,8 +303,19 @@ void HomeView::render()
         card->setHovered(m_hoveredKey == card->tool().rawValue());
     }
     m_checkUpdates->setVisible(!m_isLoading && !m_installedTools.isEmpty());
-    m_updateStatusLabel->setVisible(!m_isLoading && !m_updateStatus.isEmpty());
-    m_updateStatusLabel->setText(m_updateStatus);
+    // What the newest check someone asked for has to say: all up to date, or that it could not
+    // ask.
+    QString updateStatus;
+    switch (m_updateChecks->status()) {
+    case UpdateCheckScheduler::Status::none: break;
+    case UpdateCheckScheduler::Status::checking: updateStatus = tr("Checking for updates..."); break;
+    case UpdateCheckScheduler::Status::upToDate: updateStatus = tr("Everything is up to date."); break;
+    case UpdateCheckScheduler::Status::couldNotCheck:
+        updateStatus = tr("Could not check for updates. Check that you are online.");
+        break;
+    }
+    m_updateStatusLabel->setVisible(!m_isLoading && !updateStatus.isEmpty());
+    m_updateStatusLabel->setText(updateStatus);
 }
 
 void HomeView::hoverChanged(const QString& key, bool inside)
@@ -439,9 +417,10 @@ void HomeView::renderSheets()
     }
     if (m_toolToUpdate && !m_updateSheet) {
         const CLITool tool = *m_toolToUpdate;
-        const auto info = std::find_if(m_updates.cbegin(), m_updates.cend(),
+        const QList<ToolUpdateInfo>& versions = m_updateChecks->updates();
+        const auto info = std::find_if(versions.cbegin(), versions.cend(),
                                        [tool](const ToolUpdateInfo& update) { return update.tool == tool; });
-        const std::optional<QString> latest = info == m_updates.cend() ? std::nullopt : info->latestVersion;
+        const std::optional<QString> latest = info == versions.cend() ? std::nullopt : info->latestVersion;
         if (!latest) {
             m_toolToUpdate.reset();
             return;

@@ -2,7 +2,7 @@
 
 #include "CLITool.h"
 #include "SystemToolAction.h"
-#include "UpdateChecker.h"
+#include "ToolUpdateInfo.h"
 
 #include <QList>
 #include <QPointer>
@@ -21,6 +21,7 @@ class RemovalSheet;
 class SectionHeader;
 class Services;
 class SystemToolCard;
+class UpdateCheckScheduler;
 class UpdateSheet;
 
 namespace ui {
@@ -58,8 +59,8 @@ public:
     // when it was asked today, and says so when nothing newer is found. Forced while a check
     // runs, it asks again once that check has ended.
     void checkForUpdates(bool force);
-    bool isCheckingForUpdates() const { return m_checkingUpdates; }
-    const QList<ToolUpdateInfo>& updates() const { return m_updates; }
+    bool isCheckingForUpdates() const;
+    const QList<ToolUpdateInfo>& updates() const;
 
     static constexpr int listAppearMs = 300;
 
@@ -102,14 +103,7 @@ private:
     bool m_isFirstTimeUser = false;
     std::optional<CLITool> m_toolToUninstall;
     std::optional<CLITool> m_toolToUpdate;
-    QList<ToolUpdateInfo> m_updates;
-    bool m_checkingUpdates = false;
-    // "Check for Updates" was pressed while a quiet check ran.
-    bool m_forcedCheckWaiting = false;
-    // What the newest forced check has to say when it shows no update: all up to date, or
-    // that it could not ask.
-    QString m_updateStatus;
-    int m_updateGeneration = 0;
+    UpdateCheckScheduler* m_updateChecks;
     std::optional<SystemTool> m_systemToolToUninstall;
     std::optional<QString> m_hoveredKey;
     bool m_appeared = false;

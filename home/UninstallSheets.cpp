@@ -3,7 +3,6 @@
 #include "SheetParts.h"
 
 #include "BoundedLog.h"
-#include "LogFile.h"
 #include "SupportTools.h"
 #include "ToolRemover.h"
 
@@ -16,9 +15,6 @@
 #include "Layout.h"
 #include "LogView.h"
 #include "RoundedCard.h"
-
-#include <QCoro/QCoroTask>
-#include <QPointer>
 
 namespace qf {
 
@@ -37,12 +33,17 @@ constexpr QMargins kColumnPadding(0, 24, 0, 24);
 RemovalSheet::RemovalSheet(const QString& name, const LogBook& logs, std::function<void()> onComplete,
                            Qt::WindowFlags flags, int height, QWidget* parent)
     : QDialog(parent, flags),
+      m_run(new OperationRun(logs, OperationRun::Declined::fails, this)),
       m_name(name),
-      m_logs(logs),
-      m_logFile(std::make_shared<LogFile>()),
       m_onComplete(std::move(onComplete)),
       m_minimumHeight(height)
 {
+    connect(m_run, &OperationRun::phaseChanged, this, [this] {
+        if (m_run->phase() == OperationRun::Phase::failed)
+            m_showOutput = true; // the log opens by itself
+        render();
+    });
+    connect(m_run, &OperationRun::outputAppended, this, &RemovalSheet::showOutput);
     setWindowModality(Qt::WindowModal);
     setWindowTitle(tr("Uninstall %1").arg(name));
     FocusRing::attach(this);
@@ -134,28 +135,11 @@ void RemovalSheet::completeAndClose()
 
 void RemovalSheet::start()
 {
-    m_isUninstalling = true;
-    m_errorMessage.reset();
+    if (!hasCommand())
+        return;
     m_log->clear();
-    m_logFile = m_logs.start(QStringLiteral("Uninstall ") + m_name);
-    render();
+    m_run->begin(QStringLiteral("Uninstall ") + m_name);
     performUninstall();
-}
-
-void RemovalSheet::appendOutput(const QString& text)
-{
-    m_logFile->append(text);
-    showOutput(text);
-}
-
-std::function<void(const QString&)> RemovalSheet::outputSink()
-{
-    const QPointer<RemovalSheet> self(this);
-    return [self, file = m_logFile](const QString& text) {
-        file->append(text);
-        if (self)
-            self->showOutput(text);
-    };
 }
 
 void RemovalSheet::showOutput(const QString& text)
@@ -166,29 +150,12 @@ void RemovalSheet::showOutput(const QString& text)
         render();
 }
 
-QString RemovalSheet::plainFailureFor(const ServiceError& error)
-{
-    QString plain = error.plainDescription();
-    if (error.errorDescription() != plain)
-        appendOutput(QStringLiteral("\nError: ") + error.errorDescription() + QLatin1Char('\n'));
-    return plain;
-}
-
-void RemovalSheet::finish(const std::optional<QString>& error)
-{
-    m_isUninstalling = false;
-    if (error) {
-        m_errorMessage = error;
-        m_showOutput = true; // the log opens by itself
-    } else {
-        m_uninstallComplete = true;
-    }
-    render();
-}
-
 void RemovalSheet::render()
 {
-    const bool confirming = !m_isUninstalling && !m_uninstallComplete;
+    const bool uninstalling = isUninstalling();
+    const bool complete = uninstallComplete();
+    const bool confirming = !uninstalling && !complete;
+    const std::optional<QString> errorMessage = m_run->errorMessage();
     // The focus moves on with the main button of each state, unless it is on the log or its
     // "Details".
     const QWidget* focused = focusWidget();
@@ -197,12 +164,10 @@ void RemovalSheet::render()
 
     // Only a removal looks like one: a sheet with just a note is information.
     const bool removal = hasCommand();
-    m_icon->setFill(m_uninstallComplete ? Tint(Role::green, 0.15)
-                    : removal           ? Tint(Role::red, 0.12)
-                                        : Tint(Role::blue, 0.12));
-    m_spinner->setVisible(m_isUninstalling);
-    m_symbol->setVisible(!m_isUninstalling);
-    if (m_uninstallComplete) {
+    m_icon->setFill(complete ? Tint(Role::green, 0.15) : removal ? Tint(Role::red, 0.12) : Tint(Role::blue, 0.12));
+    m_spinner->setVisible(uninstalling);
+    m_symbol->setVisible(!uninstalling);
+    if (complete) {
         m_symbol->setName(QStringLiteral("checkmark"));
         m_symbol->setPointSize(28);
         m_symbol->setWeight(SymbolWeight::bold);
@@ -218,11 +183,11 @@ void RemovalSheet::render()
         m_symbol->setWeight(SymbolWeight::regular);
         m_symbol->setTint(Tint(Role::blue));
     }
-    m_title->setText(m_uninstallComplete ? tr("Uninstall Complete") : tr("Uninstall %1?").arg(m_name));
+    m_title->setText(complete ? tr("Uninstall Complete") : tr("Uninstall %1?").arg(m_name));
     m_description->setText(description());
     m_description->setVisible(confirming);
 
-    const bool hasOutput = !m_log->isEmpty();
+    const bool hasOutput = m_run->hasOutput();
     m_logSection->setVisible(hasOutput);
     m_details->setVisible(isLogCollapsible());
     m_details->setLeadingSymbol(m_showOutput ? QStringLiteral("chevron.down") : QStringLiteral("chevron.right"), 10,
@@ -230,12 +195,12 @@ void RemovalSheet::render()
     m_details->setAccessibleDescription(m_showOutput ? tr("Shown") : tr("Hidden"));
     m_log->setVisible(!isLogCollapsible() || m_showOutput);
 
-    m_errorRow->setVisible(m_errorMessage.has_value());
-    m_error->setText(m_errorMessage.value_or(QString()));
+    m_errorRow->setVisible(errorMessage.has_value());
+    m_error->setText(errorMessage.value_or(QString()));
 
-    m_cancel->setVisible(!m_isUninstalling || canLeaveWhileRunning());
+    m_cancel->setVisible(!uninstalling || canLeaveWhileRunning());
     m_uninstall->setVisible(hasCommand() && confirming);
-    m_done->setVisible(m_uninstallComplete);
+    m_done->setVisible(complete);
     // "OK" acknowledges a note; with nothing to say there is nothing to acknowledge.
     m_ok->setVisible(!hasCommand() && confirming && !description().isEmpty());
     if (Button* main = mainButton(); main && (focusOnMain || !focusWidget() || !focusWidget()->isVisibleTo(this)))
@@ -260,12 +225,7 @@ UninstallSheet::UninstallSheet(CLITool tool, ToolRemover& remover, const LogBook
     render();
 }
 
-void UninstallSheet::performUninstall()
-{
-    QCoro::connect(m_remover.uninstall(m_tool, outputSink()), this, [this](const Result<void>& result) {
-        finish(result ? std::nullopt : std::optional<QString>(plainFailureFor(result.error())));
-    });
-}
+void UninstallSheet::performUninstall() { run()->follow(m_remover.uninstall(m_tool, run()->sink())); }
 
 // MARK: SystemToolUninstallSheet
 
@@ -291,17 +251,9 @@ QString SystemToolUninstallSheet::description() const
 
 void SystemToolUninstallSheet::performUninstall()
 {
-    if (!m_tool.uninstallCommand)
-        return;
     // The removal may outlive the sheet ("Cancel" stays while it runs): its output then goes
     // to the log file only, and the next load of the dashboard shows what it did.
-    QCoro::connect(m_supportTools.remove(m_tool, outputSink()), this, [this](const Result<void>& result) {
-        if (!result) {
-            finish(plainFailureFor(result.error()));
-            return;
-        }
-        finish(std::nullopt);
-    });
+    run()->follow(m_supportTools.remove(m_tool, run()->sink()));
 }
 
 } // namespace qf

@@ -1,19 +1,17 @@
 #pragma once
 
 #include "CLITool.h"
-#include "Errors.h"
+#include "OperationRun.h"
 #include "SystemTool.h"
 
 #include <QDialog>
 
 #include <functional>
-#include <memory>
 #include <optional>
 
 namespace qf {
 
 class LogBook;
-class LogFile;
 class SupportTools;
 class ToolRemover;
 
@@ -33,15 +31,16 @@ class SymbolView;
 //   uninstalling  the spinner; no button, except where the removal may be left to run
 //   complete      "Uninstall Complete", "Cancel" and "Done" (which reloads the dashboard)
 //   failed        the error row, "Cancel" and "Uninstall" again
-// Escape acts as "Cancel" whenever "Cancel" is shown, and does nothing otherwise. The log on
-// the sheet keeps the newest part of a long one; each removal's whole log goes to a file.
+// Escape acts as "Cancel" whenever "Cancel" is shown, and does nothing otherwise. The removal
+// itself is an OperationRun; the log on the sheet keeps the newest part of a long one, and each
+// removal's whole log goes to a file.
 class RemovalSheet : public QDialog {
     Q_OBJECT
 
 public:
-    bool isUninstalling() const { return m_isUninstalling; }
-    bool uninstallComplete() const { return m_uninstallComplete; }
-    const std::optional<QString>& errorMessage() const { return m_errorMessage; }
+    bool isUninstalling() const { return m_run->isRunning(); }
+    bool uninstallComplete() const { return m_run->phase() == OperationRun::Phase::complete; }
+    std::optional<QString> errorMessage() const { return m_run->errorMessage(); }
     QString output() const;
     // The button of the state the sheet is in, which has the focus as the state begins:
     // "Uninstall" (or "OK", or "Uninstall" again after a failure), "Done" once complete,
@@ -55,7 +54,7 @@ protected:
                  int height, QWidget* parent);
 
     // What a kind of sheet is (each subclass calls `render()` once it is made):
-    // runs the removal, ending by calling `finish()`;
+    // starts the removal, with `run()->sink()` as its output, for `run()` to follow;
     virtual void performUninstall() = 0;
     virtual QString description() const = 0;
     virtual bool hasCommand() const { return true; }
@@ -64,13 +63,9 @@ protected:
     // whether the log is a disclosure ("Details") or always open.
     virtual bool isLogCollapsible() const { return true; }
 
-    void appendOutput(const QString& text);
-    // Where a removal's output goes from a command that may outlive the sheet: the removal's
-    // log file, and the sheet while it is there.
-    std::function<void(const QString&)> outputSink();
-    void finish(const std::optional<QString>& error);
-    // The sentence the sheet shows for `error`; the command's own words go to the log.
-    QString plainFailureFor(const ServiceError& error);
+    // The removal: a command that may outlive the sheet writes its output through its sink to
+    // the removal's log file, and to the sheet while it is there.
+    OperationRun* run() const { return m_run; }
     void render();
 
 private:
@@ -80,13 +75,9 @@ private:
     void completeAndClose();
     void showOutput(const QString& text);
 
-    bool m_isUninstalling = false;
-    bool m_uninstallComplete = false;
-    std::optional<QString> m_errorMessage;
+    OperationRun* m_run;
     bool m_showOutput = false;
     QString m_name;
-    const LogBook& m_logs;
-    std::shared_ptr<LogFile> m_logFile;
     std::function<void()> m_onComplete;
     int m_minimumHeight;
     ui::IconTile* m_icon;

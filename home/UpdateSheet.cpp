@@ -3,7 +3,6 @@
 #include "SheetParts.h"
 
 #include "BoundedLog.h"
-#include "LogFile.h"
 #include "ToolUpdater.h"
 
 #include "ActivityIndicator.h"
@@ -18,9 +17,7 @@
 #include "RoundedCard.h"
 
 #include <QClipboard>
-#include <QCoro/QCoroTask>
 #include <QGuiApplication>
-#include <QPointer>
 
 namespace qf {
 
@@ -42,11 +39,12 @@ UpdateSheet::UpdateSheet(CLITool tool, std::optional<QString> currentVersion, QS
       m_current(std::move(currentVersion)),
       m_new(std::move(newVersion)),
       m_updater(updater),
-      m_logs(logs),
-      m_logFile(std::make_shared<LogFile>()),
+      m_run(new OperationRun(logs, OperationRun::Declined::asksAgain, this)),
       m_onComplete(std::move(onComplete))
 {
     setObjectName(QStringLiteral("updateSheet"));
+    connect(m_run, &OperationRun::phaseChanged, this, &UpdateSheet::render);
+    connect(m_run, &OperationRun::outputAppended, this, &UpdateSheet::append);
     setWindowModality(Qt::WindowModal);
     setWindowTitle(tr("Update %1").arg(tool.displayName()));
     FocusRing::attach(this);
@@ -132,53 +130,23 @@ void UpdateSheet::reject()
         QDialog::reject();
 }
 
-void UpdateSheet::start(bool installNodeFirst)
+bool UpdateSheet::needsNewerNode() const
 {
-    m_phase = Phase::updating;
-    m_errorMessage.reset();
-    m_needsNode = false;
-    m_output.clear();
-    m_log->clear();
-    m_logFile = m_logs.start(tr("Update %1").arg(m_tool.displayName()));
-    render();
-    // The update may outlive the sheet (the window closes): its output then goes to the log
-    // file only.
-    const QPointer<UpdateSheet> self(this);
-    auto sink = [self, file = m_logFile](const QString& text) {
-        file->append(text);
-        if (self)
-            self->append(text);
-    };
-    auto task = installNodeFirst ? m_updater.installNodeThenUpdate(m_tool, std::move(sink))
-                                 : m_updater.update(m_tool, std::move(sink));
-    QCoro::connect(std::move(task), this, [this](const Result<UpdateOutcome>& result) { finished(result); });
+    const std::optional<ServiceError>& error = m_run->error();
+    return m_run->phase() == Phase::failed && error && error->requiredNodeMajor() > 0;
 }
 
-void UpdateSheet::finished(const Result<UpdateOutcome>& result)
+void UpdateSheet::start(bool installNodeFirst)
 {
-    if (result) {
-        m_phase = Phase::complete;
-        m_verified = result.value().newVersion;
-        render();
-        return;
-    }
-    const ServiceError& error = result.error();
-    if (error.isDeclined()) {
-        // Nobody said yes to the password dialog: nothing happened, the question stands.
-        m_phase = Phase::confirm;
-        render();
-        return;
-    }
-    const QString plain = error.plainDescription();
-    if (error.errorDescription() != plain) {
-        const QString detail = QStringLiteral("\nError: ") + error.errorDescription() + QLatin1Char('\n');
-        m_logFile->append(detail);
-        append(detail);
-    }
-    m_phase = Phase::failed;
-    m_errorMessage = plain;
-    m_needsNode = error.requiredNodeMajor() > 0;
-    render();
+    m_output.clear();
+    m_log->clear();
+    m_run->begin(tr("Update %1").arg(m_tool.displayName()));
+    // The update may outlive the sheet (the window closes): its output then goes to the log
+    // file only.
+    auto task = installNodeFirst ? m_updater.installNodeThenUpdate(m_tool, m_run->sink())
+                                 : m_updater.update(m_tool, m_run->sink());
+    m_run->follow<UpdateOutcome>(std::move(task),
+                                 [this](const UpdateOutcome& outcome) { m_verified = outcome.newVersion; });
 }
 
 void UpdateSheet::append(const QString& text)
@@ -196,19 +164,22 @@ void UpdateSheet::render()
     const QWidget* focused = focusWidget();
     const bool focusOnButton = !focused || qobject_cast<const Button*>(focused) != nullptr;
 
-    const bool complete = m_phase == Phase::complete;
-    const bool failed = m_phase == Phase::failed;
-    const bool updating = m_phase == Phase::updating;
-    m_icon->setFill(complete                 ? Tint(Role::green, 0.15)
-                    : failed && !m_needsNode ? Tint(Role::orange, 0.12)
-                                             : Tint(Role::accent, 0.12));
+    const Phase phase = m_run->phase();
+    const bool complete = phase == Phase::complete;
+    const bool failed = phase == Phase::failed;
+    const bool updating = phase == Phase::running;
+    const bool needsNode = needsNewerNode();
+    const std::optional<QString> errorMessage = m_run->errorMessage();
+    m_icon->setFill(complete               ? Tint(Role::green, 0.15)
+                    : failed && !needsNode ? Tint(Role::orange, 0.12)
+                                           : Tint(Role::accent, 0.12));
     m_spinner->setVisible(updating);
     m_symbol->setVisible(!updating);
     if (complete) {
         m_symbol->setName(QStringLiteral("checkmark"));
         m_symbol->setWeight(SymbolWeight::bold);
         m_symbol->setTint(Tint(Role::green));
-    } else if (failed && m_needsNode) {
+    } else if (failed && needsNode) {
         m_symbol->setName(QStringLiteral("info.circle"));
         m_symbol->setWeight(SymbolWeight::regular);
         m_symbol->setTint(Tint(Role::accent));
@@ -222,8 +193,8 @@ void UpdateSheet::render()
         m_symbol->setTint(Tint(Role::accent));
     }
 
-    switch (m_phase) {
-    case Phase::confirm:
+    switch (phase) {
+    case Phase::ready:
         m_title->setText(tr("Update %1?").arg(name));
         m_description->setText(
             m_current
@@ -231,7 +202,7 @@ void UpdateSheet::render()
                       .arg(name, *m_current, m_new)
                 : tr("%1 is updated to version %2. Your settings and sign-in stay as they are.").arg(name, m_new));
         break;
-    case Phase::updating:
+    case Phase::running:
         m_title->setText(tr("Updating %1...").arg(name));
         m_description->setText(tr("This usually takes less than a minute."));
         break;
@@ -241,19 +212,19 @@ void UpdateSheet::render()
         break;
     case Phase::failed:
         // An older Node.js is not a failure of the update, only what has to come first.
-        m_title->setText(m_needsNode ? tr("A Newer Node.js Is Needed") : tr("Update Failed"));
+        m_title->setText(needsNode ? tr("A Newer Node.js Is Needed") : tr("Update Failed"));
         break;
     }
     m_description->setVisible(!failed);
 
-    m_logSection->setVisible(!m_output.isEmpty() && m_phase != Phase::confirm);
-    m_errorRow->setVisible(m_errorMessage.has_value());
-    m_error->setText(m_errorMessage.value_or(QString()));
+    m_logSection->setVisible(m_run->hasOutput() && phase != Phase::ready);
+    m_errorRow->setVisible(errorMessage.has_value());
+    m_error->setText(errorMessage.value_or(QString()));
 
     m_cancel->setVisible(!updating && !complete);
-    m_update->setVisible(m_phase == Phase::confirm);
-    m_retry->setVisible(failed && !m_needsNode);
-    m_installNode->setVisible(failed && m_needsNode);
+    m_update->setVisible(phase == Phase::ready);
+    m_retry->setVisible(failed && !needsNode);
+    m_installNode->setVisible(failed && needsNode);
     m_done->setVisible(complete);
     if (Button* main = mainButton(); main && (focusOnButton || !focusWidget()->isVisibleTo(this)))
         main->setFocus(Qt::OtherFocusReason);

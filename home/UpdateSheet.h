@@ -1,20 +1,17 @@
 #pragma once
 
 #include "CLITool.h"
-#include "Errors.h"
+#include "OperationRun.h"
 
 #include <QDialog>
 
 #include <functional>
-#include <memory>
 #include <optional>
 
 namespace qf {
 
 class LogBook;
-class LogFile;
 class ToolUpdater;
-struct UpdateOutcome;
 
 namespace ui {
 class ActivityIndicator;
@@ -36,22 +33,23 @@ class SymbolView;
 //             log, "Cancel" and "Try Again"; when a newer Node.js is what is missing, "Install
 //             Node.js and Update" instead, the installer's way to Node.js
 // A cancelled password dialog goes back to the confirmation. Escape acts as "Cancel" whenever
-// "Cancel" is shown. Each run's whole log also goes to a file of the log book.
+// "Cancel" is shown. The update itself is an OperationRun (the confirmation is its `ready`);
+// each run's whole log also goes to a file of the log book.
 class UpdateSheet : public QDialog {
     Q_OBJECT
 
 public:
-    enum class Phase { confirm, updating, complete, failed };
+    using Phase = OperationRun::Phase;
 
     UpdateSheet(CLITool tool, std::optional<QString> currentVersion, QString newVersion, ToolUpdater& updater,
                 const LogBook& logs, std::function<void()> onComplete, Qt::WindowFlags flags, QWidget* parent);
     ~UpdateSheet() override;
 
     CLITool tool() const { return m_tool; }
-    Phase phase() const { return m_phase; }
-    const std::optional<QString>& errorMessage() const { return m_errorMessage; }
+    Phase phase() const { return m_run->phase(); }
+    std::optional<QString> errorMessage() const { return m_run->errorMessage(); }
     // Whether the failure is a Node.js too old for the new version.
-    bool needsNewerNode() const { return m_needsNode; }
+    bool needsNewerNode() const;
     QString output() const { return m_output; }
     // The button of the state the sheet is in, which has the focus as the state begins.
     ui::Button* mainButton() const;
@@ -60,7 +58,6 @@ public:
 
 private:
     void start(bool installNodeFirst);
-    void finished(const Result<UpdateOutcome>& result);
     void append(const QString& text);
     void render();
 
@@ -68,12 +65,8 @@ private:
     std::optional<QString> m_current;
     QString m_new;
     ToolUpdater& m_updater;
-    const LogBook& m_logs;
-    std::shared_ptr<LogFile> m_logFile;
+    OperationRun* m_run;
     std::function<void()> m_onComplete;
-    Phase m_phase = Phase::confirm;
-    std::optional<QString> m_errorMessage;
-    bool m_needsNode = false;
     // The version the tool reported once updated.
     QString m_verified;
     // The whole log of the newest run, for "Copy Log".

@@ -1,7 +1,6 @@
 #include "InstallationController.h"
 
 #include "InstallationState.h"
-#include "LogFile.h"
 
 #include <QCoro/QCoroSignal>
 #include <QPointer>
@@ -10,8 +9,10 @@ namespace qf {
 
 InstallationController::InstallationController(InstallationState& state, SetupService& installer, const LogBook& logs,
                                                QObject* parent)
-    : QObject(parent), m_state(state), m_installer(installer), m_logs(logs)
+    : QObject(parent), m_state(state), m_installer(installer), m_run(logs)
 {
+    connect(&m_run, &OperationRun::outputAppended, this,
+            [this](const QString& text) { m_state.appendInstallationOutput(text); });
 }
 
 QCoro::Task<> InstallationController::startInstallation()
@@ -20,6 +21,7 @@ QCoro::Task<> InstallationController::startInstallation()
     // as long as the window; should it go first, its attempts end at their next step.
     const QPointer<InstallationController> self(this);
     const int attempt = ++m_attempt;
+    m_run.detach();
     const std::optional<CLITool> tool = m_state.selectedTool();
     if (!tool) {
         setInstalling(false);
@@ -31,7 +33,6 @@ QCoro::Task<> InstallationController::startInstallation()
     m_state.setErrorMessage(std::nullopt);
     m_state.setCaveats({});
     m_state.setInstallationOutput(QString());
-    m_logFile.reset();
 
     // A run of an earlier attempt may still be going on (its screen went away); two
     // installations at once would fight over the same files.
@@ -50,8 +51,7 @@ QCoro::Task<> InstallationController::startInstallation()
         co_return;
     }
     m_state.setSetupSteps(steps);
-    const std::shared_ptr<LogFile> log = m_logs.start(QStringLiteral("Install ") + tool->displayName());
-    m_logFile = log;
+    m_run.begin(QStringLiteral("Install ") + tool->displayName());
 
     // The callbacks are named before the run: GCC 12 destroys some temporaries of a co_await
     // expression twice. The file gets the whole run, also once a newer attempt has taken over
@@ -61,30 +61,20 @@ QCoro::Task<> InstallationController::startInstallation()
         if (self && self->isCurrent(attempt))
             self->updateStep(type, status, details);
     };
-    const SetupService::Output onOutput = [self, attempt, log](const QString& text) {
-        log->append(text);
-        if (self && self->isCurrent(attempt))
-            self->m_state.appendInstallationOutput(text);
-    };
+    const SetupService::Output onOutput = m_run.sink();
     const Result<void> result = co_await m_installer.runSetup(*tool, onStepUpdate, onOutput);
     if (!self)
         co_return;
     if (isCurrent(attempt)) {
         setInstalling(false);
         if (result) {
+            m_run.succeed();
             m_state.setCaveats(m_installer.caveats());
             setComplete(true);
         } else {
             markUnfinishedStepsFailed();
-            // The screen says it plainly; the log keeps the command's own words.
-            const QString plain = result.error().plainDescription();
-            const QString full = result.error().errorDescription();
-            if (full != plain) {
-                const QString entry = QStringLiteral("\nError: ") + full + QLatin1Char('\n');
-                log->append(entry);
-                m_state.appendInstallationOutput(entry);
-            }
-            m_state.setErrorMessage(plain);
+            m_run.fail(result.error());
+            m_state.setErrorMessage(m_run.errorMessage());
         }
     }
     endRun();

@@ -2,6 +2,7 @@
 
 #include "CLITool.h"
 #include "Errors.h"
+#include "OperationRun.h"
 #include "SetupModel.h"
 
 #include <QCoro/QCoroTask>
@@ -58,7 +59,7 @@ public:
     // Some attempt's run is still going on (perhaps one that nobody watches any more).
     bool isRunning() const { return m_running; }
     // The whole log of the current attempt's run; none until the run has started.
-    std::shared_ptr<const LogFile> logFile() const { return m_logFile; }
+    std::shared_ptr<const LogFile> logFile() const { return m_run.logFile(); }
 
     // A new attempt for the selected tool: clears the log and the error, builds the step list
     // and runs it. Without a selected tool nothing starts and the attempt stays idle. Never
@@ -86,8 +87,9 @@ private:
 
     InstallationState& m_state;
     SetupService& m_installer;
-    const LogBook& m_logs;
-    std::shared_ptr<const LogFile> m_logFile;
+    // The current attempt's run: its log file, and its output and failure on their way to the
+    // state.
+    OperationRun m_run;
     int m_attempt = 0;
     bool m_running = false;
     bool m_isInstalling = false;

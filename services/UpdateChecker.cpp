@@ -35,11 +35,6 @@ void reportFailure(CLITool tool, const QString& reason)
 
 } // namespace
 
-bool ToolUpdateInfo::updateAvailable() const
-{
-    return installedVersion && latestVersion && isNewerVersion(*latestVersion, *installedVersion);
-}
-
 // One check of the registry for one tool, with the callers waiting for its answer.
 class UpdateChecker::Lookup : public SharedResult<std::optional<PublishedVersion>> {};
 

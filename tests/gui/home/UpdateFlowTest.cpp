@@ -53,7 +53,7 @@ protected:
     }
     static void waitForPhaseChange(UpdateSheet& sheet)
     {
-        EXPECT_TRUE(QTest::qWaitFor([&] { return sheet.phase() != UpdateSheet::Phase::updating; }, 20000));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return sheet.phase() != UpdateSheet::Phase::running; }, 20000));
     }
     static AIToolCard* geminiCard(HomeView& view)
     {
@@ -112,7 +112,7 @@ TEST_F(UpdateFlowTest, ANewerVersionIsOfferedOnTheCardAndUpdatedWhereTheToolWasI
 
     // The update runs in ~/.local, where the tool is, and is checked by running the tool.
     press(sheet, "updateButton");
-    EXPECT_EQ(sheet->phase(), UpdateSheet::Phase::updating);
+    EXPECT_EQ(sheet->phase(), UpdateSheet::Phase::running);
     EXPECT_FALSE(shown(sheet, "cancelButton")); // it runs to its end
     waitForPhaseChange(*sheet);
     ASSERT_EQ(sheet->phase(), UpdateSheet::Phase::complete) << sheet->errorMessage().value_or(QString()).toStdString();
