@@ -12,17 +12,23 @@
 
 namespace qf::test {
 
+void writeFakeNodeTree(const QString& root, const QString& version)
+{
+    writeFile(root + QStringLiteral("/bin/node"), "#!/bin/sh\necho " + version.toUtf8() + "\n");
+    QFile::copy(QStringLiteral(QF_FIXTURES_DIR "/bin/npm"), root + QStringLiteral("/bin/npm"));
+    for (const char* program : {"/bin/node", "/bin/npm"})
+        QFile::setPermissions(root + QLatin1String(program), QFileDevice::ReadOwner | QFileDevice::ExeOwner);
+    writeFile(root + QStringLiteral("/lib/node_modules/npm/package.json"), "{}\n");
+}
+
 QString publishNodeRelease(const QString& dist, const QString& version, const QString& platformName, const QString& tar,
-                           const QByteArray& checksum)
+                           const QByteArray& checksum, const NodeTree& tree)
 {
     const QString folder = QStringLiteral("node-%1-%2").arg(version, platformName);
     const QString staging = QDir::cleanPath(dist + QStringLiteral("/../staging/") + folder);
-    writeFile(staging + QStringLiteral("/bin/node"), "#!/bin/sh\necho " + version.toUtf8() + "\n");
-    QFile::remove(staging + QStringLiteral("/bin/npm"));
-    QFile::copy(QStringLiteral(QF_FIXTURES_DIR "/bin/npm"), staging + QStringLiteral("/bin/npm"));
-    for (const char* program : {"/bin/node", "/bin/npm"})
-        QFile::setPermissions(staging + QLatin1String(program), QFileDevice::ReadOwner | QFileDevice::ExeOwner);
-    for (const char* loose : {"/CHANGELOG.md", "/LICENSE", "/README.md", "/lib/node_modules/npm/package.json"})
+    QDir(staging).removeRecursively();
+    tree(staging, version);
+    for (const char* loose : {"/CHANGELOG.md", "/LICENSE", "/README.md"})
         writeFile(staging + QLatin1String(loose), "{}\n");
 
     const QString archive = dist + QLatin1Char('/') + version + QLatin1Char('/') + folder + QStringLiteral(".tar.gz");

@@ -9,6 +9,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <unistd.h>
+
 namespace qf::test {
 
 void writeFile(const QString& path, const QByteArray& content)
@@ -27,6 +29,13 @@ bool writeExecutable(const QString& path, const QByteArray& content)
         return false;
     file.close();
     return file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+}
+
+void makeLink(const QString& target, const QString& link)
+{
+    QDir().mkpath(QFileInfo(link).absolutePath());
+    ASSERT_EQ(::symlink(QFile::encodeName(target).constData(), QFile::encodeName(link).constData()), 0)
+        << link.toStdString();
 }
 
 void settle()

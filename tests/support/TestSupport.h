@@ -21,6 +21,8 @@ T* child(const QObject* root, const QString& name)
 void writeFile(const QString& path, const QByteArray& content);
 // The same for a program only its owner may change; false when it could not be written.
 bool writeExecutable(const QString& path, const QByteArray& content);
+// Makes a symbolic link at `link` to `target` (as written), making its folder first.
+void makeLink(const QString& target, const QString& link);
 
 // Runs posted events, including deferred deletions.
 void settle();

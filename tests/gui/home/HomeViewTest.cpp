@@ -450,3 +450,41 @@ TEST_F(HomeTest, EveryControlHasAName)
             << control->metaObject()->className() << " " << control->objectName().toStdString();
     }
 }
+
+// The environment of commands is read from the login shell once for the dashboard's loads, and
+// again after the window was inactive, where a start-up file may have changed.
+TEST_F(HomeTest, TheDashboardReadsTheStartupFilesAgainAfterTheWindowWasInactive)
+{
+    const QByteArray counting = "echo read >> \"$HOME/startup-reads\"\n";
+    const auto startupReads = [this] { return sandbox.readFile(QStringLiteral("startup-reads")).count("read\n"); };
+    sandbox.installFakes({"claude", "node", "npm"});
+    sandbox.writeFile(QStringLiteral(".zprofile"), counting);
+    // The dashboard inside a window, as in the application.
+    QWidget window;
+    auto* view = new HomeView(state, services);
+    view->setParent(&window);
+    view->resize(900, 1400);
+    window.show();
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    waitForLoad(*view);
+    EXPECT_EQ(startupReads(), 1);
+
+    // A reload while the window stayed in front uses what was read.
+    view->loadData();
+    waitForLoad(*view);
+    EXPECT_EQ(startupReads(), 1);
+
+    // The user was in another window, where a start-up file may have changed.
+    sandbox.writeFile(QStringLiteral(".zprofile"), counting + "export QF_EDITED=yes\n");
+    QWidget elsewhere;
+    elsewhere.show();
+    elsewhere.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&elsewhere));
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    view->loadData();
+    waitForLoad(*view);
+    EXPECT_EQ(startupReads(), 2);
+    EXPECT_EQ(services.runner.commandEnvironment().value(QStringLiteral("QF_EDITED")), QStringLiteral("yes"));
+}

@@ -448,25 +448,4 @@ TEST_F(AfterInstallTest, AFailedSaveStaysWithItsReasonUntilTheKeyChanges)
     EXPECT_FALSE(showsChild("saveErrorRow"));
 }
 
-TEST_F(AfterInstallTest, TheScreensFitTheSmallestWindowAndNameTheirControls)
-{
-    platform.terminalOpens = false;
-    const QSize smallest(MainWindow::minimumWidth, MainWindow::minimumHeight);
-    for (InstallationStep step : {InstallationStep::completion, InstallationStep::terminal, InstallationStep::apiKey}) {
-        open(step, CLITool::claudeCode, smallest);
-        if (step == InstallationStep::completion) {
-            click("commonCommandsHeader");
-            click("openInTerminalButton");
-        }
-        const std::string name = caseName(step).toStdString();
-        // Nothing is wider than the window: long commands wrap.
-        for (ui::ScrollView* scroll : screen()->findChildren<ui::ScrollView*>())
-            EXPECT_LE(scroll->content()->minimumSizeHint().width(), scroll->viewport()->width()) << name;
-        for (QWidget* control : test::focusableControls(screen())) {
-            EXPECT_FALSE(control->accessibleName().trimmed().isEmpty())
-                << name << ": " << control->metaObject()->className() << " " << control->objectName().toStdString();
-        }
-    }
-}
-
 } // namespace

@@ -466,32 +466,3 @@ TEST_F(InstallFlowTest, AnUnwritableLogFolderDoesNotStopTheInstallation)
     EXPECT_EQ(QGuiApplication::clipboard()->text(), state.installationOutput());
     EXPECT_FALSE(sandbox.exists(QStringLiteral("Library/Logs/Quillforge")));
 }
-
-TEST_F(InstallFlowTest, EveryScreenFitsTheSmallestWindowAndNamesItsControls)
-{
-    sandbox.installFakes({"git", "npm", "node"});
-    const QSize smallest(MainWindow::minimumWidth, MainWindow::minimumHeight);
-    const InstallationStep steps[] = {InstallationStep::welcome, InstallationStep::accountSetup,
-                                      InstallationStep::systemCheck, InstallationStep::installation};
-    for (InstallationStep flowStep : steps) {
-        open(flowStep, CLITool::codex, smallest);
-        if (flowStep == InstallationStep::systemCheck)
-            waitForCheck();
-        if (flowStep == InstallationStep::installation) {
-            waitForInstallation();
-            QTest::mouseClick(test::child<QWidget>(screen(), QStringLiteral("detailsButton")), Qt::LeftButton);
-        }
-        if (flowStep == InstallationStep::welcome)
-            test::child<QAbstractButton>(screen(), QStringLiteral("whatIsAIHeader"))->click();
-        test::settle();
-        // The bar stays whole at the bottom; the rest scrolls.
-        const QWidget* bar = test::child(screen(), QStringLiteral("bottomBar"));
-        EXPECT_EQ(bar->geometry().bottom(), screen()->rect().bottom()) << caseName(flowStep).toStdString();
-        EXPECT_GE(bar->height(), bar->sizeHint().height());
-        for (QWidget* control : test::focusableControls(screen())) {
-            EXPECT_FALSE(control->accessibleName().trimmed().isEmpty())
-                << caseName(flowStep).toStdString() << ": " << control->metaObject()->className() << " "
-                << control->objectName().toStdString();
-        }
-    }
-}

@@ -59,33 +59,19 @@ Elements elementsOf(OnboardingView& view)
 
 } // namespace
 
-TEST_F(OnboardingTest, ShowsTheIntroductionTexts)
+TEST_F(OnboardingTest, ShowsTheIntroductionsFeatures)
 {
     InstallationState state;
     OnboardingView view(state);
-
-    EXPECT_EQ(test::child<QLabel>(&view, QStringLiteral("onboardingTitle"))->text(),
-              QStringLiteral("Welcome to Quillforge"));
-    EXPECT_EQ(test::child<QLabel>(&view, QStringLiteral("onboardingSubtitle"))->text(),
-              QStringLiteral("Get started with AI-powered coding in minutes"));
-
     const QList<FeatureItem*> rows = view.findChildren<FeatureItem*>();
     ASSERT_EQ(rows.size(), 3);
-    EXPECT_EQ(rows[0]->title(), QStringLiteral("AI Coding Assistants"));
     for (FeatureItem* row : rows) {
         EXPECT_TRUE(ui::Symbol::exists(row->icon())) << row->icon().toStdString();
         EXPECT_EQ(test::child<QLabel>(row, QStringLiteral("featureTitle"))->text(), row->title());
         EXPECT_EQ(test::child<ui::Label>(row, QStringLiteral("featureDescription"))->maximumLines(), 2);
         EXPECT_FALSE(row->description().isEmpty());
-        EXPECT_EQ(row->shape().cornerRadius, 14);
         EXPECT_TRUE(row->shadow().has_value());
     }
-
-    auto* button = test::child<ui::Button>(&view, QStringLiteral("getStartedButton"));
-    EXPECT_EQ(button->title(), QStringLiteral("Get Started"));
-    EXPECT_EQ(button->trailingSymbol(), QStringLiteral("arrow.right"));
-    EXPECT_EQ(button->style(), ui::Button::Style::prominent);
-    EXPECT_EQ(button->controlSize(), ui::Button::Size::large);
 }
 
 TEST_F(OnboardingTest, EntranceAnimationMovesEveryElementFromOutToIn)
@@ -169,10 +155,6 @@ TEST_F(OnboardingTest, GetStartedMidAnimationStoresThePreferenceAndGoesHome)
     test::settle();
     EXPECT_EQ(window.contentView()->shownStep(), InstallationStep::home);
     EXPECT_EQ(window.contentView()->findChildren<OnboardingView*>().size(), 0);
-
-    // A later launch opens straight on Home.
-    InstallationState nextLaunch;
-    EXPECT_EQ(nextLaunch.currentStep(), InstallationStep::home);
 }
 
 TEST_F(OnboardingTest, ShortWindowsScrollTheContent)
@@ -209,18 +191,4 @@ TEST_F(OnboardingTest, ShortWindowsScrollTheContent)
     test::settle();
     EXPECT_EQ(scroll->verticalScrollBar()->maximum(), 0);
     EXPECT_LT(wrapped->height(), 2 * QFontMetrics(wrapped->font()).lineSpacing());
-}
-
-TEST_F(OnboardingTest, EveryControlHasAnAccessibleName)
-{
-    InstallationState state;
-    OnboardingView view(state);
-    const QList<QWidget*> controls = test::focusableControls(&view);
-    EXPECT_FALSE(controls.isEmpty());
-    for (QWidget* control : controls) {
-        if (qobject_cast<QScrollArea*>(control))
-            continue;
-        EXPECT_FALSE(control->accessibleName().isEmpty()) << control->metaObject()->className();
-        EXPECT_FALSE(control->objectName().isEmpty()) << control->metaObject()->className();
-    }
 }

@@ -1,22 +1,15 @@
-#include "FileDescriptor.h"
 #include "SingleInstance.h"
 
 #include <gtest/gtest.h>
 
 #include <QDeadlineTimer>
 #include <QFile>
+#include <QLocalSocket>
 #include <QProcess>
 #include <QTemporaryDir>
-#include <QThread>
 
-#include <cstring>
 #include <memory>
 #include <vector>
-
-#include <fcntl.h>
-#include <sys/socket.h>
-#include <sys/un.h>
-#include <unistd.h>
 
 using namespace qf;
 
@@ -134,22 +127,14 @@ TEST(SingleInstance, IdleConnectionsCannotCrowdOutALaunch)
     Launch first(folder.path(), 64);
     ASSERT_EQ(first.role(), QStringLiteral("first"));
     const SingleInstance paths(folder.path());
-    sockaddr_un address{};
-    address.sun_family = AF_UNIX;
-    const QByteArray socketPath = QFile::encodeName(paths.socketPath());
-    ASSERT_LT(size_t(socketPath.size()), sizeof address.sun_path);
-    std::memcpy(address.sun_path, socketPath.constData(), size_t(socketPath.size()));
-
-    std::vector<std::unique_ptr<FileDescriptor>> idle;
+    std::vector<std::unique_ptr<QLocalSocket>> idle;
     const QDeadlineTimer flooding(5000);
     while (idle.size() < 120 && !flooding.hasExpired()) {
-        auto socket = std::make_unique<FileDescriptor>(::socket(AF_UNIX, SOCK_STREAM, 0));
-        ASSERT_GE(socket->get(), 0);
-        ::fcntl(socket->get(), F_SETFL, O_NONBLOCK);
-        if (::connect(socket->get(), reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0)
+        auto socket = std::make_unique<QLocalSocket>();
+        socket->connectToServer(paths.socketPath());
+        // While the queue is full the connection waits for room.
+        if (socket->waitForConnected(int(flooding.remainingTime())))
             idle.push_back(std::move(socket));
-        else
-            QThread::msleep(5); // the queue is full for now
     }
     // The copy kept taking them (and closing the oldest): the queue never stayed full.
     EXPECT_EQ(idle.size(), 120u);

@@ -28,27 +28,10 @@ protected:
     }
     QByteArray profile(const QString& name = QStringLiteral(".zshrc")) const { return sandbox.readFile(name); }
 
-    // What `shell` (bash or zsh) sets the variable to when it sources the profile.
-    QByteArray sourced(const QString& shell, const QString& profileName, const QString& variable) const
+    // What `shell`, started with `arguments` in the sandbox's home without `variable`, prints
+    // on its standard output, and that it complains of nothing.
+    QByteArray printed(const QString& shell, const QStringList& arguments, const QString& variable) const
     {
-        QProcess process;
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QStringLiteral("HOME"), sandbox.home());
-        environment.remove(variable);
-        process.setProcessEnvironment(environment);
-        process.setWorkingDirectory(sandbox.home());
-        process.start(shell, {QStringLiteral("-c"),
-                              QStringLiteral(". \"$HOME/%1\"; printf %s \"$%2\"").arg(profileName, variable)});
-        EXPECT_TRUE(process.waitForFinished(10000));
-        return process.readAllStandardOutput();
-    }
-
-    // What a new terminal window's `shell` (fish or tcsh, started as the terminal starts it)
-    // has in the variable; nothing when the shell is not installed.
-    std::optional<QByteArray> terminalValue(const QString& shell, const QString& variable) const
-    {
-        if (!QFileInfo(shell).isExecutable())
-            return std::nullopt;
         QProcess process;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QStringLiteral("HOME"), sandbox.home());
@@ -57,13 +40,31 @@ protected:
         process.setProcessEnvironment(environment);
         process.setWorkingDirectory(sandbox.home());
         process.setStandardInputFile(QProcess::nullDevice());
-        const QString print = QStringLiteral("printenv ") + variable;
-        process.start(shell, shell.endsWith(QLatin1String("csh"))
-                                 ? QStringList{QStringLiteral("-c"), print}
-                                 : QStringList{QStringLiteral("-l"), QStringLiteral("-c"), print});
+        process.start(shell, arguments);
         EXPECT_TRUE(process.waitForFinished(10000));
         EXPECT_EQ(process.readAllStandardError(), QByteArray()) << shell.toStdString();
-        QByteArray value = process.readAllStandardOutput();
+        return process.readAllStandardOutput();
+    }
+
+    // What `shell` (bash or zsh) sets the variable to when it sources the profile.
+    QByteArray sourced(const QString& shell, const QString& profileName, const QString& variable) const
+    {
+        return printed(
+            shell,
+            {QStringLiteral("-c"), QStringLiteral(". \"$HOME/%1\"; printf %s \"$%2\"").arg(profileName, variable)},
+            variable);
+    }
+
+    // What a new terminal window's `shell` (fish or tcsh, started as the terminal starts it)
+    // has in the variable.
+    QByteArray terminalValue(const QString& shell, const QString& variable) const
+    {
+        const QString print = QStringLiteral("printenv ") + variable;
+        QByteArray value = printed(shell,
+                                   shell.endsWith(QLatin1String("csh"))
+                                       ? QStringList{QStringLiteral("-c"), print}
+                                       : QStringList{QStringLiteral("-l"), QStringLiteral("-c"), print},
+                                   variable);
         if (value.endsWith('\n'))
             value.chop(1);
         return value;

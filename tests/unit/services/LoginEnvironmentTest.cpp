@@ -3,8 +3,6 @@
 // cannot be read falls back to a login shell per command, and that values arrive byte for byte.
 #include "CoroTest.h"
 #include "DashboardLoad.h"
-#include "HomeView.h"
-#include "InstallationState.h"
 #include "LoginEnvironment.h"
 #include "StdoutCapture.h"
 #include "TestMachine.h"
@@ -13,7 +11,6 @@
 #include <QDir>
 #include <QFile>
 #include <QTest>
-#include <QVBoxLayout>
 
 #include <memory>
 
@@ -200,65 +197,6 @@ TEST_F(LoginEnvironmentTest, TwoLoadsAtOnceShareOneReading)
     EXPECT_EQ(startupReads(), 3);
 }
 
-TEST_F(LoginEnvironmentTest, TheDashboardReadsTheStartupFilesAgainAfterTheWindowWasInactive)
-{
-    sandbox.writeFile(QStringLiteral(".zprofile"), kCountingProfile);
-    // The dashboard inside a window, as in the application.
-    InstallationState state;
-    QWidget window;
-    auto* layout = new QVBoxLayout(&window);
-    auto* home = new HomeView(state, services);
-    layout->addWidget(home);
-    HomeView& view = *home;
-    window.show();
-    window.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-    const auto loaded = [&view] { return QTest::qWaitFor([&view] { return !view.isLoading(); }, 20000); };
-    ASSERT_TRUE(loaded());
-    EXPECT_EQ(startupReads(), 1);
-
-    // A reload while the window stayed in front uses what was read.
-    view.loadData();
-    ASSERT_TRUE(loaded());
-    EXPECT_EQ(startupReads(), 1);
-
-    // The user was in another window, where a start-up file may have changed.
-    sandbox.writeFile(QStringLiteral(".zprofile"), QByteArray(kCountingProfile) + "export QF_EDITED=yes\n");
-    QWidget elsewhere;
-    elsewhere.show();
-    elsewhere.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&elsewhere));
-    window.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-    view.loadData();
-    ASSERT_TRUE(loaded());
-    EXPECT_EQ(startupReads(), 2);
-    EXPECT_EQ(run(services.runner, QStringLiteral("printf %s \"$QF_EDITED\"")).value(), QStringLiteral("yes"));
-}
-
-TEST_F(LoginEnvironmentTest, ChattyStartupFilesNeverReachAnAnswer)
-{
-    for (const char* file : {".zshenv", ".zprofile", ".zlogin", ".profile"})
-        sandbox.writeFile(QString::fromLatin1(file), kChattyProfile);
-
-    // Read once from a zsh account and from a bash account.
-    for (const char* shell : {"/bin/zsh", "/bin/bash"}) {
-        SCOPED_TRACE(shell);
-        platform.terminalShell = QString::fromLatin1(shell);
-        services.runner.invalidateEnvironment();
-        expectExactAnswers(services.runner, services.detector);
-        expectFakesFound(load(services));
-        EXPECT_EQ(services.runner.environmentState().source, Source::loginShellOnce);
-    }
-
-    // A login shell for every command: the start-up files speak before each command.
-    SCOPED_TRACE("a login shell per command");
-    ShellRunner perCommand(sandbox.shellConfiguration());
-    SystemDetector detector(perCommand, platform);
-    expectExactAnswers(perCommand, detector);
-    EXPECT_EQ(perCommand.environmentState().source, Source::loginShellPerCommand);
-}
-
 TEST_F(LoginEnvironmentTest, StartupFilesThatHoldTheShellUpOrReplaceItFallBackWithCorrectAnswers)
 {
     struct Case {
@@ -296,32 +234,6 @@ TEST_F(LoginEnvironmentTest, StartupFilesThatHoldTheShellUpOrReplaceItFallBackWi
             EXPECT_LT(state.readingMs, 5000); // stopped, not waited for
         }
     }
-}
-
-TEST_F(LoginEnvironmentTest, ABashAccountsProfileSetsTheSearchPath)
-{
-    // Where a Linux user's terminal finds their own programs: ~/.profile of a bash account,
-    // which a zsh login shell would never read.
-    platform.terminalShell = QStringLiteral("/bin/bash");
-    sandbox.writeFile(QStringLiteral(".profile"), "PATH=\"$HOME/own/bin:$PATH\"\nexport GREETING=hello\n");
-    sandbox.writeFile(QStringLiteral("own/bin/mytool"), "#!/bin/sh\necho mine\n");
-    QFile::setPermissions(sandbox.path(QStringLiteral("own/bin/mytool")),
-                          QFileDevice::ReadOwner | QFileDevice::ExeOwner | QFileDevice::WriteOwner);
-
-    EXPECT_EQ(run(services.runner, QStringLiteral("command -v mytool")).value(),
-              sandbox.path(QStringLiteral("own/bin/mytool")));
-    EXPECT_EQ(run(services.runner, QStringLiteral("mytool; printf %s \"$GREETING\"")).value(),
-              QStringLiteral("mine\nhello"));
-    // The profile's order first, as in the user's terminal; the folders every command searches
-    // follow where it lacks them.
-    const QStringList path =
-        run(services.runner, QStringLiteral("printf %s \"$PATH\"")).value().split(QLatin1Char(':'));
-    ASSERT_GE(path.size(), 3);
-    EXPECT_EQ(path.at(0), sandbox.path(QStringLiteral("own/bin")));
-    EXPECT_EQ(path.count(sandbox.binDirectory()), 1);
-    EXPECT_EQ(path.last(), sandbox.binDirectory());
-    EXPECT_EQ(path.at(path.size() - 2), sandbox.path(QStringLiteral(".local/bin")));
-    EXPECT_TRUE(services.runner.environmentState().path.startsWith(sandbox.path(QStringLiteral("own/bin"))));
 }
 
 TEST_F(LoginEnvironmentTest, AVersionManagersNodeInZshrcWinsOverTheSystemsOne)
@@ -438,23 +350,6 @@ TEST_F(LoginEnvironmentTest, WithoutAReadingCommandsStartInTheAccountsOwnShellNo
     EXPECT_TRUE(services.runner.environmentState().reason.contains(QStringLiteral("bash")));
 }
 
-TEST_F(LoginEnvironmentTest, EveryShellHandsTheCommandOverIntact)
-{
-    // The account's shell reads the hand-over line: quotes, dollars, braces and a line break
-    // in the command reach zsh untouched, whichever shell it is.
-    const QString command = QStringLiteral("x='it'\"'\"'s'; printf '%s|%s\\n' \"$x\" '${HOME} {a,b} !1'\necho \"two\"");
-    for (const char* shell : {"/bin/zsh", "/bin/bash", "/bin/dash", "/usr/bin/fish", "/usr/bin/tcsh"}) {
-        SCOPED_TRACE(shell);
-        if (!QFileInfo::exists(QString::fromLatin1(shell)))
-            GTEST_SKIP() << shell << " is not installed";
-        platform.terminalShell = QString::fromLatin1(shell);
-        platform.loginShellEndsEarly = true; // no reading: a login shell per command
-        ShellRunner runner(sandbox.shellConfiguration(), &platform);
-        EXPECT_EQ(run(runner, command).value(), QStringLiteral("it's|${HOME} {a,b} !1\ntwo"));
-        EXPECT_EQ(runner.environmentState().source, Source::loginShellPerCommand);
-    }
-}
-
 TEST_F(LoginEnvironmentTest, ProgramsAreFoundWithoutAShellExactlyWhereWhichFindsThem)
 {
     // The profile's search path: a folder holding a plain file, a folder and an executable
@@ -488,20 +383,6 @@ TEST_F(LoginEnvironmentTest, ProgramsAreFoundWithoutAShellExactlyWhereWhichFinds
     EXPECT_EQ(await(services.runner.findProgram(QStringLiteral("node")))->value(),
               sandbox.binDirectory() + QStringLiteral("/node"));
     EXPECT_FALSE(await(services.runner.findProgram(QStringLiteral("first/mytool")))->ok());
-}
-
-TEST_F(LoginEnvironmentTest, AZshAccountsZshrcCountsAsATerminalsShellReadsIt)
-{
-    // Version managers put their lines in ~/.zshrc, which only an interactive zsh reads.
-    sandbox.writeFile(QStringLiteral(".zshrc"), QByteArray("PATH=\"$HOME/rc/bin:$PATH\"\n") + kCountingProfile);
-    sandbox.writeFile(QStringLiteral("rc/bin/fromrc"), "#!/bin/sh\necho rc\n");
-    QFile::setPermissions(sandbox.path(QStringLiteral("rc/bin/fromrc")),
-                          QFileDevice::ReadOwner | QFileDevice::ExeOwner);
-
-    EXPECT_EQ(await(services.runner.findProgram(QStringLiteral("fromrc")))->value(),
-              sandbox.path(QStringLiteral("rc/bin/fromrc")));
-    EXPECT_EQ(run(services.runner, QStringLiteral("fromrc")).value(), QStringLiteral("rc"));
-    EXPECT_EQ(startupReads(), 1);
 }
 
 TEST_F(LoginEnvironmentTest, OddValuesArriveByteForByte)
@@ -550,3 +431,78 @@ TEST_F(LoginEnvironmentTest, AnInstallationWhosePrerequisitesAreMetReadsTheStart
     EXPECT_LE(startupReads(), 2) << log.toStdString();
     EXPECT_GE(startupReads(), 1);
 }
+
+// An account's shell and the start-up file of its own that a new terminal window reads.
+struct AccountShell {
+    const char* shell;
+    const char* startupFile;
+    // Puts $HOME/own/bin first on the search path (and exports GREETING), in the shell's words.
+    const char* ownPath;
+    // Whether the environment is read from it once; the others start a login shell per command.
+    bool readOnce;
+};
+
+class EveryShell : public LoginEnvironmentTest, public ::testing::WithParamInterface<AccountShell> {};
+
+TEST_P(EveryShell, TheAccountsStartupFilesSetTheSearchPathAndNeverReachAnAnswer)
+{
+    const AccountShell account = GetParam();
+    if (!QFileInfo::exists(QString::fromLatin1(account.shell)))
+        GTEST_SKIP() << account.shell << " is not installed";
+    platform.terminalShell = QString::fromLatin1(account.shell);
+    // Chatty start-up files everywhere; the account's own one also counts its readings.
+    for (const char* file : {".zshenv", ".zprofile", ".zlogin", ".profile"})
+        sandbox.writeFile(QString::fromLatin1(file), kChattyProfile);
+    sandbox.writeFile(QString::fromLatin1(account.startupFile),
+                      QByteArray(kChattyProfile) + account.ownPath + "\n" + kCountingProfile);
+    ASSERT_TRUE(test::writeExecutable(sandbox.path(QStringLiteral("own/bin/mytool")), "#!/bin/sh\necho mine\n"));
+
+    // A login shell per command, whichever shell it is: the account's shell reads the hand-over
+    // line, and quotes, dollars, braces and a line break in the command reach zsh untouched.
+    platform.loginShellEndsEarly = true;
+    {
+        ShellRunner perCommand(sandbox.shellConfiguration(), &platform);
+        SystemDetector detector(perCommand, platform);
+        const QString command =
+            QStringLiteral("x='it'\"'\"'s'; printf '%s|%s\\n' \"$x\" '${HOME} {a,b} !1'\necho \"two\"");
+        EXPECT_EQ(run(perCommand, command).value(), QStringLiteral("it's|${HOME} {a,b} !1\ntwo"));
+        EXPECT_EQ(perCommand.environmentState().source, Source::loginShellPerCommand);
+        expectExactAnswers(perCommand, detector);
+    }
+    if (!account.readOnce)
+        return;
+
+    platform.loginShellEndsEarly = false;
+    const int readsBefore = startupReads();
+    ShellRunner runner(sandbox.shellConfiguration(), &platform);
+    SystemDetector detector(runner, platform);
+    expectExactAnswers(runner, detector);
+    EXPECT_EQ(runner.environmentState().source, Source::loginShellOnce);
+    // Read once, the user's own programs are found, by name and run, as in the user's terminal.
+    EXPECT_EQ(startupReads(), readsBefore + 1);
+    EXPECT_EQ(await(runner.findProgram(QStringLiteral("mytool")))->value(),
+              sandbox.path(QStringLiteral("own/bin/mytool")));
+    EXPECT_EQ(run(runner, QStringLiteral("mytool; printf %s \"$GREETING\"")).value(), QStringLiteral("mine\nhello"));
+    // The profile's order first; the folders every command searches follow where it lacks them.
+    const QStringList path = run(runner, QStringLiteral("printf %s \"$PATH\"")).value().split(QLatin1Char(':'));
+    ASSERT_GE(path.size(), 3);
+    EXPECT_EQ(path.at(0), sandbox.path(QStringLiteral("own/bin")));
+    EXPECT_EQ(path.count(sandbox.binDirectory()), 1);
+    EXPECT_EQ(path.last(), sandbox.binDirectory());
+    EXPECT_EQ(path.at(path.size() - 2), sandbox.path(QStringLiteral(".local/bin")));
+    expectFakesFound(load(services));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    LoginEnvironment, EveryShell,
+    ::testing::Values(
+        // A zsh account's ~/.zshrc counts, though only an interactive zsh reads it; a Linux bash
+        // user's search path is in ~/.profile, which a zsh login shell would never read.
+        AccountShell{"/bin/zsh", ".zshrc", "export PATH=\"$HOME/own/bin:$PATH\" GREETING=hello", true},
+        AccountShell{"/bin/bash", ".profile", "export PATH=\"$HOME/own/bin:$PATH\" GREETING=hello", true},
+        AccountShell{"/bin/dash", ".profile", "export PATH=\"$HOME/own/bin:$PATH\"", false},
+        AccountShell{"/usr/bin/fish", ".config/fish/config.fish", "set -gx PATH $HOME/own/bin $PATH", false},
+        AccountShell{"/usr/bin/tcsh", ".tcshrc", "setenv PATH \"$HOME/own/bin:$PATH\"", false}),
+    [](const ::testing::TestParamInfo<AccountShell>& info) {
+        return QFileInfo(QString::fromLatin1(info.param.shell)).fileName().toStdString();
+    });

@@ -1,8 +1,10 @@
 #include "CoroTest.h"
 #include "NodeInstaller.h"
+#include "NodeReleaseFixture.h"
 #include "SmallDisk.h"
 #include "StagedInstall.h"
 #include "TestMachine.h"
+#include "TestSupport.h"
 
 #include <QCryptographicHash>
 #include <QDateTime>
@@ -27,27 +29,6 @@ using qf::test::SmallDisk;
 
 namespace {
 
-void writeFile(const QString& path, const QByteArray& bytes, bool executable = false)
-{
-    QDir().mkpath(QFileInfo(path).absolutePath());
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate)) << path.toStdString();
-    ASSERT_EQ(file.write(bytes), bytes.size());
-    file.close();
-    QFile::Permissions permissions = QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ReadGroup |
-                                     QFileDevice::ReadOther;
-    if (executable)
-        permissions |= QFileDevice::ExeOwner | QFileDevice::ExeGroup | QFileDevice::ExeOther;
-    ASSERT_TRUE(QFile::setPermissions(path, permissions));
-}
-
-void makeLink(const QString& target, const QString& link)
-{
-    QDir().mkpath(QFileInfo(link).absolutePath());
-    ASSERT_EQ(::symlink(QFile::encodeName(target).constData(), QFile::encodeName(link).constData()), 0)
-        << link.toStdString();
-}
-
 // A link's own target, as written; empty for anything that is no link.
 std::string linkTarget(const QString& path)
 {
@@ -65,20 +46,20 @@ void writeNodeTree(const QString& root, const QString& version, qsizetype paddin
     QByteArray node = "#!/bin/sh\necho " + v + "\n";
     if (padding > 0)
         node += "# " + QByteArray(padding, 'x') + "\n";
-    writeFile(root + QStringLiteral("/bin/node"), node, true);
+    EXPECT_TRUE(test::writeExecutable(root + QStringLiteral("/bin/node"), node));
     const QString npm = root + QStringLiteral("/lib/node_modules/npm");
-    writeFile(npm + QStringLiteral("/bin/npm-cli.js"), "#!/bin/sh\necho npm " + v + "\n", true);
-    writeFile(npm + QStringLiteral("/bin/npx-cli.js"), "#!/bin/sh\necho npx " + v + "\n", true);
-    writeFile(npm + QStringLiteral("/package.json"), "{\"version\":\"" + v + "\"}\n");
-    makeLink(QStringLiteral("../lib/node_modules/npm/bin/npm-cli.js"), root + QStringLiteral("/bin/npm"));
-    makeLink(QStringLiteral("../lib/node_modules/npm/bin/npx-cli.js"), root + QStringLiteral("/bin/npx"));
-    writeFile(root + QStringLiteral("/include/node/node.h"), "// Node.js " + v + "\n");
-    writeFile(root + QStringLiteral("/share/man/man1/node.1"), ".TH NODE 1 " + v + "\n");
+    EXPECT_TRUE(test::writeExecutable(npm + QStringLiteral("/bin/npm-cli.js"), "#!/bin/sh\necho npm " + v + "\n"));
+    EXPECT_TRUE(test::writeExecutable(npm + QStringLiteral("/bin/npx-cli.js"), "#!/bin/sh\necho npx " + v + "\n"));
+    test::writeFile(npm + QStringLiteral("/package.json"), "{\"version\":\"" + v + "\"}\n");
+    test::makeLink(QStringLiteral("../lib/node_modules/npm/bin/npm-cli.js"), root + QStringLiteral("/bin/npm"));
+    test::makeLink(QStringLiteral("../lib/node_modules/npm/bin/npx-cli.js"), root + QStringLiteral("/bin/npx"));
+    test::writeFile(root + QStringLiteral("/include/node/node.h"), "// Node.js " + v + "\n");
+    test::writeFile(root + QStringLiteral("/share/man/man1/node.1"), ".TH NODE 1 " + v + "\n");
     if (corepack) {
-        writeFile(root + QStringLiteral("/lib/node_modules/corepack/dist/corepack.js"), "#!/bin/sh\necho corepack\n",
-                  true);
-        makeLink(QStringLiteral("../lib/node_modules/corepack/dist/corepack.js"),
-                 root + QStringLiteral("/bin/corepack"));
+        EXPECT_TRUE(test::writeExecutable(root + QStringLiteral("/lib/node_modules/corepack/dist/corepack.js"),
+                                          "#!/bin/sh\necho corepack\n"));
+        test::makeLink(QStringLiteral("../lib/node_modules/corepack/dist/corepack.js"),
+                       root + QStringLiteral("/bin/corepack"));
     }
 }
 
@@ -155,31 +136,13 @@ protected:
     StagedInstallTest() { sandbox.installFake(QStringLiteral("curl")); }
 
     // Publishes release `version` (its node `padding` bytes longer) as nodejs.org does, in the
-    // sandbox, as the only LTS release, and points the installer at it.
+    // sandbox, as the newest LTS release, and points the installer at it.
     void publish(const QString& version, qsizetype padding = 0)
     {
-        const QString dist = sandbox.stateDirectory() + QStringLiteral("/dist");
-        const QString folder = QStringLiteral("node-") + version + QStringLiteral("-linux-x64");
-        const QString release = sandbox.stateDirectory() + QStringLiteral("/release/") + folder;
-        QDir(release).removeRecursively();
-        writeNodeTree(release, version, padding);
-        for (const char* loose : {"/CHANGELOG.md", "/LICENSE", "/README.md"})
-            writeFile(release + QLatin1String(loose), "text\n");
-        const QString archive = dist + QLatin1Char('/') + version + QLatin1Char('/') + folder +
-                                QStringLiteral(".tar.gz");
-        QDir().mkpath(QFileInfo(archive).absolutePath());
-        QProcess tar;
-        tar.setWorkingDirectory(QFileInfo(release).absolutePath());
-        tar.start(QStringLiteral("tar"), {QStringLiteral("-czf"), archive, folder});
-        ASSERT_TRUE(tar.waitForFinished(10000) && tar.exitCode() == 0) << tar.readAllStandardError().constData();
-        QFile file(archive);
-        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-        const QByteArray sum = QCryptographicHash::hash(file.readAll(), QCryptographicHash::Sha256).toHex();
-        writeFile(dist + QLatin1Char('/') + version + QStringLiteral("/SHASUMS256.txt"),
-                  sum + "  " + folder.toUtf8() + ".tar.gz\n");
-        writeFile(dist + QStringLiteral("/index.json"),
-                  R"([{"version":")" + version.toUtf8() + R"(","files":["linux-x64"],"lts":"Jod"}])");
-        installer.setDistribution(QStringLiteral("file://") + dist);
+        installer.setDistribution(test::publishNodeRelease(
+            sandbox.stateDirectory() + QStringLiteral("/dist"), version, QStringLiteral("linux-x64"),
+            QStringLiteral("tar"), QByteArray(),
+            [padding](const QString& root, const QString& release) { writeNodeTree(root, release, padding); }));
     }
 
     // Installs the published release; the error's text when it fails, empty when it worked.
@@ -204,8 +167,8 @@ protected:
 TEST_F(StagedInstallTest, ALinkedProgramFolderStaysALinkAndReceivesNode)
 {
     // A dotfiles manager links ~/.local/bin to a folder of the user's own scripts.
-    writeFile(home(QStringLiteral("dotfiles/bin/hello")), "#!/bin/sh\necho hello\n", true);
-    makeLink(QStringLiteral("../dotfiles/bin"), home(QStringLiteral(".local/bin")));
+    ASSERT_TRUE(test::writeExecutable(home(QStringLiteral("dotfiles/bin/hello")), "#!/bin/sh\necho hello\n"));
+    test::makeLink(QStringLiteral("../dotfiles/bin"), home(QStringLiteral(".local/bin")));
 
     publish(QStringLiteral("v22.11.0"));
     ASSERT_EQ(install(), "") << log.toStdString();
@@ -236,7 +199,7 @@ TEST_F(StagedInstallTest, ALinkToAFolderNotYetThereGetsThatFolder)
     // ~/.local/bin links to a folder that does not exist yet, nor its parent.
     {
         SCOPED_TRACE("dangling ~/.local/bin");
-        makeLink(QStringLiteral("../dotfiles/bin"), home(QStringLiteral(".local/bin")));
+        test::makeLink(QStringLiteral("../dotfiles/bin"), home(QStringLiteral(".local/bin")));
         ASSERT_EQ(install(), "") << log.toStdString();
         EXPECT_EQ(linkTarget(home(QStringLiteral(".local/bin"))), "../dotfiles/bin");
         EXPECT_EQ(runProgram(home(QStringLiteral("dotfiles/bin/node"))), "v22.11.0");
@@ -248,7 +211,7 @@ TEST_F(StagedInstallTest, ALinkToAFolderNotYetThereGetsThatFolder)
     // ~/.local itself, with an absolute link.
     {
         SCOPED_TRACE("dangling ~/.local");
-        makeLink(home(QStringLiteral("dotfiles/local")), home(QStringLiteral(".local")));
+        test::makeLink(home(QStringLiteral("dotfiles/local")), home(QStringLiteral(".local")));
         ASSERT_EQ(install(), "") << log.toStdString();
         EXPECT_EQ(linkTarget(home(QStringLiteral(".local"))), home(QStringLiteral("dotfiles/local")).toStdString());
         EXPECT_EQ(runProgram(home(QStringLiteral("dotfiles/local/bin/node"))), "v22.11.0");
@@ -296,15 +259,16 @@ TEST_F(StagedInstallTest, AFailureAnywherePutsEverythingBack)
         SCOPED_TRACE(c.name);
         const QString root = home(QStringLiteral("case-%1").arg(++number));
         const QString local = root + QStringLiteral("/.local");
-        if (!c.binLinkDangles)
-            writeFile(root + QStringLiteral("/dotfiles/bin/hello"), "#!/bin/sh\necho hello\n", true);
-        makeLink(QStringLiteral("../dotfiles/bin"), local + QStringLiteral("/bin"));
+        if (!c.binLinkDangles) {
+            ASSERT_TRUE(test::writeExecutable(root + QStringLiteral("/dotfiles/bin/hello"), "#!/bin/sh\necho hello\n"));
+        }
+        test::makeLink(QStringLiteral("../dotfiles/bin"), local + QStringLiteral("/bin"));
         if (c.earlierRelease) {
             ASSERT_EQ(installTree(local, QStringLiteral("v20.19.5")), "");
         }
         const QString blocker = local + QLatin1Char('/') + c.blocker;
         QFile::remove(blocker);
-        writeFile(blocker + QStringLiteral("/notes.txt"), "mine\n");
+        test::writeFile(blocker + QStringLiteral("/notes.txt"), "mine\n");
         const std::map<std::string, std::string> before = snapshot(root);
 
         EXPECT_EQ(installTree(local, QStringLiteral("v22.11.0"), 0, true),
@@ -323,7 +287,7 @@ TEST_F(StagedInstallTest, AFailureAnywherePutsEverythingBack)
 
     // A file where ~/.local belongs: refused, with nothing made.
     const QString root = home(QStringLiteral("case-file"));
-    writeFile(root + QStringLiteral("/.local"), "not a folder\n");
+    test::writeFile(root + QStringLiteral("/.local"), "not a folder\n");
     EXPECT_EQ(installTree(root + QStringLiteral("/.local"), QStringLiteral("v22.11.0")),
               "Could not make the folder " + root.toStdString() + "/.local: Not a directory");
     EXPECT_EQ(entriesOf(root), std::vector<std::string>{".local"});
@@ -334,9 +298,9 @@ TEST_F(StagedInstallTest, AFolderLinkedToAnotherDiskGetsCopiesAndAFullOneNothing
     const SmallDisk disk(home(QStringLiteral("disk")), "256k");
     if (!disk.mounted())
         GTEST_SKIP() << "a small tmpfs cannot be mounted here (needs root and tmpfs): the other-disk case is not run";
-    writeFile(home(QStringLiteral("disk/bin/hello")), "#!/bin/sh\necho hello\n", true);
+    ASSERT_TRUE(test::writeExecutable(home(QStringLiteral("disk/bin/hello")), "#!/bin/sh\necho hello\n"));
     const QString local = home(QStringLiteral(".local"));
-    makeLink(QStringLiteral("../disk/bin"), local + QStringLiteral("/bin"));
+    test::makeLink(QStringLiteral("../disk/bin"), local + QStringLiteral("/bin"));
 
     // No rename reaches the other disk: node is copied there, whole and runnable.
     ASSERT_EQ(installTree(local, QStringLiteral("v20.19.5")), "");
@@ -363,7 +327,7 @@ TEST(StagedInstallLeftovers, WhatAStoppedRunLeftGoesAndNothingElse)
     const qint64 now = QDateTime::currentSecsSinceEpoch();
     // Folders as a killed run leaves them: last changed an hour ago.
     const auto leftover = [now](const QString& folder) {
-        writeFile(folder + QStringLiteral("/bin/node"), "#!/bin/sh\n", true);
+        ASSERT_TRUE(test::writeExecutable(folder + QStringLiteral("/bin/node"), "#!/bin/sh\n"));
         const QByteArray path = QFile::encodeName(folder);
         const struct timeval times[2] = {{static_cast<time_t>(now - 3600), 0}, {static_cast<time_t>(now - 3600), 0}};
         ASSERT_EQ(::lutimes(path.constData(), times), 0);
@@ -378,13 +342,13 @@ TEST(StagedInstallLeftovers, WhatAStoppedRunLeftGoesAndNothingElse)
         leftover(folder);
     // What stays: the user's own files, a folder of ours too deep to be one, one of a run under
     // way (changed just now), a link with our name, and (for root) another account's folder.
-    writeFile(local + QStringLiteral("/bin/node"), "#!/bin/sh\n", true);
+    ASSERT_TRUE(test::writeExecutable(local + QStringLiteral("/bin/node"), "#!/bin/sh\n"));
     leftover(local + QStringLiteral("/a/b/c/.quillforge-staging-deep"));
     leftover(temporary + QStringLiteral("/quillforge-environment-busy"));
     ASSERT_EQ(
         ::utime(QFile::encodeName(temporary + QStringLiteral("/quillforge-environment-busy")).constData(), nullptr), 0);
     leftover(root.filePath(QStringLiteral("elsewhere")));
-    makeLink(root.filePath(QStringLiteral("elsewhere")), temporary + QStringLiteral("/quillforge-node-link"));
+    test::makeLink(root.filePath(QStringLiteral("elsewhere")), temporary + QStringLiteral("/quillforge-node-link"));
     QStringList kept = {local + QStringLiteral("/bin/node"), local + QStringLiteral("/a/b/c/.quillforge-staging-deep"),
                         temporary + QStringLiteral("/quillforge-environment-busy"),
                         root.filePath(QStringLiteral("elsewhere/bin/node"))};

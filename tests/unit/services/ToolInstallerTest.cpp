@@ -87,18 +87,6 @@ TEST_F(ToolInstallerTest, GeminiWithARecentNodeSkipsTheNodeStep)
     EXPECT_TRUE(run.log.endsWith(QStringLiteral("\nGemini CLI 1.0.42 (gemini) installed successfully!\n")));
 }
 
-TEST_F(ToolInstallerTest, MissingGitStopsEverything)
-{
-    sandbox.installFakes({"npm", "node"});
-    const SetupRun run = runSetup(CLITool::geminiCLI);
-    EXPECT_EQ(run.error(), QStringLiteral("Git is required but not found. Please install Xcode Command Line Tools by "
-                                          "running: xcode-select --install"));
-    EXPECT_EQ(run.reports.last(),
-              (Report{SetupStepType::checkGit, SetupStepStatus::failure(QStringLiteral("Not found")), std::nullopt}));
-    EXPECT_TRUE(run.log.endsWith(QStringLiteral("Git not found. Please install Xcode Command Line Tools.\n")));
-    EXPECT_FALSE(QFile::exists(sandbox.stateDirectory() + QStringLiteral("/npm.log")));
-}
-
 TEST_F(ToolInstallerTest, ToolInstallAndVerificationFailures)
 {
     sandbox.installFakes({"git", "node", "npm"});

@@ -1,0 +1,649 @@
+// Every screen of the application, once in a large window and once in the smallest one, with
+// everything a person relies on checked at each stop: the keyboard's way through it, that every
+// text stands out from what is behind it, that the content keeps to its column and that every
+// control has a name.
+#include "FlowWindowTest.h"
+
+#include "Badge.h"
+#include "Button.h"
+#include "FocusRing.h"
+#include "HomeView.h"
+#include "IconTile.h"
+#include "Label.h"
+#include "Layout.h"
+#include "Preferences.h"
+#include "RoundedCard.h"
+#include "SystemCheckView.h"
+#include "Theme.h"
+#include "ToolCards.h"
+#include "UninstallSheets.h"
+#include "WelcomeView.h"
+
+#include <QAbstractButton>
+#include <QAccessible>
+#include <QHash>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QTest>
+
+#include <functional>
+
+using namespace qf;
+
+namespace {
+
+QRect inWindow(const QWidget* widget) { return {widget->mapTo(widget->window(), QPoint(0, 0)), widget->size()}; }
+
+std::string describe(const QWidget* widget)
+{
+    return QStringLiteral("%1 %2 \"%3\"")
+        .arg(QString::fromLatin1(widget->metaObject()->className()), widget->objectName(), widget->accessibleName())
+        .toStdString();
+}
+
+// How many pixels near `area` changed between two pictures by at least the contrast a focus
+// indicator needs. Near: where a ring around the control's box (a text view's) would be.
+int strongChanges(const QImage& before, const QImage& after, const QRect& area)
+{
+    const QRect near = area.adjusted(-20, -20, 20, 20).intersected(before.rect());
+    int changed = 0;
+    for (int y = near.top(); y <= near.bottom(); ++y) {
+        for (int x = near.left(); x <= near.right(); ++x)
+            changed += ui::Theme::contrastRatio(before.pixelColor(x, y), after.pixelColor(x, y)) >=
+                       ui::Theme::nonTextContrast;
+    }
+    return changed;
+}
+
+// Whether `next` may come after `previous` when reading: further down, or on the same line
+// further along.
+bool readsAfter(const QRect& previous, const QRect& next)
+{
+    const bool sameLine = next.top() <= previous.bottom() && previous.top() <= next.bottom();
+    return sameLine ? next.left() > previous.left() : next.top() > previous.bottom();
+}
+
+// What Tab visits, starting from the focus: every control once, until it comes round again.
+QList<QWidget*> tabRound()
+{
+    QWidget* start = QApplication::focusWidget();
+    QList<QWidget*> stops{start};
+    for (int i = 0; i < 80 && start; ++i) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        test::settle();
+        QWidget* now = QApplication::focusWidget();
+        if (!now || now == start || stops.contains(now))
+            break;
+        stops << now;
+    }
+    return stops;
+}
+
+// Every stop of `window`: each one reached and each a named control a person can hit; where
+// nothing scrolls (so places and pictures compare), each showing where the focus is, and all
+// in reading order.
+void sweep(QWidget* window, bool nothingScrolls = true)
+{
+    QWidget* start = QApplication::focusWidget();
+    ASSERT_NE(start, nullptr);
+    const QList<QWidget*> stops = tabRound();
+    ASSERT_EQ(QApplication::focusWidget(), start) << "Tab does not come round to where it began";
+
+    // Every control that shows is reached, and nothing else is.
+    for (QWidget* control : test::focusableControls(window)) {
+        if (control->isVisible() && control->isEnabled()) {
+            EXPECT_TRUE(stops.contains(control)) << "never reached: " << describe(control);
+        }
+    }
+
+    // A stop is a control with a name, at least 24 by 24 points.
+    for (QWidget* stop : stops) {
+        QAccessibleInterface* readable = QAccessible::queryAccessibleInterface(stop);
+        ASSERT_NE(readable, nullptr);
+        const QAccessible::Role role = readable->role();
+        EXPECT_TRUE(role == QAccessible::PushButton || role == QAccessible::RadioButton ||
+                    role == QAccessible::CheckBox || role == QAccessible::EditableText)
+            << describe(stop) << " is role " << role;
+        EXPECT_FALSE(readable->text(QAccessible::Name).trimmed().isEmpty()) << describe(stop);
+        EXPECT_GE(stop->width(), ui::Button::minimumTarget) << describe(stop);
+        EXPECT_GE(stop->height(), ui::Button::minimumTarget) << describe(stop);
+    }
+
+    if (!nothingScrolls)
+        return;
+
+    // Top to bottom and along each line; the bottom bar, lowest, comes last. Tab goes round,
+    // so the round is read from its first stop on the page.
+    QList<QRect> places;
+    for (QWidget* stop : stops)
+        places << inWindow(stop);
+    qsizetype first = 0;
+    for (qsizetype i = 1; i < places.size(); ++i) {
+        if (readsAfter(places[i], places[first]))
+            first = i;
+    }
+    for (qsizetype i = 1; i < stops.size(); ++i) {
+        const qsizetype previous = (first + i - 1) % stops.size();
+        const qsizetype next = (first + i) % stops.size();
+        EXPECT_TRUE(readsAfter(places[previous], places[next]))
+            << describe(stops[next]) << " at (" << places[next].x() << ", " << places[next].y() << ") follows "
+            << describe(stops[previous]) << " at (" << places[previous].x() << ", " << places[previous].y() << ")";
+    }
+
+    // Each stop shows that it has the focus: a ring standing 3:1 from what was there before,
+    // at least all the way round the control.
+    QList<QImage> focused;
+    for (QWidget* stop : stops) {
+        EXPECT_EQ(QApplication::focusWidget(), stop);
+        focused << window->grab().toImage();
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        test::settle();
+    }
+    start->clearFocus();
+    test::settle();
+    const QImage unfocused = window->grab().toImage();
+    for (qsizetype i = 0; i < stops.size(); ++i) {
+        const QRect area = inWindow(stops[i]);
+        EXPECT_GE(strongChanges(unfocused, focused[i], area), 2 * (area.width() + area.height()))
+            << "no focus indicator on " << describe(stops[i]);
+    }
+    start->setFocus(Qt::OtherFocusReason);
+    test::settle();
+}
+
+// A text as it is drawn: the widget, the colour its letters are written in and how large they are.
+struct DrawnText {
+    const QWidget* widget;
+    QString text;
+    QColor color;
+    int pixelSize;
+};
+
+QList<DrawnText> textsIn(const QWidget* window)
+{
+    QList<DrawnText> texts;
+    for (QWidget* widget : window->findChildren<QWidget*>()) {
+        if (!widget->isVisible() || widget->visibleRegion().isEmpty())
+            continue;
+        if (auto* label = qobject_cast<ui::Label*>(widget); label && !label->text().isEmpty()) {
+            texts << DrawnText{label, label->text(), label->palette().color(QPalette::WindowText),
+                               label->font().pixelSize()};
+        } else if (auto* badge = qobject_cast<ui::Badge*>(widget); badge && !badge->text().isEmpty()) {
+            texts << DrawnText{badge, badge->text(), badge->textColor(), 10};
+        } else if (auto* tile = qobject_cast<ui::IconTile*>(widget); tile && !tile->text().isEmpty()) {
+            texts << DrawnText{tile, tile->text(), tile->textColor(), 13};
+        } else if (auto* button = qobject_cast<ui::Button*>(widget);
+                   button && !button->title().isEmpty() && button->isEnabled() && !button->showsActivity()) {
+            texts << DrawnText{button, button->title(), button->contentColor(), 13};
+        } else if (auto* log = qobject_cast<QPlainTextEdit*>(widget); log && !log->toPlainText().isEmpty()) {
+            texts << DrawnText{log, log->toPlainText().left(40), log->palette().color(QPalette::Text),
+                               log->font().pixelSize()};
+        } else if (auto* field = qobject_cast<QLineEdit*>(widget)) {
+            const bool empty = field->text().isEmpty();
+            texts << DrawnText{field, empty ? field->placeholderText() : field->text(),
+                               field->palette().color(empty ? QPalette::PlaceholderText : QPalette::Text),
+                               field->font().pixelSize()};
+        }
+    }
+    return texts;
+}
+
+// What lies behind a text: the colour most of the part of its box that shows.
+QColor backgroundOf(const QImage& picture, const QWidget* widget)
+{
+    const QRect shown = widget->visibleRegion().boundingRect();
+    const QRect box = QRect(widget->mapTo(widget->window(), shown.topLeft()), shown.size()).intersected(picture.rect());
+    QHash<QRgb, int> counts;
+    for (int y = box.top(); y <= box.bottom(); ++y) {
+        for (int x = box.left(); x <= box.right(); ++x)
+            ++counts[picture.pixel(x, y)];
+    }
+    QRgb most = 0;
+    int best = -1;
+    for (auto it = counts.cbegin(); it != counts.cend(); ++it) {
+        if (it.value() > best) {
+            best = it.value();
+            most = it.key();
+        }
+    }
+    return QColor::fromRgb(most);
+}
+
+// Every text shown in `window` stands out from what is behind it: 4.5:1 below 18 points, 3:1 above.
+void expectReadable(QWidget* window)
+{
+    if (QWidget* focus = window->focusWidget())
+        focus->clearFocus(); // the focus ring is no background
+    test::settle();
+    const QImage picture = window->grab().toImage();
+    const QList<DrawnText> texts = textsIn(window);
+    EXPECT_FALSE(texts.isEmpty());
+    for (const DrawnText& text : texts) {
+        const QColor behind = backgroundOf(picture, text.widget);
+        const qreal needed = text.pixelSize >= 18 ? ui::Theme::largeTextContrast : ui::Theme::smallTextContrast;
+        EXPECT_GE(ui::Theme::contrastRatio(text.color, behind), needed)
+            << text.widget->objectName().toStdString() << " \"" << text.text.toStdString() << "\" in "
+            << text.color.name(QColor::HexArgb).toStdString() << " on " << behind.name().toStdString();
+    }
+}
+
+// The light appearance, then the dark one, with the window re-coloured in between.
+template <typename Check>
+void inBothAppearances(Check&& check)
+{
+    const QPalette saved = QApplication::palette();
+    for (const bool dark : {false, true}) {
+        SCOPED_TRACE(dark ? "dark" : "light");
+        QApplication::setPalette(dark ? ui::Theme::darkPalette() : ui::Theme::lightPalette());
+        test::settle();
+        check();
+    }
+    QApplication::setPalette(saved);
+    test::settle();
+}
+
+// One screen in one of its states, as a person meets it.
+struct ScreenVisit {
+    const char* name;
+    // Brings the window there.
+    std::function<void()> arrive;
+    // The control the focus starts on.
+    const char* mainControl;
+};
+
+constexpr int kVisits = 14;
+// Large enough that nothing scrolls and wider than the content column; and the smallest window.
+const QSize kLarge(1440, 1700);
+const QSize kSmallest(MainWindow::minimumWidth, MainWindow::minimumHeight);
+
+// Every screen of the application in the states that show the most, on a machine of its own
+// for each visit.
+class ScreenTour : public test::FlowWindowTest, public ::testing::WithParamInterface<std::tuple<int, bool>> {
+public:
+    static std::string visitName(const ::testing::TestParamInfo<std::tuple<int, bool>>& info)
+    {
+        static const char* const names[kVisits] = {"Onboarding",           "FirstDashboard",
+                                                   "DashboardWithTools",   "ToolChoice",
+                                                   "ToolChosen",           "Account",
+                                                   "CheckWithNodeToCome",  "CheckWithTooLittleSpace",
+                                                   "CheckFindsTheTool",    "InstallationFailed",
+                                                   "InstallationComplete", "APIKey",
+                                                   "ReadyWithoutWindow",   "TerminalWithoutWindow"};
+        return std::string(names[std::get<0>(info.param)]) + (std::get<1>(info.param) ? "Smallest" : "Large");
+    }
+
+protected:
+    QSize size() const { return std::get<1>(GetParam()) ? kSmallest : kLarge; }
+    void visit(InstallationStep step, std::optional<CLITool> tool) { open(step, tool, size()); }
+    void press(const char* name)
+    {
+        auto* target = test::child<QAbstractButton>(screen(), QLatin1String(name));
+        ASSERT_TRUE(target);
+        target->click();
+        test::settle();
+    }
+    void waitForDashboard() const
+    {
+        auto* home = screenAs<HomeView>();
+        ASSERT_TRUE(QTest::qWaitFor([home] { return !home->isLoading(); }, 20000));
+        test::settle();
+    }
+
+    QList<ScreenVisit> tour()
+    {
+        return {
+            {"onboarding",
+             [this] {
+                 Preferences::setHasCompletedOnboarding(false);
+                 visit(InstallationStep::onboarding, std::nullopt);
+             },
+             "getStartedButton"},
+            {"dashboard on a first visit",
+             [this] {
+                 visit(InstallationStep::home, std::nullopt);
+                 waitForDashboard();
+             },
+             "actionButton"},
+            {"dashboard with tools",
+             [this] {
+                 sandbox.installFakes({"claude", "brew", "node"});
+                 visit(InstallationStep::home, std::nullopt);
+                 waitForDashboard();
+             },
+             "actionButton"},
+            {"tool choice", [this] { visit(InstallationStep::welcome, std::nullopt); }, "toolCard.claudeCode"},
+            {"tool chosen, explainer open",
+             [this] {
+                 visit(InstallationStep::welcome, CLITool::codex);
+                 press("whatIsAIHeader");
+             },
+             "toolCard.codex"},
+            {"account", [this] { visit(InstallationStep::accountSetup, CLITool::claudeCode); }, "haveAccountButton"},
+            {"system check, Node.js to install, help open",
+             [this] {
+                 sandbox.installFakes({"git"});
+                 visit(InstallationStep::systemCheck, CLITool::geminiCLI);
+                 waitForCheck();
+                 test::child<RequirementRow>(screen(), QStringLiteral("requirementRow.nodeJS"))->helpButton()->click();
+                 test::settle();
+             },
+             "mainButton"},
+            {"system check, too little space",
+             [this] {
+                 platform.diskSpace = DiskSpace{100 * 1024 * 1024, {}};
+                 visit(InstallationStep::systemCheck, CLITool::geminiCLI);
+                 waitForCheck();
+             },
+             "helpButton"},
+            {"system check, already installed",
+             [this] {
+                 sandbox.installFakes({"claude"});
+                 visit(InstallationStep::systemCheck, CLITool::claudeCode);
+                 waitForCheck();
+             },
+             "mainButton"},
+            {"installation failed, log open",
+             [this] {
+                 sandbox.installFakes({"git", "npm", "node"});
+                 sandbox.setEnv("FAKE_NPM_FAIL", "1");
+                 visit(InstallationStep::installation, CLITool::geminiCLI);
+                 waitForInstallation();
+                 press("detailsButton");
+             },
+             "mainButton"},
+            {"installation complete",
+             [this] {
+                 sandbox.installFakes({"git", "curl"});
+                 visit(InstallationStep::installation, CLITool::claudeCode);
+                 waitForInstallation();
+             },
+             "mainButton"},
+            {"API key", [this] { visit(InstallationStep::apiKey, CLITool::claudeCode); }, "apiKeyField"},
+            {"ready to use, commands open, no terminal window",
+             [this] {
+                 platform.terminalOpens = false;
+                 visit(InstallationStep::completion, CLITool::claudeCode);
+                 press("commonCommandsHeader");
+                 press("openInTerminalButton");
+             },
+             "openInTerminalButton"},
+            {"terminal, no window",
+             [this] {
+                 platform.terminalOpens = false;
+                 visit(InstallationStep::terminal, CLITool::codex);
+             },
+             "backToHomeButton"},
+        };
+    }
+
+    // What a person reads or uses on the screen (its text, buttons and cards, in the window's
+    // coordinates) lies within `column`. The backdrop and the bars span the window on purpose;
+    // of a bar only its buttons count.
+    struct Content {
+        QRect all;   // everything together
+        QRect cards; // the cards
+        QRect bars;  // the buttons of the bars
+    };
+    Content expectWithin(const QRect& column) const
+    {
+        Content found;
+        const auto inBar = [](const QWidget* widget) {
+            for (const QWidget* at = widget; at; at = at->parentWidget()) {
+                if (at->objectName() == QLatin1String("bottomBar") || at->objectName() == QLatin1String("topBar"))
+                    return true;
+            }
+            return false;
+        };
+        for (QWidget* widget : screen()->findChildren<QWidget*>()) {
+            if (!widget->isVisible() || widget->objectName() == QLatin1String("homeBackdrop"))
+                continue;
+            const bool button = qobject_cast<QAbstractButton*>(widget) != nullptr;
+            const bool bar = inBar(widget);
+            if (!button && (bar || !(qobject_cast<QLabel*>(widget) || qobject_cast<ui::RoundedCard*>(widget))))
+                continue;
+            const QRect place(widget->mapTo(window.get(), QPoint(0, 0)), widget->size());
+            found.all |= place;
+            if (bar)
+                found.bars |= place;
+            else if (qobject_cast<ui::RoundedCard*>(widget))
+                found.cards |= place;
+            EXPECT_TRUE(place.left() >= column.left() && place.right() <= column.right())
+                << describe(widget) << " at " << place.left() << ".." << place.right();
+        }
+        return found;
+    }
+
+    // The content keeps to a centred column in a large window and to the whole width of the
+    // smallest one; there the bottom bar stays whole and nothing is wider than the window.
+    void expectTheColumn() const
+    {
+        if (size() == kLarge) {
+            const int width = ui::maximumContentWidth;
+            const QRect column((size().width() - width) / 2, 0, width, size().height());
+            const Content found = expectWithin(column);
+            // As far from the column's left edge as from its right one, and filling it, bar and all.
+            EXPECT_NEAR(found.all.left() - column.left(), column.right() - found.all.right(), 1);
+            EXPECT_LE(found.all.left() - column.left(), 40);
+            if (!found.bars.isNull() && !found.cards.isNull()) {
+                EXPECT_EQ(found.bars.right(), found.cards.right()); // the bar's last button ends where the cards do
+            }
+            return;
+        }
+        const int scrollBar = 11;
+        const Content found = expectWithin(QRect(QPoint(0, 0), size()));
+        // The screens' own margins from the window's sides, and no more.
+        EXPECT_LE(found.all.left(), 40);
+        EXPECT_GE(found.all.right(), size().width() - 1 - 40 - scrollBar);
+        if (const QWidget* bar = screen()->findChild<QWidget*>(QStringLiteral("bottomBar"))) {
+            EXPECT_EQ(bar->geometry().bottom(), screen()->rect().bottom());
+            EXPECT_GE(bar->height(), bar->sizeHint().height());
+        }
+        for (ui::ScrollView* scroll : screen()->findChildren<ui::ScrollView*>())
+            EXPECT_LE(scroll->content()->minimumSizeHint().width(), scroll->viewport()->width());
+    }
+};
+
+} // namespace
+
+TEST_P(ScreenTour, EveryScreenIsUsableByKeyboardReadableAndKeepsToItsColumn)
+{
+    const QList<ScreenVisit> stops = tour();
+    const ScreenVisit& stop = stops.at(std::get<0>(GetParam()));
+    stop.arrive();
+    ASSERT_FALSE(HasFatalFailure());
+    SCOPED_TRACE(stop.name);
+
+    // Every control, shown or not yet, has a name for screen readers and one for tests.
+    for (QWidget* control : test::focusableControls(screen())) {
+        EXPECT_FALSE(control->accessibleName().trimmed().isEmpty()) << describe(control);
+        EXPECT_FALSE(control->objectName().isEmpty()) << describe(control);
+    }
+    expectTheColumn();
+
+    QWidget* focus = QApplication::focusWidget();
+    ASSERT_NE(focus, nullptr) << "nothing has the focus";
+    EXPECT_EQ(focus->objectName().toStdString(), stop.mainControl) << describe(focus);
+    EXPECT_TRUE(screen()->isAncestorOf(focus));
+    sweep(window.get(), size() == kLarge);
+
+    inBothAppearances([this] { expectReadable(window.get()); });
+}
+
+INSTANTIATE_TEST_SUITE_P(EveryScreen, ScreenTour, ::testing::Combine(::testing::Range(0, kVisits), ::testing::Bool()),
+                         ScreenTour::visitName);
+
+namespace {
+
+class KeyboardTest : public test::FlowWindowTest {
+protected:
+    // Tab from wherever the focus is until it reaches `target`.
+    static void tabTo(const QWidget* target)
+    {
+        for (int i = 0; i < 60 && QApplication::focusWidget() != target; ++i) {
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+            test::settle();
+        }
+        ASSERT_EQ(QApplication::focusWidget(), target);
+    }
+    HomeView* openDashboard()
+    {
+        open(InstallationStep::home, std::nullopt, {1000, 1700});
+        auto* home = screenAs<HomeView>();
+        EXPECT_TRUE(QTest::qWaitFor([home] { return !home->isLoading(); }, 20000));
+        test::settle();
+        return home;
+    }
+    RemovalSheet* waitForSheet(HomeView* home)
+    {
+        EXPECT_TRUE(QTest::qWaitFor([home] { return home->sheet() && home->sheet()->isVisible(); }, 5000));
+        RemovalSheet* sheet = home->sheet();
+        if (sheet) {
+            QApplication::setActiveWindow(sheet);
+            test::settle();
+        }
+        return sheet;
+    }
+};
+
+} // namespace
+
+TEST_F(KeyboardTest, ARemovalSheetStartsOnItsMainButtonAndGivesTheFocusBack)
+{
+    sandbox.installFakes({"gemini", "npm"});
+    platform.npmPrograms = {sandbox.binDirectory() + QStringLiteral("/npm")};
+    HomeView* home = openDashboard();
+    AIToolCard* gemini = test::child<AIToolCard>(home, QStringLiteral("aiToolCard.geminiCLI"));
+    auto* remove = test::child<QWidget>(gemini, QStringLiteral("removeButton"));
+    tabTo(remove);
+
+    // Space opens the sheet on "Uninstall", which Tab reads like a screen; Escape closes it and
+    // the focus is back on the button that opened it.
+    QTest::keyClick(remove, Qt::Key_Space);
+    RemovalSheet* sheet = waitForSheet(home);
+    ASSERT_NE(sheet, nullptr);
+    EXPECT_EQ(QApplication::focusWidget(), test::child<QWidget>(sheet, QStringLiteral("uninstallButton")));
+    // Opened by keyboard, it shows where the focus is before any Tab.
+    EXPECT_TRUE(ui::showsFocusRing(QApplication::focusWidget()));
+    sweep(sheet);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    test::settle();
+    QApplication::setActiveWindow(window.get());
+    test::settle();
+    EXPECT_EQ(home->sheet(), nullptr);
+    EXPECT_EQ(QApplication::focusWidget(), remove);
+
+    // Through to the end by keyboard: "Done" has the focus once the removal is complete; the
+    // dashboard reloads without Gemini CLI, and the focus lands on its card's "Install".
+    QTest::keyClick(remove, Qt::Key_Space);
+    sheet = waitForSheet(home);
+    ASSERT_NE(sheet, nullptr);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    ASSERT_TRUE(QTest::qWaitFor([sheet] { return sheet->uninstallComplete(); }, 20000));
+    EXPECT_EQ(QApplication::focusWidget(), test::child<QWidget>(sheet, QStringLiteral("doneButton")));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    ASSERT_TRUE(QTest::qWaitFor([home] { return !home->sheet() && !home->isLoading(); }, 20000));
+    QApplication::setActiveWindow(window.get());
+    test::settle();
+    EXPECT_FALSE(home->installedTools().contains(CLITool::geminiCLI));
+    EXPECT_EQ(QApplication::focusWidget(), test::child<QWidget>(gemini, QStringLiteral("installButton")));
+}
+
+TEST_F(KeyboardTest, ToolCardsAreRadioButtonsOfOneChoice)
+{
+    open(InstallationStep::welcome, std::nullopt);
+    const QList<ToolCard*> cards = screenAs<WelcomeView>()->toolCards();
+    ASSERT_EQ(cards.size(), 3);
+    const auto checked = [&cards] {
+        QList<bool> states;
+        for (ToolCard* card : cards)
+            states << QAccessible::queryAccessibleInterface(card)->state().checked;
+        return states;
+    };
+
+    for (ToolCard* card : cards) {
+        QAccessibleInterface* readable = QAccessible::queryAccessibleInterface(card);
+        ASSERT_NE(readable, nullptr);
+        EXPECT_EQ(readable->role(), QAccessible::RadioButton);
+        EXPECT_TRUE(readable->state().checkable);
+        EXPECT_TRUE(readable->state().focusable);
+        EXPECT_EQ(readable->text(QAccessible::Name), card->tool().displayName());
+        EXPECT_EQ(readable->text(QAccessible::Description), card->tool().toolDescription());
+        ASSERT_NE(readable->actionInterface(), nullptr);
+        EXPECT_TRUE(readable->actionInterface()->actionNames().contains(QAccessibleActionInterface::pressAction()));
+    }
+    EXPECT_EQ(checked(), (QList<bool>{false, false, false}));
+
+    // A screen reader's press chooses the tool, as a click does.
+    QAccessible::queryAccessibleInterface(cards[1])->actionInterface()->doAction(
+        QAccessibleActionInterface::pressAction());
+    EXPECT_EQ(state.selectedTool(), CLITool::geminiCLI);
+    EXPECT_EQ(checked(), (QList<bool>{false, true, false}));
+    EXPECT_TRUE(button("continueButton")->isEnabled());
+
+    // The arrow keys move through the choice and make it; they stop at either end.
+    cards[1]->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(cards[1], Qt::Key_Down);
+    EXPECT_EQ(QApplication::focusWidget(), cards[2]);
+    EXPECT_EQ(checked(), (QList<bool>{false, false, true}));
+    QTest::keyClick(cards[2], Qt::Key_Down);
+    EXPECT_EQ(QApplication::focusWidget(), cards[2]);
+    QTest::keyClick(cards[2], Qt::Key_Up);
+    QTest::keyClick(cards[1], Qt::Key_Up);
+    EXPECT_EQ(QApplication::focusWidget(), cards[0]);
+    EXPECT_EQ(state.selectedTool(), CLITool::claudeCode);
+    EXPECT_EQ(checked(), (QList<bool>{true, false, false}));
+}
+
+TEST_F(KeyboardTest, TheTypedLinesCopyButtonSaysWhatItCopies)
+{
+    platform.terminalOpens = false;
+    open(InstallationStep::terminal, CLITool::codex);
+    auto* fallback = test::child(screen(), QStringLiteral("terminalFallback"));
+    ASSERT_TRUE(shows(fallback));
+    auto* copy = test::child<QWidget>(fallback, QStringLiteral("copyButton"));
+    EXPECT_EQ(copy->accessibleName(), QStringLiteral("Copy the line to type"));
+    EXPECT_EQ(copy->accessibleDescription(),
+              test::child<QLabel>(fallback, QStringLiteral("terminalFallbackLine"))->text());
+}
+
+TEST_F(KeyboardTest, TheDashboardWhileItLooksAndTheRemovalSheetStandOut)
+{
+    sandbox.installFakes({"gemini", "npm"});
+    platform.npmPrograms = {sandbox.binDirectory() + QStringLiteral("/npm")};
+    open(InstallationStep::home, std::nullopt, {1000, 1400});
+    auto* home = screenAs<HomeView>();
+    ASSERT_TRUE(QTest::qWaitFor([home] { return !home->isLoading(); }, 20000));
+
+    // "Checking your setup..." shows while a load runs; it is measured before the load can end.
+    home->loadData();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    ASSERT_TRUE(shows(test::child(home, QStringLiteral("loadingText"))));
+    const QPalette saved = QApplication::palette();
+    for (const bool dark : {false, true}) {
+        SCOPED_TRACE(dark ? "dark" : "light");
+        QApplication::setPalette(dark ? ui::Theme::darkPalette() : ui::Theme::lightPalette());
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+        const QImage picture = window->grab().toImage();
+        auto* checking = test::child<ui::Label>(home, QStringLiteral("loadingText"));
+        EXPECT_GE(
+            ui::Theme::contrastRatio(checking->palette().color(QPalette::WindowText), backgroundOf(picture, checking)),
+            ui::Theme::smallTextContrast);
+    }
+    QApplication::setPalette(saved);
+    ASSERT_TRUE(QTest::qWaitFor([home] { return !home->isLoading(); }, 20000));
+    test::settle();
+
+    // The removal sheet, asking and then done with its log.
+    auto* gemini = test::child<AIToolCard>(home, QStringLiteral("aiToolCard.geminiCLI"));
+    test::child<QAbstractButton>(gemini, QStringLiteral("removeButton"))->click();
+    RemovalSheet* sheet = home->sheet();
+    ASSERT_NE(sheet, nullptr);
+    test::settle();
+    inBothAppearances([sheet] { expectReadable(sheet); });
+    test::child<QAbstractButton>(sheet, QStringLiteral("uninstallButton"))->click();
+    ASSERT_TRUE(QTest::qWaitFor([sheet] { return sheet->uninstallComplete(); }, 20000));
+    test::child<QAbstractButton>(sheet, QStringLiteral("detailsButton"))->click();
+    inBothAppearances([sheet] { expectReadable(sheet); });
+    sheet->reject();
+    test::settle();
+}
