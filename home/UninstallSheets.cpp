@@ -24,7 +24,7 @@ namespace {
 
 constexpr int kSheetWidth = 420;
 // Above and below a sheet's content.
-constexpr QMargins kColumnPadding(0, 24, 0, 24);
+constexpr QMargins kRemovalColumnPadding(0, 24, 0, 24);
 
 } // namespace
 
@@ -49,7 +49,7 @@ RemovalSheet::RemovalSheet(const QString& name, const LogBook& logs, std::functi
     FocusRing::attach(this);
     setFixedSize(kSheetWidth, height);
 
-    auto* column = vstack(this, 24, kColumnPadding);
+    auto* column = vstack(this, 24, kRemovalColumnPadding);
     column->addStretch(1);
 
     // Header: the state icon, the title and what is about to happen.

@@ -35,7 +35,7 @@ constexpr QMargins kStepCommandPadding(6, 3, 6, 3);
 // "Try asking" in from the left, lined up with the steps' titles after the badge and its gap.
 constexpr QMargins kTryAskingIndent(32, 0, 0, 0);
 // Under the screen's content.
-constexpr QMargins kContentPadding(0, 0, 0, 24);
+constexpr QMargins kCompletionPadding(0, 0, 0, 24);
 
 // Code in a box on the text background: commands to copy.
 RoundedCard* codeBox(const QString& code, const QFont& font, QMargins padding, qreal radius)
@@ -201,7 +201,7 @@ CompletionView::CompletionView(InstallationState& state, TerminalLauncher& termi
     m_scroll = new ScrollView;
     m_scroll->setObjectName(QStringLiteral("completionScroll"));
     m_scroll->setAccessibleName(accessibleName());
-    auto* column = centredColumn(m_scroll->content(), this, 24, kContentPadding);
+    auto* column = centredColumn(m_scroll->content(), this, 24, kCompletionPadding);
     if (tool) {
         // Shown when a terminal window could not be opened, where the button that tried is.
         m_fallback = new TerminalFallbackRow(m_launch->typedLine(), [this] { m_toast->present(); });

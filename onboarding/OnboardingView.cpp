@@ -25,7 +25,7 @@ const ui::motion::Look kTitleOut{0.0, {0, 10}, 1.0};
 const ui::motion::Look kRowOut{0.0, {0, 20}, 1.0};
 
 // Above the content.
-constexpr QMargins kContentPadding(0, 60, 0, 0);
+constexpr QMargins kIntroductionPadding(0, 60, 0, 0);
 // Around "Get Started", inside its animated row: above it, and under it to the window's edge.
 constexpr QMargins kButtonRowPadding(0, 20, 0, 60);
 
@@ -43,7 +43,7 @@ OnboardingView::OnboardingView(InstallationState& state, QWidget* parent) : QWid
 
     // Every animated element is a direct child of the scroll content, so that while it rises
     // into place it is never clipped by a smaller container; the stacks are plain layouts.
-    auto* stack = centredColumn(scroll->content(), this, 40, kContentPadding);
+    auto* stack = centredColumn(scroll->content(), this, 40, kIntroductionPadding);
 
     // Header: logo and title block.
     auto* header = vstack(16);

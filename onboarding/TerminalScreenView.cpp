@@ -24,7 +24,7 @@ namespace {
 
 constexpr int kCardWidth = 400;
 // Above and below the screen's content.
-constexpr QMargins kContentPadding(0, 24, 0, 24);
+constexpr QMargins kTerminalScreenPadding(0, 24, 0, 24);
 // Between the quick tips card's edges and its rows.
 constexpr QMargins kTipsPadding(16, 14, 16, 16);
 
@@ -60,7 +60,7 @@ TerminalLaunchedView::TerminalLaunchedView(InstallationState& state, CLITool too
     auto* root = vstack(this, 0);
     m_scroll = new ScrollView;
     root->addWidget(m_scroll);
-    auto* column = centredColumn(m_scroll->content(), this, 12, kContentPadding);
+    auto* column = centredColumn(m_scroll->content(), this, 12, kTerminalScreenPadding);
     column->addStretch(1);
 
     column->addWidget(new SymbolView(QStringLiteral("terminal.fill"), 48, Tint(tool.brandColor())), 0,

@@ -17,7 +17,7 @@ namespace qf::ui {
 namespace {
 
 // Between the card's edges and the log, until its owner says otherwise (setPadding).
-constexpr QMargins kPadding = around(10);
+constexpr QMargins kLogPadding = around(10);
 
 } // namespace
 
@@ -53,7 +53,7 @@ LogView::LogView(QWidget* parent) : RoundedCard(parent), m_text(new QPlainTextEd
             m_follow = value >= bar->maximum();
     });
 
-    auto* layout = vstack(this, 0, kPadding);
+    auto* layout = vstack(this, 0, kLogPadding);
     layout->addWidget(m_text);
 }
 
