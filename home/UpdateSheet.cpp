@@ -28,7 +28,7 @@ namespace {
 constexpr int kUpdateSheetWidth = 440;
 constexpr int kSheetHeight = 340;
 // Above and below the sheet's content.
-constexpr QMargins kColumnPadding(0, 24, 0, 24);
+constexpr QMargins kUpdateColumnPadding(0, 24, 0, 24);
 
 } // namespace
 
@@ -50,7 +50,7 @@ UpdateSheet::UpdateSheet(CLITool tool, std::optional<QString> currentVersion, QS
     FocusRing::attach(this);
     setFixedSize(kUpdateSheetWidth, kSheetHeight);
 
-    auto* column = vstack(this, 20, kColumnPadding);
+    auto* column = vstack(this, 20, kUpdateColumnPadding);
     column->addStretch(1);
 
     // Header: the state icon, the title and what is about to happen.

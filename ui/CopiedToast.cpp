@@ -11,7 +11,7 @@ namespace qf::ui {
 namespace {
 
 // Between the pill's edges and the check mark and text.
-constexpr QMargins kPadding(16, 10, 16, 10);
+constexpr QMargins kToastPadding(16, 10, 16, 10);
 
 } // namespace
 
@@ -23,7 +23,7 @@ CopiedToast::CopiedToast(QWidget* parent) : RoundedCard(parent)
     setShadow(ShadowStyle{Tint(Role::black, 0.15), 10, {0, 4}});
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 
-    auto* row = hstack(this, 8, kPadding);
+    auto* row = hstack(this, 8, kToastPadding);
     auto* check = new SymbolView(QStringLiteral("checkmark.circle.fill"), 13, Tint(Role::green));
     auto* text = new Label(tr("Copied to clipboard"), Theme::font(13, QFont::Medium));
     text->setObjectName(QStringLiteral("copiedToastText"));

@@ -10,7 +10,7 @@ namespace qf::ui {
 namespace {
 
 // Between the row's edges and its symbol, texts and line.
-constexpr QMargins kPadding(14, 12, 14, 12);
+constexpr QMargins kRowPadding(14, 12, 14, 12);
 // Between the code box's edges and the line.
 constexpr QMargins kLinePadding(8, 4, 8, 4);
 
@@ -33,7 +33,7 @@ TerminalFallbackRow::TerminalFallbackRow(const QString& title, const QString& hi
     setAccessibleName(title);
     setAccessibleDescription(line);
 
-    auto* row = hstack(this, 12, kPadding);
+    auto* row = hstack(this, 12, kRowPadding);
     row->addWidget(new SymbolView(QStringLiteral("exclamationmark.triangle.fill"), 15, Tint(Role::orange)), 0,
                    Qt::AlignTop);
     auto* column = vstack(6);
