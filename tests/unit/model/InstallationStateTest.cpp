@@ -45,19 +45,13 @@ void expectNoAttempt(const InstallationState& state)
     EXPECT_FALSE(state.isOpeningExistingTool());
 }
 
-TEST_F(InstallationStateTest, StartsWithInitialValuesOnOnboarding)
-{
-    InstallationState state;
-    EXPECT_EQ(state.currentStep(), InstallationStep::onboarding);
-    expectNoAttempt(state);
-    EXPECT_FALSE(state.hasAnyInstalledTools());
-}
-
-TEST_F(InstallationStateTest, StartStepFollowsTheStoredPreference)
+TEST_F(InstallationStateTest, StartsEmptyAtTheStepTheStoredPreferenceSays)
 {
     {
         InstallationState state;
         EXPECT_EQ(state.currentStep(), InstallationStep::onboarding);
+        expectNoAttempt(state);
+        EXPECT_FALSE(state.hasAnyInstalledTools());
     }
     // Creating the state reads the preference and never writes it.
     EXPECT_FALSE(QFile::exists(m_preferences));

@@ -1,5 +1,6 @@
 #include "ProfileWriter.h"
 #include "SmallDisk.h"
+#include "TestSupport.h"
 
 #include <gtest/gtest.h>
 
@@ -23,12 +24,7 @@ QByteArray read(const QString& path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<missing>");
 }
 
-void write(const QString& path, const QByteArray& bytes)
-{
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-    ASSERT_EQ(file.write(bytes), bytes.size());
-}
+using qf::test::writeFile;
 
 struct HelperRun {
     int exitCode = -1;
@@ -82,7 +78,7 @@ TEST(ProfileWriterFiles, TwoWritersAtOnceLoseNothing)
     // block over and over, at the same time.
     QTemporaryDir home;
     const QString profile = home.filePath(QStringLiteral(".zshrc"));
-    write(profile, "alias ll='ls -l'\n");
+    writeFile(profile, "alias ll='ls -l'\n");
     constexpr int rounds = 300;
     QProcess* first = startHelper(profile, QStringLiteral("OPENAI_API_KEY"), rounds);
     QProcess* second = startHelper(profile, QStringLiteral("GEMINI_API_KEY"), rounds);
@@ -122,7 +118,7 @@ TEST(ProfileWriterFiles, AFailureAtAnyByteLeavesTheProfileAsBeforeOrAsIntended)
         const auto reset = [&] {
             QFile::remove(profile);
             QFile::remove(other);
-            write(profile, c.before);
+            writeFile(profile, c.before);
             if (c.hardLinked) {
                 ASSERT_EQ(::link(QFile::encodeName(profile).constData(), QFile::encodeName(other).constData()), 0);
             }
@@ -166,17 +162,14 @@ TEST(ProfileWriterFiles, AFullDiskIsNamedAndBreaksNothing)
         GTEST_SKIP() << "a small tmpfs cannot be mounted here (needs root and tmpfs): the full-disk case is not run";
     const QString profile = root.filePath(QStringLiteral("disk/.zshrc"));
     const QByteArray before = "alias ll='ls -l'\nexport ANTHROPIC_API_KEY=\"old\"\n";
-    write(profile, before);
+    writeFile(profile, before);
     disk.fill();
 
     const QString line = shellExport::exportLine(QStringLiteral("OPENAI_API_KEY"), QStringLiteral("sk-proj-1"));
     const auto appended = ProfileWriter::store(profile, QStringLiteral("OPENAI_API_KEY"), QStringLiteral("Codex"),
                                                line);
     ASSERT_FALSE(appended.ok());
-    EXPECT_EQ(appended.error().errorDescription(),
-              QStringLiteral("Could not save the API key to %1: No space left on device. Your disk is full: free up "
-                             "some space, then try again.")
-                  .arg(profile));
+    EXPECT_TRUE(appended.error().errorDescription().contains(profile + QStringLiteral(": No space left on device.")));
     const auto rewritten = saveKey(profile, QStringLiteral("ANTHROPIC_API_KEY"), QStringLiteral("Claude Code"),
                                    QStringLiteral("sk-ant-a-much-longer-key"));
     ASSERT_FALSE(rewritten.ok());
@@ -203,26 +196,20 @@ TEST(ProfileWriterFiles, AReadOnlyProfileIsRefusedWhateverTheChange)
     QTemporaryDir home;
     const QString profile = home.filePath(QStringLiteral(".zshrc"));
     const QByteArray before = "export OPENAI_API_KEY=\"old\"\n";
-    write(profile, before);
+    writeFile(profile, before);
     ASSERT_EQ(::chmod(QFile::encodeName(profile).constData(), 0444), 0);
 
     const auto rewritten = saveKey(profile, QStringLiteral("OPENAI_API_KEY"), QStringLiteral("Codex"),
                                    QStringLiteral("new"));
     ASSERT_FALSE(rewritten.ok());
-    EXPECT_EQ(rewritten.error().errorDescription(),
-              QStringLiteral("Could not save the API key to %1: Permission denied. Make sure the file belongs to you "
-                             "and may be changed, then try again.")
-                  .arg(profile));
+    EXPECT_TRUE(rewritten.error().errorDescription().contains(profile + QStringLiteral(": Permission denied. Make")));
     const auto appended = saveKey(profile, QStringLiteral("GEMINI_API_KEY"), QStringLiteral("Gemini CLI"),
                                   QStringLiteral("new"));
     ASSERT_FALSE(appended.ok());
     EXPECT_TRUE(appended.error().errorDescription().contains(QStringLiteral(": Permission denied. Make sure")));
     const auto block = ProfileWriter::addSearchPathBlock(profile);
     ASSERT_FALSE(block.ok());
-    EXPECT_EQ(block.error().errorDescription(),
-              QStringLiteral("Could not add ~/.local/bin to the search path in %1: Permission denied. Make sure the "
-                             "file belongs to you and may be changed, then try again.")
-                  .arg(profile));
+    EXPECT_TRUE(block.error().errorDescription().contains(profile + QStringLiteral(": Permission denied. Make")));
     EXPECT_EQ(read(profile), before);
     EXPECT_EQ(QFileInfo(profile).permissions() & QFile::WriteOwner, 0);
 
@@ -239,7 +226,7 @@ TEST(ProfileWriterFiles, AnUnfinishedSearchPathBlockIsCompletedOnce)
     QTemporaryDir home;
     const QString profile = home.filePath(QStringLiteral(".bashrc"));
     const QByteArray cut = QByteArray("alias ll='ls -l'\n\n") + kSearchPathMark + "\n";
-    write(profile, cut);
+    writeFile(profile, cut);
     const auto added = ProfileWriter::addSearchPathBlock(profile);
     ASSERT_TRUE(added.ok());
     EXPECT_TRUE(added.value());
@@ -272,10 +259,7 @@ TEST(ProfileWriterFiles, OnlyOrdinaryFilesAreWrittenAndLinksAreFollowed)
         const auto stored = ProfileWriter::store(device, QStringLiteral("OPENAI_API_KEY"), QStringLiteral("Codex"),
                                                  line);
         ASSERT_FALSE(stored.ok());
-        EXPECT_EQ(stored.error().errorDescription(),
-                  QStringLiteral("Could not save the API key to %1: it is not an ordinary file. Move it aside so an "
-                                 "ordinary file can take its place, then try again.")
-                      .arg(device));
+        EXPECT_TRUE(stored.error().errorDescription().contains(device + QStringLiteral(": it is not an ordinary")));
         EXPECT_EQ(entries(QStringLiteral("/dev")), devBefore);
     }
 }

@@ -195,28 +195,14 @@ TEST_F(StagedInstallTest, ALinkedProgramFolderStaysALinkAndReceivesNode)
 
 TEST_F(StagedInstallTest, ALinkToAFolderNotYetThereGetsThatFolder)
 {
+    // ~/.local itself links, absolutely, to a folder not there yet (for ~/.local/bin, see the
+    // failures below).
     publish(QStringLiteral("v22.11.0"));
-    // ~/.local/bin links to a folder that does not exist yet, nor its parent.
-    {
-        SCOPED_TRACE("dangling ~/.local/bin");
-        test::makeLink(QStringLiteral("../dotfiles/bin"), home(QStringLiteral(".local/bin")));
-        ASSERT_EQ(install(), "") << log.toStdString();
-        EXPECT_EQ(linkTarget(home(QStringLiteral(".local/bin"))), "../dotfiles/bin");
-        EXPECT_EQ(runProgram(home(QStringLiteral("dotfiles/bin/node"))), "v22.11.0");
-        EXPECT_EQ(runProgram(home(QStringLiteral(".local/bin/npm"))), "npm v22.11.0");
-        EXPECT_EQ(entriesOf(home(QStringLiteral(".local"))), kInstalledFolders);
-    }
-    ASSERT_TRUE(QDir(home(QStringLiteral(".local"))).removeRecursively());
-    ASSERT_TRUE(QDir(home(QStringLiteral("dotfiles"))).removeRecursively());
-    // ~/.local itself, with an absolute link.
-    {
-        SCOPED_TRACE("dangling ~/.local");
-        test::makeLink(home(QStringLiteral("dotfiles/local")), home(QStringLiteral(".local")));
-        ASSERT_EQ(install(), "") << log.toStdString();
-        EXPECT_EQ(linkTarget(home(QStringLiteral(".local"))), home(QStringLiteral("dotfiles/local")).toStdString());
-        EXPECT_EQ(runProgram(home(QStringLiteral("dotfiles/local/bin/node"))), "v22.11.0");
-        EXPECT_EQ(entriesOf(home(QStringLiteral("dotfiles/local"))), kInstalledFolders);
-    }
+    test::makeLink(home(QStringLiteral("dotfiles/local")), home(QStringLiteral(".local")));
+    ASSERT_EQ(install(), "") << log.toStdString();
+    EXPECT_EQ(linkTarget(home(QStringLiteral(".local"))), home(QStringLiteral("dotfiles/local")).toStdString());
+    EXPECT_EQ(runProgram(home(QStringLiteral("dotfiles/local/bin/node"))), "v22.11.0");
+    EXPECT_EQ(entriesOf(home(QStringLiteral("dotfiles/local"))), kInstalledFolders);
 }
 
 TEST_F(StagedInstallTest, AFullDiskLeavesThePreviousNodeAsItWas)

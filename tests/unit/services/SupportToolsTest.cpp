@@ -58,6 +58,9 @@ TEST_F(SupportToolsTest, TheCatalogue)
         keys.insert(tool.key);
     }
     EXPECT_EQ(keys.size(), 4);
+    // Detected with nothing installed: nothing is there, and no version.
+    for (const SystemTool& tool : detect())
+        EXPECT_TRUE(!tool.isInstalled && !tool.version.has_value()) << tool.key.toStdString();
 
     // The developer-tools item and the folder's note are the platform's.
     const DeveloperToolsItem developerTools = platform.developerToolsItem();
@@ -94,14 +97,6 @@ TEST_F(SupportToolsTest, HomebrewIsListedOnlyWhereTheSetupUsesIt)
     // from the release archive.
     EXPECT_EQ(listed(systemToolCatalogue(MacPlatform())), withHomebrew);
     EXPECT_EQ(listed(systemToolCatalogue(LinuxPlatform())), withoutHomebrew);
-}
-
-TEST_F(SupportToolsTest, NothingInstalled)
-{
-    for (const SystemTool& tool : detect()) {
-        EXPECT_FALSE(tool.isInstalled) << tool.key.toStdString();
-        EXPECT_FALSE(tool.version.has_value()) << tool.key.toStdString();
-    }
 }
 
 TEST_F(SupportToolsTest, VersionsAsTheyAreShown)

@@ -1,5 +1,6 @@
 #include "CoroTest.h"
 #include "TestMachine.h"
+#include "TestSupport.h"
 #include "ToolRemover.h"
 
 #include <QDir>
@@ -13,15 +14,16 @@ namespace {
 
 class ToolRemoverTest : public ::testing::Test, protected test::TestMachine {
 protected:
-    static void writeFile(const QString& path, const QByteArray& bytes)
+    // Removes `tool` with `remover`, with what the removal says in `log`.
+    Result<void> uninstall(CLITool tool, ToolRemover& remover)
     {
-        QDir().mkpath(QFileInfo(path).absolutePath());
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
+        log.clear();
+        const ShellRunner::OutputHandler onOutput = [this](const QString& text) { log += text; };
+        return await(remover.uninstall(tool, onOutput)).value_or(ServiceError::message(QStringLiteral("unfinished")));
     }
+    Result<void> uninstall(CLITool tool) { return uninstall(tool, services.remover); }
 
-    ToolRemover& remover = services.remover;
+    QString log;
 };
 
 } // namespace
@@ -39,9 +41,8 @@ TEST_F(ToolRemoverTest, UninstallRemovesEveryNpmCopy)
     sandbox.installFakeAt(QStringLiteral("gemini"), sandbox.path(QStringLiteral(".local/bin/gemini")));
     QDir().mkpath(sandbox.path(QStringLiteral(".local/lib/node_modules/@google/gemini-cli")));
 
-    QString log;
-    auto result = await(remover.uninstall(CLITool::geminiCLI, [&](const QString& t) { log += t; }));
-    ASSERT_TRUE(result && result->ok());
+    Result<void> result = uninstall(CLITool::geminiCLI);
+    ASSERT_TRUE(result.ok());
     EXPECT_FALSE(QFile::exists(nvm + QStringLiteral("gemini")));
     EXPECT_FALSE(QFile::exists(sandbox.systemPath(QStringLiteral("/opt/homebrew/bin/gemini"))));
     EXPECT_FALSE(sandbox.exists(QStringLiteral(".local/bin/gemini")));
@@ -56,9 +57,8 @@ TEST_F(ToolRemoverTest, UninstallRemovesEveryNpmCopy)
     EXPECT_TRUE(QFile::exists(sandbox.binDirectory() + QStringLiteral("/gemini")));
     QFile::remove(nvm + QStringLiteral("npm"));
     sandbox.installFakes({"npm"});
-    log.clear();
-    result = await(remover.uninstall(CLITool::geminiCLI, [&](const QString& t) { log += t; }));
-    ASSERT_TRUE(result && result->ok());
+    result = uninstall(CLITool::geminiCLI);
+    ASSERT_TRUE(result.ok());
     EXPECT_FALSE(QFile::exists(sandbox.binDirectory() + QStringLiteral("/gemini")));
     EXPECT_EQ(log, QStringLiteral("Uninstalling Gemini CLI...\nup to date, audited 1 package\nremoved 1 package\n"
                                   "\nGemini CLI has been uninstalled.\n"));
@@ -75,9 +75,8 @@ TEST_F(ToolRemoverTest, UninstallRemovesClaudeCodesOwnLauncherAndTellsAboutOther
     QDir().mkpath(sandbox.path(QStringLiteral(".claude/downloads")));
     sandbox.writeFile(QStringLiteral(".claude/settings.json"), "{}");
 
-    QString log;
-    const auto result = await(remover.uninstall(CLITool::claudeCode, [&](const QString& t) { log += t; }));
-    ASSERT_TRUE(result && result->ok());
+    const Result<void> result = uninstall(CLITool::claudeCode);
+    ASSERT_TRUE(result.ok());
     EXPECT_EQ(log, QStringLiteral("Uninstalling Claude Code...\n"
                                   "\nNote: 'claude' is still found in PATH. You may have multiple installations.\n"
                                   "Run 'which claude' in Terminal to find other copies.\n"));
@@ -93,23 +92,21 @@ TEST_F(ToolRemoverTest, ACopyInAFolderOnlyAnAdministratorMayChangeGoesThroughThe
     // Gemini CLI in npm's global folder, which the user's npm may not change.
     sandbox.installFakes({"npm", "gemini", "sudo"});
     const QString prefix = QFileInfo(sandbox.binDirectory()).absolutePath();
-    writeFile(prefix + QStringLiteral("/lib"), "");
+    test::writeFile(prefix + QStringLiteral("/lib"), "");
     sandbox.setEnv("FAKE_NPM_PREFIX", prefix.toUtf8());
     sandbox.setEnv("FAKE_NPM_DENIED", "1");
 
     // Cancelled: the removal fails with a plain message and the tool stays.
     sandbox.setEnv("FAKE_SUDO_CANCEL", "1");
-    QString log;
-    auto result = await(remover.uninstall(CLITool::geminiCLI, [&](const QString& t) { log += t; }));
-    ASSERT_TRUE(result && !result->ok());
-    EXPECT_EQ(result->error().errorDescription(),
+    Result<void> result = uninstall(CLITool::geminiCLI);
+    ASSERT_FALSE(result.ok());
+    EXPECT_EQ(result.error().errorDescription(),
               QStringLiteral("The password dialog was cancelled, so Gemini CLI was not removed."));
     EXPECT_TRUE(QFile::exists(sandbox.binDirectory() + QStringLiteral("/gemini")));
 
     sandbox.setEnv("FAKE_SUDO_ALLOW", "1");
-    log.clear();
-    result = await(remover.uninstall(CLITool::geminiCLI, [&](const QString& t) { log += t; }));
-    ASSERT_TRUE(result && result->ok()) << result->error().errorDescription().toStdString();
+    result = uninstall(CLITool::geminiCLI);
+    ASSERT_TRUE(result.ok()) << result.error().errorDescription().toStdString();
     EXPECT_FALSE(QFile::exists(sandbox.binDirectory() + QStringLiteral("/gemini")));
     EXPECT_TRUE(log.endsWith(QStringLiteral("\nRemoving Gemini CLI from %1 needs administrator rights.\n"
                                             "removed 1 package\n\nGemini CLI has been uninstalled.\n")
@@ -125,23 +122,22 @@ TEST_F(ToolRemoverTest, TheAdministratorsRemovalFindsNodeOnItsOwnSearchPath)
     QFile npmFixture(QStringLiteral(QF_FIXTURES_DIR "/bin/npm"));
     ASSERT_TRUE(npmFixture.open(QIODevice::ReadOnly));
     const QByteArray npmBody = npmFixture.readAll();
-    writeFile(sandbox.binDirectory() + QStringLiteral("/npm"),
-              "#!/usr/bin/env node\n" + npmBody.mid(npmBody.indexOf('\n') + 1));
-    writeFile(sandbox.binDirectory() + QStringLiteral("/node"),
-              "#!/bin/sh\nscript=$1; shift; exec /bin/sh \"$script\" \"$@\"\n");
+    test::writeFile(sandbox.binDirectory() + QStringLiteral("/npm"),
+                    "#!/usr/bin/env node\n" + npmBody.mid(npmBody.indexOf('\n') + 1));
+    test::writeFile(sandbox.binDirectory() + QStringLiteral("/node"),
+                    "#!/bin/sh\nscript=$1; shift; exec /bin/sh \"$script\" \"$@\"\n");
     for (const char* program : {"/npm", "/node"})
         QFile::setPermissions(sandbox.binDirectory() + QLatin1String(program),
                               QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
     const QString prefix = QFileInfo(sandbox.binDirectory()).absolutePath();
-    writeFile(prefix + QStringLiteral("/lib"), "");
+    test::writeFile(prefix + QStringLiteral("/lib"), "");
     sandbox.setEnv("FAKE_NPM_PREFIX", prefix.toUtf8());
     sandbox.setEnv("FAKE_NPM_DENIED", "1");
     sandbox.setEnv("FAKE_SUDO_ALLOW", "1");
     sandbox.setEnv("FAKE_SUDO_PATH", "/usr/sbin:/sbin");
 
-    QString log;
-    const auto result = await(remover.uninstall(CLITool::geminiCLI, [&](const QString& t) { log += t; }));
-    ASSERT_TRUE(result && result->ok()) << result->error().errorDescription().toStdString();
+    const Result<void> result = uninstall(CLITool::geminiCLI);
+    ASSERT_TRUE(result.ok()) << result.error().errorDescription().toStdString();
     EXPECT_FALSE(QFile::exists(sandbox.binDirectory() + QStringLiteral("/gemini"))) << log.toStdString();
     EXPECT_TRUE(log.endsWith(QStringLiteral("\nGemini CLI has been uninstalled.\n"))) << log.toStdString();
 }
@@ -154,11 +150,9 @@ TEST_F(ToolRemoverTest, UninstallThatCannotLookAfterwardsSaysSo)
     brokenShell.shell = QStringLiteral("/nonexistent/zsh");
     platform.terminalShell = brokenShell.shell;
     Services broken(platform, brokenShell);
-    QString log;
-    const auto result = await(broken.remover.uninstall(CLITool::codex, [&](const QString& t) { log += t; }));
-    ASSERT_TRUE(result.has_value());
-    ASSERT_FALSE(result->ok());
-    EXPECT_TRUE(result->error().errorDescription().startsWith(QStringLiteral("Process error: ")));
+    const Result<void> result = uninstall(CLITool::codex, broken.remover);
+    ASSERT_FALSE(result.ok());
+    EXPECT_TRUE(result.error().errorDescription().startsWith(QStringLiteral("Process error: ")));
     EXPECT_TRUE(log.startsWith(QStringLiteral("Uninstalling Codex...\nNote: Process error: ")));
     EXPECT_FALSE(log.contains(QStringLiteral("has been uninstalled")));
 }
