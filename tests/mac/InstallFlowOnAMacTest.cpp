@@ -55,13 +55,6 @@ TEST_F(InstallFlowOnAMac, WithoutTheCommandLineToolsTheCheckNamesThemAndAsksNoth
     EXPECT_EQ(git->details, QStringLiteral("Xcode CLI Tools not installed"));
     EXPECT_EQ(mac.events(QStringLiteral("developer-tools-dialog")), QStringList());
 
-    // The installation stops at git with the Mac's own advice, and asks the system nothing.
-    open(InstallationStep::installation, CLITool::claudeCode);
-    waitForInstallation();
-    EXPECT_EQ(step(SetupStepType::checkGit).status.kind(), SetupStepStatus::failed);
-    EXPECT_EQ(state.errorMessage(), platform->wording().gitMissingError);
-    EXPECT_EQ(mac.events(QStringLiteral("developer-tools-dialog")), QStringList());
-
     // With them, git is the Mac's.
     mac.setDeveloperTools(true);
     open(InstallationStep::systemCheck, CLITool::claudeCode);

@@ -28,14 +28,11 @@ protected:
             if (!linuxText.isEmpty() && linuxText != macText)
                 words << QString(linuxText).remove(QStringLiteral("%1")).trimmed();
         };
-        differing(linux.osRequirementTitle, mac.osRequirementTitle);
-        differing(linux.osRequirementHelp, mac.osRequirementHelp);
-        differing(linux.osRequirementFix, mac.osRequirementFix);
-        differing(linux.diskSpaceHelp, mac.diskSpaceHelp);
-        differing(linux.nodeFixSuggestion, mac.nodeFixSuggestion);
-        differing(linux.toolInstallStep, mac.toolInstallStep);
-        differing(linux.gitMissingError, mac.gitMissingError);
-        differing(linux.developerFolderNote, mac.developerFolderNote);
+        for (QString SystemWording::*text :
+             {&SystemWording::osRequirementTitle, &SystemWording::osRequirementHelp, &SystemWording::osRequirementFix,
+              &SystemWording::diskSpaceHelp, &SystemWording::nodeFixSuggestion, &SystemWording::toolInstallStep,
+              &SystemWording::gitMissingError, &SystemWording::developerFolderNote})
+            differing(linux.*text, mac.*text);
         const DeveloperToolsItem linuxTools = LinuxPlatform::gitToolsItem();
         differing(linuxTools.name, MacPlatform::commandLineToolsItem().name);
         differing(*linuxTools.uninstallNote, QString());

@@ -242,16 +242,16 @@ void inBothAppearances(Check&& check)
     test::settle();
 }
 
-// One screen in one of its states, as a person meets it.
+class ScreenTour;
+
+// One screen in one of its states, as a person meets it: its name, how the window is brought
+// there and the control the focus starts on.
 struct ScreenVisit {
     const char* name;
-    // Brings the window there.
-    std::function<void()> arrive;
-    // The control the focus starts on.
+    std::function<void(ScreenTour&)> arrive;
     const char* mainControl;
 };
 
-constexpr int kVisits = 14;
 // Large enough that nothing scrolls and wider than the content column; and the smallest window.
 const QSize kLarge(1440, 1700);
 const QSize kSmallest(MainWindow::minimumWidth, MainWindow::minimumHeight);
@@ -260,120 +260,35 @@ const QSize kSmallest(MainWindow::minimumWidth, MainWindow::minimumHeight);
 // for each visit.
 class ScreenTour : public test::FlowWindowTest, public ::testing::WithParamInterface<std::tuple<int, bool>> {
 public:
+    static const QList<ScreenVisit>& tour();
     static std::string visitName(const ::testing::TestParamInfo<std::tuple<int, bool>>& info)
     {
-        static const char* const names[kVisits] = {"Onboarding",           "FirstDashboard",
-                                                   "DashboardWithTools",   "ToolChoice",
-                                                   "ToolChosen",           "Account",
-                                                   "CheckWithNodeToCome",  "CheckWithTooLittleSpace",
-                                                   "CheckFindsTheTool",    "InstallationFailed",
-                                                   "InstallationComplete", "APIKey",
-                                                   "ReadyWithoutWindow",   "TerminalWithoutWindow"};
-        return std::string(names[std::get<0>(info.param)]) + (std::get<1>(info.param) ? "Smallest" : "Large");
+        return std::string(tour().at(std::get<0>(info.param)).name) + (std::get<1>(info.param) ? "Smallest" : "Large");
     }
 
 protected:
     QSize size() const { return std::get<1>(GetParam()) ? kSmallest : kLarge; }
-    void visit(InstallationStep step, std::optional<CLITool> tool) { open(step, tool, size()); }
+    // The window on `step` with `fakes` installed, once the screen's own work is done.
+    void go(InstallationStep step, std::optional<CLITool> tool, std::initializer_list<const char*> fakes = {})
+    {
+        sandbox.installFakes(fakes);
+        open(step, tool, size());
+        if (step == InstallationStep::home) {
+            auto* home = screenAs<HomeView>();
+            ASSERT_TRUE(QTest::qWaitFor([home] { return !home->isLoading(); }, 20000));
+            test::settle();
+        } else if (step == InstallationStep::systemCheck) {
+            waitForCheck();
+        } else if (step == InstallationStep::installation) {
+            waitForInstallation();
+        }
+    }
     void press(const char* name)
     {
         auto* target = test::child<QAbstractButton>(screen(), QLatin1String(name));
         ASSERT_TRUE(target);
         target->click();
         test::settle();
-    }
-    void waitForDashboard() const
-    {
-        auto* home = screenAs<HomeView>();
-        ASSERT_TRUE(QTest::qWaitFor([home] { return !home->isLoading(); }, 20000));
-        test::settle();
-    }
-
-    QList<ScreenVisit> tour()
-    {
-        return {
-            {"onboarding",
-             [this] {
-                 Preferences::setHasCompletedOnboarding(false);
-                 visit(InstallationStep::onboarding, std::nullopt);
-             },
-             "getStartedButton"},
-            {"dashboard on a first visit",
-             [this] {
-                 visit(InstallationStep::home, std::nullopt);
-                 waitForDashboard();
-             },
-             "actionButton"},
-            {"dashboard with tools",
-             [this] {
-                 sandbox.installFakes({"claude", "brew", "node"});
-                 visit(InstallationStep::home, std::nullopt);
-                 waitForDashboard();
-             },
-             "actionButton"},
-            {"tool choice", [this] { visit(InstallationStep::welcome, std::nullopt); }, "toolCard.claudeCode"},
-            {"tool chosen, explainer open",
-             [this] {
-                 visit(InstallationStep::welcome, CLITool::codex);
-                 press("whatIsAIHeader");
-             },
-             "toolCard.codex"},
-            {"account", [this] { visit(InstallationStep::accountSetup, CLITool::claudeCode); }, "haveAccountButton"},
-            {"system check, Node.js to install, help open",
-             [this] {
-                 sandbox.installFakes({"git"});
-                 visit(InstallationStep::systemCheck, CLITool::geminiCLI);
-                 waitForCheck();
-                 test::child<RequirementRow>(screen(), QStringLiteral("requirementRow.nodeJS"))->helpButton()->click();
-                 test::settle();
-             },
-             "mainButton"},
-            {"system check, too little space",
-             [this] {
-                 platform.diskSpace = DiskSpace{100 * 1024 * 1024, {}};
-                 visit(InstallationStep::systemCheck, CLITool::geminiCLI);
-                 waitForCheck();
-             },
-             "helpButton"},
-            {"system check, already installed",
-             [this] {
-                 sandbox.installFakes({"claude"});
-                 visit(InstallationStep::systemCheck, CLITool::claudeCode);
-                 waitForCheck();
-             },
-             "mainButton"},
-            {"installation failed, log open",
-             [this] {
-                 sandbox.installFakes({"git", "npm", "node"});
-                 sandbox.setEnv("FAKE_NPM_FAIL", "1");
-                 visit(InstallationStep::installation, CLITool::geminiCLI);
-                 waitForInstallation();
-                 press("detailsButton");
-             },
-             "mainButton"},
-            {"installation complete",
-             [this] {
-                 sandbox.installFakes({"git", "curl"});
-                 visit(InstallationStep::installation, CLITool::claudeCode);
-                 waitForInstallation();
-             },
-             "mainButton"},
-            {"API key", [this] { visit(InstallationStep::apiKey, CLITool::claudeCode); }, "apiKeyField"},
-            {"ready to use, commands open, no terminal window",
-             [this] {
-                 platform.terminalOpens = false;
-                 visit(InstallationStep::completion, CLITool::claudeCode);
-                 press("commonCommandsHeader");
-                 press("openInTerminalButton");
-             },
-             "openInTerminalButton"},
-            {"terminal, no window",
-             [this] {
-                 platform.terminalOpens = false;
-                 visit(InstallationStep::terminal, CLITool::codex);
-             },
-             "backToHomeButton"},
-        };
     }
 
     // What a person reads or uses on the screen (its text, buttons and cards, in the window's
@@ -445,11 +360,80 @@ protected:
 
 } // namespace
 
+const QList<ScreenVisit>& ScreenTour::tour()
+{
+    using Step = InstallationStep;
+    static const QList<ScreenVisit> visits = {
+        {"Onboarding",
+         [](ScreenTour& t) {
+             Preferences::setHasCompletedOnboarding(false);
+             t.go(Step::onboarding, std::nullopt);
+         },
+         "getStartedButton"},
+        {"FirstDashboard", [](ScreenTour& t) { t.go(Step::home, std::nullopt); }, "actionButton"},
+        {"DashboardWithTools",
+         [](ScreenTour& t) {
+             t.go(Step::home, std::nullopt, {"claude", "brew", "node"});
+         },
+         "actionButton"},
+        {"ToolChoice", [](ScreenTour& t) { t.go(Step::welcome, std::nullopt); }, "toolCard.claudeCode"},
+        {"ToolChosen",
+         [](ScreenTour& t) {
+             t.go(Step::welcome, CLITool::codex);
+             t.press("whatIsAIHeader");
+         },
+         "toolCard.codex"},
+        {"Account", [](ScreenTour& t) { t.go(Step::accountSetup, CLITool::claudeCode); }, "haveAccountButton"},
+        {"CheckWithNodeToCome",
+         [](ScreenTour& t) {
+             t.go(Step::systemCheck, CLITool::geminiCLI, {"git"});
+             test::child<RequirementRow>(t.screen(), QStringLiteral("requirementRow.nodeJS"))->helpButton()->click();
+             test::settle();
+         },
+         "mainButton"},
+        {"CheckWithTooLittleSpace",
+         [](ScreenTour& t) {
+             t.platform.diskSpace = DiskSpace{100 * 1024 * 1024, {}};
+             t.go(Step::systemCheck, CLITool::geminiCLI);
+         },
+         "helpButton"},
+        {"CheckFindsTheTool", [](ScreenTour& t) { t.go(Step::systemCheck, CLITool::claudeCode, {"claude"}); },
+         "mainButton"},
+        {"InstallationFailed",
+         [](ScreenTour& t) {
+             t.sandbox.setEnv("FAKE_NPM_FAIL", "1");
+             t.go(Step::installation, CLITool::geminiCLI, {"git", "npm", "node"});
+             t.press("detailsButton");
+         },
+         "mainButton"},
+        {"InstallationComplete",
+         [](ScreenTour& t) {
+             t.go(Step::installation, CLITool::claudeCode, {"git", "curl"});
+         },
+         "mainButton"},
+        {"APIKey", [](ScreenTour& t) { t.go(Step::apiKey, CLITool::claudeCode); }, "apiKeyField"},
+        {"ReadyWithoutWindow",
+         [](ScreenTour& t) {
+             t.platform.terminalOpens = false;
+             t.go(Step::completion, CLITool::claudeCode);
+             t.press("commonCommandsHeader");
+             t.press("openInTerminalButton");
+         },
+         "openInTerminalButton"},
+        {"TerminalWithoutWindow",
+         [](ScreenTour& t) {
+             t.platform.terminalOpens = false;
+             t.go(Step::terminal, CLITool::codex);
+         },
+         "backToHomeButton"},
+    };
+    return visits;
+}
+
 TEST_P(ScreenTour, EveryScreenIsUsableByKeyboardReadableAndKeepsToItsColumn)
 {
-    const QList<ScreenVisit> stops = tour();
-    const ScreenVisit& stop = stops.at(std::get<0>(GetParam()));
-    stop.arrive();
+    const ScreenVisit& stop = tour().at(std::get<0>(GetParam()));
+    stop.arrive(*this);
     ASSERT_FALSE(HasFatalFailure());
     SCOPED_TRACE(stop.name);
 
@@ -469,7 +453,8 @@ TEST_P(ScreenTour, EveryScreenIsUsableByKeyboardReadableAndKeepsToItsColumn)
     inBothAppearances([this] { expectReadable(window.get()); });
 }
 
-INSTANTIATE_TEST_SUITE_P(EveryScreen, ScreenTour, ::testing::Combine(::testing::Range(0, kVisits), ::testing::Bool()),
+INSTANTIATE_TEST_SUITE_P(EveryScreen, ScreenTour,
+                         ::testing::Combine(::testing::Range(0, int(ScreenTour::tour().size())), ::testing::Bool()),
                          ScreenTour::visitName);
 
 namespace {

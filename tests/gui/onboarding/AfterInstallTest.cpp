@@ -108,8 +108,6 @@ TEST_F(AfterInstallTest, CompletionTellsAFreshInstallFromAnOpenedTool)
     EXPECT_FALSE(third->command().has_value());
     EXPECT_TRUE(third->findChildren<ui::CopyButton*>().isEmpty());
     EXPECT_EQ(third->findChild<QLabel*>(QStringLiteral("code")), nullptr);
-    EXPECT_EQ(tips->steps().first()->command(),
-              QStringLiteral("mkdir -p ~/Developer/my-first-project && cd ~/Developer/my-first-project"));
 
     state.setIsOpeningExistingTool(true);
     for (CLITool tool : {CLITool(CLITool::geminiCLI), CLITool(CLITool::codex)}) {
@@ -145,17 +143,19 @@ TEST_F(AfterInstallTest, EveryCopyPutsItsTextOnTheClipboardUnderOneToast)
     EXPECT_EQ(hidden.count(), 1);
 }
 
-TEST_F(AfterInstallTest, CompletionWithoutAToolOffersOnlyTheWayHome)
+TEST_F(AfterInstallTest, WithoutAToolTheScreensAfterInstallOfferOnlyTheWayHome)
 {
-    state.setIsOpeningExistingTool(true);
-    open(InstallationStep::completion, std::nullopt);
-    EXPECT_EQ(screen()->findChild<QWidget*>(QStringLiteral("openInTerminalButton")), nullptr);
-    EXPECT_EQ(screen()->findChild<QWidget*>(QStringLiteral("quickStartCard")), nullptr);
-    EXPECT_EQ(screen()->findChild<QWidget*>(QStringLiteral("commonCommandsCard")), nullptr);
-    click("homeButton");
-    EXPECT_EQ(state.currentStep(), InstallationStep::home);
-    EXPECT_FALSE(state.isOpeningExistingTool());
-    EXPECT_FALSE(state.selectedTool().has_value());
+    for (const auto& [step, home] :
+         {std::pair{InstallationStep::completion, "homeButton"}, {InstallationStep::terminal, "backToHomeButton"}}) {
+        SCOPED_TRACE(home);
+        state.setIsOpeningExistingTool(true);
+        open(step, std::nullopt);
+        EXPECT_EQ(test::focusableControls(screen()).size(), 1);
+        click(home);
+        EXPECT_EQ(state.currentStep(), InstallationStep::home);
+        EXPECT_FALSE(state.isOpeningExistingTool());
+        EXPECT_FALSE(state.selectedTool().has_value());
+    }
     EXPECT_TRUE(platform.terminals.isEmpty());
 }
 
@@ -230,13 +230,8 @@ TEST_F(AfterInstallTest, TheTerminalScreenLaunchesOncePerArrival)
         test::settle();
     }
     EXPECT_EQ(platform.terminals, (QList{launch}));
-    EXPECT_EQ(text("terminalTitle"), QStringLiteral("Codex launched in Terminal"));
-    EXPECT_EQ(text("terminalSubtitle"), QStringLiteral("Switch to Terminal.app to start using Codex"));
-    QStringList tips;
     for (QLabel* tip : screen()->findChildren<QLabel*>(QStringLiteral("tipCommand")))
-        tips << tip->text();
-    EXPECT_EQ(tips, (QStringList{QStringLiteral("codex"), QStringLiteral("codex \"write a unit test\""),
-                                 QStringLiteral("codex --help")}));
+        EXPECT_TRUE(tip->text().startsWith(QStringLiteral("codex"))) << tip->text().toStdString();
 
     click("openAgainButton");
     click("openAgainButton");
@@ -250,16 +245,6 @@ TEST_F(AfterInstallTest, TheTerminalScreenLaunchesOncePerArrival)
     click("backToHomeButton");
     EXPECT_EQ(state.currentStep(), InstallationStep::home);
     EXPECT_FALSE(state.selectedTool().has_value());
-}
-
-TEST_F(AfterInstallTest, TheTerminalScreenWithoutAToolLaunchesNothing)
-{
-    open(InstallationStep::terminal, std::nullopt);
-    EXPECT_EQ(text("noToolTitle"), QStringLiteral("No tool selected"));
-    EXPECT_EQ(test::focusableControls(screen()).size(), 1);
-    click("backToHomeButton");
-    EXPECT_EQ(state.currentStep(), InstallationStep::home);
-    EXPECT_TRUE(platform.terminals.isEmpty());
 }
 
 TEST_F(AfterInstallTest, AFailedLaunchDoesNotClaimTheToolRuns)
@@ -290,8 +275,6 @@ TEST_F(AfterInstallTest, TheKeyFieldEditsOneTextThatStaysSecretWhileMasked)
     open(InstallationStep::apiKey, CLITool::claudeCode);
     EXPECT_TRUE(keyField()->hasFocus()) << "the field is ready for the paste";
     EXPECT_FALSE(button("saveButton")->isEnabled());
-    EXPECT_EQ(text("profileCaption"),
-              QStringLiteral("This will be saved to your shell profile (~/.zshrc) as ANTHROPIC_API_KEY"));
     button("openConsoleButton")->click();
     EXPECT_EQ(platform.openedURLs, QList<QUrl>{CLITool(CLITool::claudeCode).apiKeyURL()});
 

@@ -346,14 +346,12 @@ TEST_F(InstallFlowTest, TheLogShowsEveryByteAndCanBeCopied)
     EXPECT_EQ(log->text(), state.installationOutput());
     EXPECT_TRUE(log->isFollowing());
 
-    // A reader who scrolled up stays where they are while more arrives.
+    // A reader who scrolled up (LogView's own tests follow that) finds the newest line on
+    // closing and opening the log again.
     QScrollBar* bar = log->textView()->verticalScrollBar();
     ASSERT_GT(bar->maximum(), 0);
     bar->setValue(3);
-    state.appendInstallationOutput(QStringLiteral("more\nand more\n"));
-    EXPECT_EQ(bar->value(), 3);
-    EXPECT_FALSE(log->isFollowing());
-    // Closing and opening the log again shows the newest line.
+    ASSERT_FALSE(log->isFollowing());
     QTest::mouseClick(test::child<QWidget>(screen(), QStringLiteral("detailsButton")), Qt::LeftButton);
     QTest::mouseClick(test::child<QWidget>(screen(), QStringLiteral("detailsButton")), Qt::LeftButton);
     test::settle();
