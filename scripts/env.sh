@@ -30,3 +30,15 @@ run_setup() {
         bash "$(dirname "${BASH_SOURCE[0]}")/setup"
     fi
 }
+
+# Configures a preset with the given compiler. A build folder configured with another compiler
+# is made afresh: CMake would otherwise drop the preset's settings along with its cache.
+configure_with_compiler() {
+    local preset=$1 compiler=$2 cache
+    shift 2
+    cache="$(dirname "${BASH_SOURCE[0]}")/../build/$preset/CMakeCache.txt"
+    if [ -f "$cache" ] && ! grep -qx "CMAKE_CXX_COMPILER:[A-Z]*=$(command -v "$compiler")" "$cache"; then
+        rm -rf "$(dirname "$cache")"
+    fi
+    cmake --preset "$preset" -DCMAKE_CXX_COMPILER="$compiler" "$@" >/dev/null
+}
