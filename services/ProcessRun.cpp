@@ -261,10 +261,13 @@ void ProcessRun::finish()
 
 void ProcessRun::handOver()
 {
-    // Once the waiter has taken the outcome, the run (and the ended process) may go.
+    // Once the waiter has taken the outcome, the run (and the ended process) may go, unless
+    // what the waiter did meanwhile closed its owner, which took the run along.
+    const QPointer<ProcessRun> self(this);
     if (auto waiter = std::exchange(m_waiter, {}))
         waiter.resume();
-    deleteLater();
+    if (self)
+        deleteLater();
 }
 
 ProcessRun::~ProcessRun()
@@ -295,9 +298,11 @@ struct ProcessRuns::Pause : QObject {
     {
         timer.setSingleShot(true);
         QObject::connect(&timer, &QTimer::timeout, this, [this] {
+            const QPointer<Pause> self(this);
             if (auto resumed = std::exchange(waiter, {}))
                 resumed.resume();
-            deleteLater();
+            if (self)
+                deleteLater();
         });
         timer.start(ms);
     }
@@ -329,9 +334,10 @@ ProcessRun* ProcessRuns::start(ProcessRun::Options options)
 
 void ProcessRuns::close()
 {
-    m_closed = true;
-    // A waiter that goes on may add nothing, but deleting one child at a time stays right
-    // whatever the others do meanwhile.
+    // A waiter that goes on may close again, which has nothing more to do; nor can it start
+    // anything new.
+    if (std::exchange(m_closed, true))
+        return;
     while (!children().isEmpty())
         delete children().constFirst();
 }
