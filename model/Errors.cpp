@@ -51,6 +51,13 @@ ShellError ShellError::stalled(double seconds, const QString& activity)
     return error;
 }
 
+ShellError ShellError::cancellation()
+{
+    ShellError error;
+    error.m_kind = cancelled;
+    return error;
+}
+
 QString ShellError::durationText(double seconds)
 {
     const QLocale english(QLocale::English);
@@ -90,6 +97,7 @@ QString ShellError::errorDescription() const
         if (!m_activity.isEmpty())
             return tr("%1 made no progress for %2 and was stopped.").arg(m_activity, durationText(m_seconds));
         return tr("The command showed no progress for %1 and was stopped.").arg(durationText(m_seconds));
+    case cancelled: return tr("The command was cancelled.");
     }
     return {};
 }

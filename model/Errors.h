@@ -13,12 +13,12 @@ namespace qf {
 
 // A shell command that failed: it ran and ended with a non-zero status, it could not be
 // started, or it was stopped: it ran longer than it was allowed to, it wrote more output than
-// is kept, or it showed no progress for too long.
+// is kept, it showed no progress for too long, or whoever started it cancelled it.
 class ShellError {
     Q_DECLARE_TR_FUNCTIONS(ShellError)
 
 public:
-    enum Kind { commandFailed, processError, timedOut, outputTooLarge, noProgress };
+    enum Kind { commandFailed, processError, timedOut, outputTooLarge, noProgress, cancelled };
 
     // At most this much of a failed command's output is shown to a person: its end.
     static constexpr qsizetype shownOutputLength = 2000;
@@ -31,6 +31,8 @@ public:
     static ShellError outputLimit(qint64 bytes);
     // `activity` names what stalled ("The download of node.tar.gz"); empty: "The command".
     static ShellError stalled(double seconds, const QString& activity = QString());
+    // Stopped, or never started, because whoever started it no longer wanted it.
+    static ShellError cancellation();
 
     // "1 second", "0.5 seconds", "1,234.5 seconds", "15 minutes": a length of time as the
     // messages say it.

@@ -1,6 +1,16 @@
 #include "LoginEnvironment.h"
 
+#include "Errors.h"
+#include "Platform.h"
+#include "ProcessRun.h"
+#include "TemporaryFolders.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
 #include <QProcessEnvironment>
+#include <QRandomGenerator>
+#include <QTemporaryDir>
 
 namespace qf {
 
@@ -17,6 +27,14 @@ QByteArray beginMarker(const QByteArray& token) { return "quillforge-environment
 // A variable that env prints with the others: the list is whole when it is there.
 QByteArray endEntry(const QByteArray& token) { return "quillforge_environment_" + token + "_end=1"; }
 
+// Letters no start-up file prints by chance.
+QByteArray randomToken()
+{
+    quint32 words[4];
+    QRandomGenerator::system()->fillRange(words);
+    return QByteArray(reinterpret_cast<const char*>(words), sizeof(words)).toHex();
+}
+
 } // namespace
 
 EnvironmentVariables LoginEnvironment::appliedTo(EnvironmentVariables variables) const
@@ -29,6 +47,75 @@ EnvironmentVariables LoginEnvironment::appliedTo(EnvironmentVariables variables)
 }
 
 namespace loginEnvironment {
+
+QCoro::Task<LoginReading> read(ProcessRuns& runs, const Platform& platform, ReadingOptions options)
+{
+    const QByteArray token = randomToken();
+    const QStringList invocation = platform.loginShellInvocation(script(token));
+    LoginReading reading;
+    reading.loginShell = invocation.mid(0, invocation.size() - 2).join(QLatin1Char(' '));
+
+    // The shell writes its environment into a file of a folder only the user can enter: the
+    // shell's own output may go wherever its start-up files send it (a session log), and an
+    // environment holds keys.
+    const QTemporaryDir folder(temporaryFolders::pattern(temporaryFolders::kEnvironment));
+    const QString file = folder.filePath(QStringLiteral("environment"));
+
+    // The shell starts from the application's environment and search path, as a terminal does.
+    EnvironmentVariables started = applicationEnvironment();
+    started.insert("PATH", options.path.toLocal8Bit());
+    started.insert(kEnvironmentFileVariable, QFile::encodeName(file));
+    ProcessRun::Options run;
+    run.program = invocation.value(0);
+    run.arguments = invocation.mid(1);
+    run.environment = entries(started);
+    run.workingDirectory = options.workingDirectory;
+    run.channels = ProcessRun::Channels::separate;
+    run.timeoutMs = options.timeoutMs;
+    run.terminationGraceMs = options.terminationGraceMs;
+    run.captureLimitBytes = options.outputLimitBytes;
+
+    QElapsedTimer clock;
+    clock.start();
+    ProcessOutcome outcome;
+    outcome.kind = ProcessOutcome::cancelled;
+    if (!folder.isValid()) {
+        outcome.kind = ProcessOutcome::failedToStart;
+        outcome.launchError = QStringLiteral("no private folder in ") + QDir::tempPath();
+    } else if (ProcessRun* process = runs.start(std::move(run))) {
+        outcome = co_await process->outcome();
+    }
+    reading.milliseconds = clock.nsecsElapsed() / 1.0e6;
+
+    switch (outcome.kind) {
+    case ProcessOutcome::cancelled: reading.cancelled = true; break;
+    case ProcessOutcome::failedToStart:
+        reading.failure = QStringLiteral("could not be started: ") + outcome.launchError;
+        break;
+    case ProcessOutcome::timedOut:
+        reading.failure = QStringLiteral("did not finish within ") +
+                          ShellError::durationText(options.timeoutMs / 1000.0);
+        break;
+    case ProcessOutcome::outputLimitReached: reading.failure = QStringLiteral("printed too much"); break;
+    case ProcessOutcome::stalled:
+    case ProcessOutcome::exited: {
+        // Whatever the shell's exit status, an environment between the markers is what it had.
+        QFile written(file);
+        const QByteArray contents = written.open(QIODevice::ReadOnly) ? written.readAll() : QByteArray();
+        const std::optional<EnvironmentVariables> printed = parse(contents, token);
+        if (!printed)
+            reading.failure =
+                QStringLiteral("gave no environment (exit code %1; a start-up file may end or replace the shell)")
+                    .arg(outcome.exitCode);
+        else if (printed->value("PATH").isEmpty())
+            reading.failure = QStringLiteral("gave no search path");
+        else
+            reading.environment = std::make_shared<LoginEnvironment>(difference(started, *printed));
+        break;
+    }
+    }
+    co_return reading;
+}
 
 EnvironmentVariables applicationEnvironment()
 {

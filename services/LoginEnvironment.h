@@ -1,13 +1,18 @@
 #pragma once
 
 #include <QByteArray>
+#include <QCoro/QCoroTask>
 #include <QList>
 #include <QMap>
 #include <QString>
 
+#include <memory>
 #include <optional>
 
 namespace qf {
+
+class Platform;
+class ProcessRuns;
 
 // Environment variables byte for byte, by name: values may hold line breaks, '=' and bytes
 // that are not UTF-8.
@@ -26,7 +31,32 @@ struct LoginEnvironment {
     EnvironmentVariables appliedTo(EnvironmentVariables variables) const;
 };
 
+// How one reading of the login shell's environment went.
+struct LoginReading {
+    std::shared_ptr<const LoginEnvironment> environment; // nothing when it gave none
+    QString failure;                                     // and why
+    // Its owner stopped it (or it never started): it says nothing about the login shell.
+    bool cancelled = false;
+    // The login shell read, as a command line: "/bin/zsh -l".
+    QString loginShell;
+    double milliseconds = 0;
+};
+
 namespace loginEnvironment {
+
+// What a reading of the login shell starts from and may take.
+struct ReadingOptions {
+    // The search path the shell starts with, as a terminal's shell does: the application's.
+    QString path;
+    QString workingDirectory;
+    int timeoutMs = 0;
+    int terminationGraceMs = 0;
+    qsizetype outputLimitBytes = 0;
+};
+
+// Starts the user's login shell (Platform::loginShellInvocation) as a run of `runs`, from the
+// application's environment, and reads the environment its start-up files leave.
+QCoro::Task<LoginReading> read(ProcessRuns& runs, const Platform& platform, ReadingOptions options);
 
 // The application's own environment as it is now.
 EnvironmentVariables applicationEnvironment();

@@ -40,6 +40,9 @@ public:
         // What Node.js a tool needs comes from its newest release, as the update checks read it.
         detector.setPublishedRequirement([this](CLITool tool) { return updateChecker.publishedNodeMajor(tool); });
     }
+    // Commands still running stop first, while every service that waits for one is there to
+    // take its cancellation.
+    ~Services() { runner.shutDown(); }
     Services(const Services&) = delete;
     Services& operator=(const Services&) = delete;
 

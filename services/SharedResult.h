@@ -1,7 +1,5 @@
 #pragma once
 
-#include <QCoreApplication>
-
 #include <coroutine>
 #include <memory>
 #include <utility>
@@ -10,8 +8,9 @@
 namespace qf {
 
 // One piece of work whose result several callers wait for: the first caller does the work and
-// calls `finish`; the others `co_await SharedResult::result(shared)`. Waiters are resumed on a
-// later turn of the event loop, one after the other, once the result has come.
+// calls `finish`; the others `co_await SharedResult::result(shared)`. `finish` resumes the
+// waiters one after the other before it returns, so that they end with the work: when its
+// owner stops the work, nobody is left waiting on a later turn of the event loop.
 template <typename T>
 class SharedResult {
 public:
@@ -28,8 +27,7 @@ public:
         m_result = std::move(result);
         m_done = true;
         for (const std::coroutine_handle<> waiter : std::exchange(m_waiters, {}))
-            QMetaObject::invokeMethod(
-                QCoreApplication::instance(), [waiter] { waiter.resume(); }, Qt::QueuedConnection);
+            waiter.resume();
     }
 
 private:

@@ -9,15 +9,12 @@
 #include "Utf8Stream.h"
 
 #include <QCoreApplication>
-#include <QCoro/QCoroTimer>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFileInfo>
 #include <QRandomGenerator>
 #include <QTemporaryDir>
 
 #include <algorithm>
-#include <chrono>
 #include <coroutine>
 #include <functional>
 #include <memory>
@@ -28,13 +25,11 @@
 
 namespace qf {
 
-using namespace std::chrono_literals;
-
 namespace {
 
 // Between a streamed command's end and the return of the call, so that every chunk of its
 // output has been handled first.
-constexpr auto kStreamCompletionDelay = 100ms;
+constexpr int kStreamCompletionDelayMs = 100;
 // How much of a streamed command's last output a failure keeps.
 constexpr qsizetype kKeptOutputTail = 4000;
 // What a login shell's start-up files may print before a command's own output without that
@@ -140,7 +135,28 @@ ShellRunner::ShellRunner(Configuration configuration, const Platform* platform)
     }
 }
 
-ShellRunner::~ShellRunner() = default;
+ShellRunner::~ShellRunner() { shutDown(); }
+
+void ShellRunner::shutDown() { m_runs.close(); }
+
+Cancellation::Cancellation() : m_state(std::make_shared<State>()) {}
+
+Cancellation::Cancellation(QObject* context) : Cancellation()
+{
+    if (context)
+        QObject::connect(context, &QObject::destroyed, [state = m_state] { cancel(*state); });
+}
+
+void Cancellation::cancel() const { cancel(*m_state); }
+
+void Cancellation::cancel(State& state)
+{
+    state.cancelled = true;
+    for (const QPointer<ProcessRun>& run : std::exchange(state.runs, {})) {
+        if (run)
+            run->cancel();
+    }
+}
 
 QString ShellRunner::searchPath(const QString& home, QStringList nvmVersionNames, const QStringList& fixedDirectories,
                                 const std::optional<QString>& inheritedPath)
@@ -200,10 +216,10 @@ QProcessEnvironment ShellRunner::commandEnvironment() const
 }
 
 ProcessRun::Options ShellRunner::processOptions(const QString& command, const LoginEnvironment* login, Start start,
-                                                ProcessRun::Channels channels, const QString& startMark) const
+                                                ProcessRun::Options settings, const QString& startMark) const
 {
-    ProcessRun::Options options;
-    options.channels = channels;
+    ProcessRun::Options options = std::move(settings);
+    const ProcessRun::Channels channels = options.channels;
     EnvironmentVariables variables = commandVariables(login);
     if (start == Start::asLoginShell) {
         // The user's shell reads its start-up files and hands over to the commands' shell,
@@ -263,13 +279,22 @@ QCoro::Task<std::shared_ptr<const LoginEnvironment>> ShellRunner::environment()
 
     const auto reading = std::make_shared<Reading>(m_generation);
     m_reading = reading;
-    const LoginReading outcome = co_await readLoginShell();
+    loginEnvironment::ReadingOptions options;
+    options.path = inheritedSearchPath();
+    options.workingDirectory = workingFolder();
+    options.timeoutMs = m_configuration.loginEnvironmentTimeoutMs;
+    options.terminationGraceMs = m_configuration.terminationGraceMs;
+    options.outputLimitBytes = m_configuration.outputLimitBytes;
+    const LoginReading outcome = co_await loginEnvironment::read(m_runs, *m_platform, options);
     const std::shared_ptr<const LoginEnvironment>& read = outcome.environment;
+    m_state.loginShell = outcome.loginShell;
+    m_state.readingMs = outcome.milliseconds;
     if (m_reading == reading)
         m_reading.reset();
     // A reading that an invalidation overtook still serves the commands that waited for it,
-    // but says nothing about the environment of later ones.
-    if (reading->generation() == m_generation) {
+    // but says nothing about the environment of later ones; nor does one that was stopped
+    // because the runner shut down.
+    if (reading->generation() == m_generation && !outcome.cancelled) {
         if (read) {
             m_environment = read;
             m_environmentGeneration = reading->generation();
@@ -293,73 +318,6 @@ QCoro::Task<std::shared_ptr<const LoginEnvironment>> ShellRunner::environment()
     co_return read;
 }
 
-QCoro::Task<ShellRunner::LoginReading> ShellRunner::readLoginShell()
-{
-    const QByteArray token = randomToken();
-    const QStringList invocation = m_platform->loginShellInvocation(loginEnvironment::script(token));
-    const QString shown = invocation.mid(0, invocation.size() - 2).join(QLatin1Char(' '));
-
-    // The shell writes its environment into a file of a folder only the user can enter: the
-    // shell's own output may go wherever its start-up files send it (a session log), and an
-    // environment holds keys.
-    const QTemporaryDir folder(temporaryFolders::pattern(temporaryFolders::kEnvironment));
-    const QString file = folder.filePath(QStringLiteral("environment"));
-
-    // The shell starts from the application's environment and search path, as a terminal does.
-    EnvironmentVariables started = loginEnvironment::applicationEnvironment();
-    started.insert("PATH", inheritedSearchPath().toLocal8Bit());
-    started.insert(loginEnvironment::kEnvironmentFileVariable, QFile::encodeName(file));
-    ProcessRun::Options options;
-    options.program = invocation.value(0);
-    options.arguments = invocation.mid(1);
-    options.environment = loginEnvironment::entries(started);
-    options.workingDirectory = workingFolder();
-    options.channels = ProcessRun::Channels::separate;
-    options.timeoutMs = m_configuration.loginEnvironmentTimeoutMs;
-    options.terminationGraceMs = m_configuration.terminationGraceMs;
-    options.captureLimitBytes = m_configuration.outputLimitBytes;
-
-    QElapsedTimer clock;
-    clock.start();
-    ProcessOutcome outcome;
-    if (folder.isValid()) {
-        auto* process = new ProcessRun(std::move(options));
-        outcome = co_await process->outcome();
-    } else {
-        outcome.kind = ProcessOutcome::failedToStart;
-        outcome.launchError = QStringLiteral("no private folder in ") + QDir::tempPath();
-    }
-    m_state.loginShell = shown;
-    m_state.readingMs = clock.nsecsElapsed() / 1.0e6;
-
-    QString failure;
-    std::shared_ptr<LoginEnvironment> read;
-    switch (outcome.kind) {
-    case ProcessOutcome::failedToStart: failure = QStringLiteral("could not be started: ") + outcome.launchError; break;
-    case ProcessOutcome::timedOut:
-        failure = QStringLiteral("did not finish within ") +
-                  ShellError::durationText(m_configuration.loginEnvironmentTimeoutMs / 1000.0);
-        break;
-    case ProcessOutcome::outputLimitReached: failure = QStringLiteral("printed too much"); break;
-    case ProcessOutcome::stalled:
-    case ProcessOutcome::exited: {
-        // Whatever the shell's exit status, an environment between the markers is what it had.
-        QFile written(file);
-        const QByteArray contents = written.open(QIODevice::ReadOnly) ? written.readAll() : QByteArray();
-        const std::optional<EnvironmentVariables> printed = loginEnvironment::parse(contents, token);
-        if (!printed)
-            failure = QStringLiteral("gave no environment (exit code %1; a start-up file may end or replace the shell)")
-                          .arg(outcome.exitCode);
-        else if (printed->value("PATH").isEmpty())
-            failure = QStringLiteral("gave no search path");
-        else
-            read = std::make_shared<LoginEnvironment>(loginEnvironment::difference(started, *printed));
-        break;
-    }
-    }
-    co_return LoginReading{std::move(read), failure};
-}
-
 QCoro::Task<ShellRunner::EnvironmentState> ShellRunner::readEnvironment()
 {
     co_await environment();
@@ -367,33 +325,53 @@ QCoro::Task<ShellRunner::EnvironmentState> ShellRunner::readEnvironment()
     co_return state;
 }
 
-QCoro::Task<Result<QString>> ShellRunner::run(QString command, double timeoutSeconds)
+QCoro::Task<ProcessOutcome> ShellRunner::runProcess(ProcessRun::Options options, Cancellation cancellation)
+{
+    ProcessRun* process = cancellation.isCancelled() ? nullptr : m_runs.start(std::move(options));
+    if (!process) {
+        ProcessOutcome cancelled;
+        cancelled.kind = ProcessOutcome::cancelled;
+        co_return cancelled;
+    }
+    std::vector<QPointer<ProcessRun>>& running = cancellation.m_state->runs;
+    std::erase_if(running, [](const QPointer<ProcessRun>& run) { return run.isNull(); });
+    running.emplace_back(process);
+    ProcessOutcome outcome = co_await process->outcome();
+    co_return outcome;
+}
+
+QCoro::Task<ProcessOutcome> ShellRunner::execute(QString command, ProcessRun::Options settings,
+                                                 Cancellation cancellation)
 {
     const std::shared_ptr<const LoginEnvironment> login = co_await environment();
     const Start start = login ? Start::withoutStartupFiles : Start::asLoginShell;
+    const bool separate = settings.channels == ProcessRun::Channels::separate;
+    const qsizetype limit = settings.captureLimitBytes;
     const StartMark mark;
-    ProcessRun::Options options = processOptions(command, login.get(), start, ProcessRun::Channels::separate,
-                                                 mark.path());
-    // At least a millisecond, at most what a timer can wait.
-    const int timeoutMs = timeoutSeconds > 0 ? static_cast<int>(std::clamp(timeoutSeconds * 1000.0, 1.0, 2.0e9)) : 0;
-    options.timeoutMs = timeoutMs;
-    // A login shell's start-up files may print a little before the command's own output, which
-    // alone is held to the limit.
-    const qsizetype limit = m_configuration.outputLimitBytes;
-    options.captureLimitBytes = start == Start::asLoginShell && limit > 0 ? limit + kStartupOutputAllowance : limit;
+    ProcessRun::Options options = processOptions(command, login.get(), start, settings, mark.path());
+    if (start == Start::asLoginShell) {
+        // A login shell's start-up files may print a little before the command's own output,
+        // which alone is held to the limit and handed on.
+        if (limit > 0)
+            options.captureLimitBytes = limit + kStartupOutputAllowance;
+        if (options.onOutput) {
+            auto marked = std::make_shared<MarkedStream>(MarkedStream{QString::fromLatin1(m_marker), {}, false});
+            options.onOutput = [marked, deliver = settings.onOutput](const QString& text) {
+                const QString own = marked->feed(text);
+                if (!own.isEmpty())
+                    deliver(own);
+            };
+        }
+    }
 
-    auto* process = new ProcessRun(std::move(options));
-    ProcessOutcome outcome = co_await process->outcome();
+    ProcessOutcome outcome = co_await runProcess(options, cancellation);
     if (start == Start::asLoginShell && outcome.kind == ProcessOutcome::exited) {
         if (mark.provesNoStart()) {
             // The command never ran: a start-up file ended or replaced the shell first. It
             // runs without them.
-            ProcessRun::Options bare = processOptions(command, nullptr, Start::bare, ProcessRun::Channels::separate);
-            bare.timeoutMs = timeoutMs;
-            bare.captureLimitBytes = m_configuration.outputLimitBytes;
-            auto* again = new ProcessRun(std::move(bare));
-            outcome = co_await again->outcome();
-        } else {
+            const ProcessRun::Options bare = processOptions(command, nullptr, Start::bare, settings);
+            outcome = co_await runProcess(bare, cancellation);
+        } else if (separate) {
             // The command's own output follows the marker; what came before is the start-up
             // files'. Without a marker, its output went where a start-up file sent it.
             outcome.standardOutput = after(outcome.standardOutput, m_marker).value_or(QByteArray());
@@ -402,12 +380,25 @@ QCoro::Task<Result<QString>> ShellRunner::run(QString command, double timeoutSec
                 outcome.kind = ProcessOutcome::outputLimitReached;
         }
     }
+    co_return outcome;
+}
+
+QCoro::Task<Result<QString>> ShellRunner::run(QString command, double timeoutSeconds, Cancellation cancellation)
+{
+    // At least a millisecond, at most what a timer can wait.
+    const int timeoutMs = timeoutSeconds > 0 ? static_cast<int>(std::clamp(timeoutSeconds * 1000.0, 1.0, 2.0e9)) : 0;
+    ProcessRun::Options settings;
+    settings.channels = ProcessRun::Channels::separate;
+    settings.timeoutMs = timeoutMs;
+    settings.captureLimitBytes = m_configuration.outputLimitBytes;
+    const ProcessOutcome outcome = co_await execute(command, settings, cancellation);
 
     switch (outcome.kind) {
     case ProcessOutcome::failedToStart: co_return ShellError::launchFailed(outcome.launchError);
     // The limit that was applied: a timer waits at most about 23 days.
     case ProcessOutcome::timedOut: co_return ShellError::timeout(timeoutMs / 1000.0);
     case ProcessOutcome::outputLimitReached: co_return ShellError::outputLimit(m_configuration.outputLimitBytes);
+    case ProcessOutcome::cancelled: co_return ShellError::cancellation();
     case ProcessOutcome::stalled:
     case ProcessOutcome::exited: break;
     }
@@ -444,59 +435,32 @@ QCoro::Task<Result<QString>> ShellRunner::findProgram(QString program)
 }
 
 QCoro::Task<Result<void>> ShellRunner::runWithStreaming(QString command, OutputHandler onOutput, QObject* context,
-                                                        QString activity)
+                                                        QString activity, Cancellation cancellation)
 {
-    const std::shared_ptr<const LoginEnvironment> login = co_await environment();
-    const Start start = login ? Start::withoutStartupFiles : Start::asLoginShell;
     // The end of the output, for the failure's message.
     auto tail = std::make_shared<QString>();
-    const OutputHandler deliver = [tail, handler = std::move(onOutput)](const QString& text) {
+    ProcessRun::Options settings;
+    settings.channels = ProcessRun::Channels::merged;
+    settings.onOutput = [tail, handler = std::move(onOutput)](const QString& text) {
         *tail += text;
         if (tail->size() > 2 * kKeptOutputTail)
             tail->remove(0, tail->size() - kKeptOutputTail);
         if (handler)
             handler(text);
     };
-    // A login shell's output is the command's own only from the marker on.
-    auto marked = std::make_shared<MarkedStream>(MarkedStream{QString::fromLatin1(m_marker), {}, false});
-
-    const StartMark mark;
-    ProcessRun::Options options = processOptions(command, login.get(), start, ProcessRun::Channels::merged,
-                                                 mark.path());
-    if (start == Start::asLoginShell) {
-        options.onOutput = [marked, deliver](const QString& text) {
-            const QString own = marked->feed(text);
-            if (!own.isEmpty())
-                deliver(own);
-        };
-    } else {
-        options.onOutput = deliver;
-    }
-    options.context = context;
-    options.hasContext = context != nullptr;
-    options.inactivityTimeoutMs = m_configuration.streamInactivityMs;
-    options.progress = [](long long group) { return processGroupIoBytes(group); };
-
-    auto* process = new ProcessRun(options);
-    ProcessOutcome outcome = co_await process->outcome();
-    if (start == Start::asLoginShell && outcome.kind == ProcessOutcome::exited && mark.provesNoStart()) {
-        // The command never ran: a start-up file ended or replaced the shell first. It runs
-        // without them.
-        ProcessRun::Options bare = processOptions(command, nullptr, Start::bare, ProcessRun::Channels::merged);
-        bare.onOutput = deliver;
-        bare.context = options.context;
-        bare.hasContext = options.hasContext;
-        bare.inactivityTimeoutMs = options.inactivityTimeoutMs;
-        bare.progress = options.progress;
-        auto* again = new ProcessRun(std::move(bare));
-        outcome = co_await again->outcome();
-    }
+    settings.context = context;
+    settings.hasContext = context != nullptr;
+    settings.inactivityTimeoutMs = m_configuration.streamInactivityMs;
+    settings.progress = [](long long group) { return processGroupIoBytes(group); };
+    const ProcessOutcome outcome = co_await execute(command, settings, cancellation);
     if (outcome.kind == ProcessOutcome::failedToStart)
         co_return ShellError::launchFailed(outcome.launchError);
     if (outcome.kind == ProcessOutcome::stalled)
         co_return ShellError::stalled(m_configuration.streamInactivityMs / 1000.0, activity);
+    if (outcome.kind == ProcessOutcome::cancelled)
+        co_return ShellError::cancellation();
 
-    co_await QCoro::sleepFor(kStreamCompletionDelay);
+    co_await m_runs.pause(kStreamCompletionDelayMs);
     if (outcome.exitCode == 0)
         co_return Result<void>();
     // The output went to the handler; its end stays with the error, to say what went wrong.

@@ -6,16 +6,40 @@
 
 #include <QCoro/QCoroTask>
 #include <QObject>
+#include <QPointer>
 #include <QProcessEnvironment>
 #include <QStringList>
 
 #include <functional>
 #include <memory>
 #include <optional>
+#include <vector>
 
 namespace qf {
 
 class Platform;
+
+// A handle on the commands started with it, for whoever may want them stopped (a screen's
+// Cancel): `cancel()` stops the one running, with its whole process group, and a command
+// started with it later never starts; their callers get ShellError::cancelled. Copies share
+// one state. Tied to a context object, it is cancelled when the context goes.
+class Cancellation {
+public:
+    Cancellation();
+    explicit Cancellation(QObject* context);
+
+    void cancel() const;
+    bool isCancelled() const { return m_state->cancelled; }
+
+private:
+    friend class ShellRunner;
+    struct State {
+        bool cancelled = false;
+        std::vector<QPointer<ProcessRun>> runs;
+    };
+    static void cancel(State& state);
+    std::shared_ptr<State> m_state;
+};
 
 // Runs one shell command line at a time as a child process, in the user's home folder, with
 // the environment of the user's terminal and a search path that also covers Node.js versions
@@ -35,6 +59,10 @@ class Platform;
 // Commands never read from a terminal: standard input is the null device and the child runs
 // in a session of its own, so a command that would ask a question fails at once instead of
 // waiting for an answer nobody sees. Everything runs on the GUI thread without blocking it.
+//
+// The runner owns every process it starts: when it shuts down (at the latest when it goes),
+// every command still running is stopped with its whole process group and its caller resumes
+// with ShellError::cancelled, so no process and no waiting coroutine outlives it.
 class ShellRunner {
 public:
     using OutputHandler = std::function<void(const QString&)>;
@@ -95,7 +123,8 @@ public:
     // `commandFailed` with standard output and standard error combined; a command still
     // running after `timeoutSeconds` (0: no limit), or writing more than the output limit, is
     // stopped, with its whole process group. Bytes that are not UTF-8 become U+FFFD.
-    QCoro::Task<Result<QString>> run(QString command, double timeoutSeconds = defaultTimeoutSeconds);
+    QCoro::Task<Result<QString>> run(QString command, double timeoutSeconds = defaultTimeoutSeconds,
+                                     Cancellation cancellation = Cancellation());
 
     // Runs `command` with standard output and error merged, handing the text to `onOutput`
     // as it arrives (on the GUI thread), and returns 0.1 s after the command has ended. When
@@ -105,7 +134,8 @@ public:
     // names `activity` ("The download of node.tar.gz") when given. A failure keeps the end of
     // the output, so that a download's failure can say what happened.
     QCoro::Task<Result<void>> runWithStreaming(QString command, OutputHandler onOutput, QObject* context = nullptr,
-                                               QString activity = QString());
+                                               QString activity = QString(),
+                                               Cancellation cancellation = Cancellation());
 
     // Where `program` is found on the commands' search path: the path `which <program>` in a
     // command prints (the first executable file of that name in a folder of PATH). Looked up
@@ -122,6 +152,12 @@ public:
     const EnvironmentState& environmentState() const { return m_state; }
     // The same, once the environment has been read (reading it now unless it is known).
     QCoro::Task<EnvironmentState> readEnvironment();
+
+    // Stops every command now, each with its whole process group, and waits for them; their
+    // callers resume with ShellError::cancelled at once, and every later command is cancelled
+    // before it starts. The set of services does this first, while the services that wait
+    // for commands are still there.
+    void shutDown();
 
     // The search path the application itself was started with, which a new terminal window
     // starts from too.
@@ -149,18 +185,18 @@ private:
 
     // The login shell's environment; nothing when every command is a login shell of its own.
     QCoro::Task<std::shared_ptr<const LoginEnvironment>> environment();
-    struct LoginReading {
-        std::shared_ptr<const LoginEnvironment> environment; // nothing when it gave none
-        QString failure;                                     // and why
-    };
-    // Starts the login shell and reads its environment.
-    QCoro::Task<LoginReading> readLoginShell();
     // The variables a command gets.
     EnvironmentVariables commandVariables(const LoginEnvironment* login) const;
-    // `startMark`: the file a command run as a login shell of its own creates once its own
-    // shell has started.
+    // `settings` (channels, limits, output) with what starts `command`. `startMark`: the file
+    // a command run as a login shell of its own creates once its own shell has started.
     ProcessRun::Options processOptions(const QString& command, const LoginEnvironment* login, Start start,
-                                       ProcessRun::Channels channels, const QString& startMark = QString()) const;
+                                       ProcessRun::Options settings, const QString& startMark = QString()) const;
+    // Runs `command` as `settings` say: with the login shell's environment when it is known;
+    // otherwise as a login shell of its own, and a second time without start-up files only
+    // when it provably never started. Only the command's own output is kept or handed on.
+    QCoro::Task<ProcessOutcome> execute(QString command, ProcessRun::Options settings, Cancellation cancellation);
+    // One process, unless the runner shut down or the command was cancelled.
+    QCoro::Task<ProcessOutcome> runProcess(ProcessRun::Options options, Cancellation cancellation);
 
     Configuration m_configuration;
     const Platform* m_platform;
@@ -177,6 +213,8 @@ private:
     // Grows with every invalidation.
     quint64 m_generation = 1;
     EnvironmentState m_state;
+    // Every process started, and the waits after streamed commands.
+    ProcessRuns m_runs;
 };
 
 } // namespace qf

@@ -33,6 +33,14 @@ void reportFailure(CLITool tool, const QString& reason)
     printDiagnostic(QStringLiteral("Update check for %1 failed: %2").arg(tool.displayName(), reason));
 }
 
+// A check stopped because the application goes says nothing about the registry.
+void reportFailure(CLITool tool, const ServiceError& error)
+{
+    const ShellError* shell = error.shellError();
+    if (!shell || shell->kind() != ShellError::cancelled)
+        reportFailure(tool, failureReason(error));
+}
+
 } // namespace
 
 // One check of the registry for one tool, with the callers waiting for its answer.
@@ -153,7 +161,7 @@ QCoro::Task<std::optional<PublishedVersion>> UpdateChecker::askNpm(CLITool tool)
     const Result<QString> answer = co_await m_shell.run(QStringLiteral("npm view %1 version").arg(package),
                                                         registryTimeoutSeconds);
     if (!answer) {
-        reportFailure(tool, failureReason(answer.error()));
+        reportFailure(tool, answer.error());
         co_return std::nullopt;
     }
     const std::optional<ToolVersion> latest = readToolVersion(answer.value());
@@ -167,7 +175,7 @@ QCoro::Task<std::optional<PublishedVersion>> UpdateChecker::askNpm(CLITool tool)
         QStringLiteral("npm view %1 engines.node").arg(shellQuote(package + QLatin1Char('@') + version)),
         registryTimeoutSeconds);
     if (!engines) {
-        reportFailure(tool, failureReason(engines.error()));
+        reportFailure(tool, engines.error());
         co_return std::nullopt;
     }
     co_return PublishedVersion{version, minimumNodeMajor(engines.value()), m_clock()};
@@ -180,7 +188,7 @@ QCoro::Task<std::optional<PublishedVersion>> UpdateChecker::askRegistryOverHttps
     const Result<QString> answer = co_await m_shell.run(
         QStringLiteral("curl -fsSL --max-time 20 ") + shellQuote(address), 30);
     if (!answer) {
-        reportFailure(tool, failureReason(answer.error()));
+        reportFailure(tool, answer.error());
         co_return std::nullopt;
     }
     QJsonParseError parsing{};

@@ -46,17 +46,9 @@ void ProcessRun::stopEveryGroup()
     }
 }
 
-namespace {
-int g_existingRuns = 0;
-} // namespace
-
-int ProcessRun::existing() { return g_existingRuns; }
-
-ProcessRun::~ProcessRun() { --g_existingRuns; }
-
-ProcessRun::ProcessRun(Options options) : m_options(std::move(options)), m_process(new QProcess(this))
+ProcessRun::ProcessRun(Options options, ProcessRuns* owner)
+    : QObject(owner), m_options(std::move(options)), m_process(new QProcess(this))
 {
-    ++g_existingRuns;
     m_process->setProgram(m_options.program);
     m_process->setArguments(m_options.arguments);
     if (!m_options.workingDirectory.isEmpty())
@@ -138,6 +130,11 @@ ProcessRun::ProcessRun(Options options) : m_options(std::move(options)), m_proce
 
 void ProcessRun::start()
 {
+    // Cancelled before it started: it never does.
+    if (m_stopReason) {
+        finish();
+        return;
+    }
     m_process->start();
     if (m_done)
         return;
@@ -202,6 +199,8 @@ void ProcessRun::quietTimeOver()
     stop(ProcessOutcome::stalled);
 }
 
+void ProcessRun::cancel() { stop(ProcessOutcome::cancelled); }
+
 void ProcessRun::stop(ProcessOutcome::Kind reason)
 {
     if (m_stopReason || m_done)
@@ -256,16 +255,93 @@ void ProcessRun::finish()
             readError();
     }
     m_outcome.kind = kind;
-    // Resume the waiting coroutine outside QProcess's own signal handling; once it has taken
-    // the outcome, the run (and the ended process) may go.
-    QMetaObject::invokeMethod(
-        this,
-        [this] {
-            if (auto waiter = std::exchange(m_waiter, {}))
-                waiter.resume();
-            deleteLater();
-        },
-        Qt::QueuedConnection);
+    // Resume the waiting coroutine outside QProcess's own signal handling.
+    QMetaObject::invokeMethod(this, &ProcessRun::handOver, Qt::QueuedConnection);
 }
+
+void ProcessRun::handOver()
+{
+    // Once the waiter has taken the outcome, the run (and the ended process) may go, unless
+    // what the waiter did meanwhile closed its owner, which took the run along.
+    const QPointer<ProcessRun> self(this);
+    if (auto waiter = std::exchange(m_waiter, {}))
+        waiter.resume();
+    if (self)
+        deleteLater();
+}
+
+ProcessRun::~ProcessRun()
+{
+    // The owner goes before the run was handed over: nothing of the process stays, and the
+    // waiter learns that it was cancelled.
+    if (!m_done) {
+        m_done = true;
+        m_process->disconnect(this);
+        m_deadline.stop();
+        m_idle.stop();
+        m_grace.stop();
+        if (m_process->state() != QProcess::NotRunning) {
+            stopGroup(SIGTERM);
+            stopGroup(SIGKILL);
+            m_process->waitForFinished(5000);
+        }
+        liveGroups().erase(static_cast<pid_t>(m_pid));
+    }
+    if (auto waiter = std::exchange(m_waiter, {})) {
+        m_outcome.kind = ProcessOutcome::cancelled;
+        waiter.resume();
+    }
+}
+
+struct ProcessRuns::Pause : QObject {
+    explicit Pause(ProcessRuns* owner, int ms) : QObject(owner)
+    {
+        timer.setSingleShot(true);
+        QObject::connect(&timer, &QTimer::timeout, this, [this] {
+            const QPointer<Pause> self(this);
+            if (auto resumed = std::exchange(waiter, {}))
+                resumed.resume();
+            if (self)
+                deleteLater();
+        });
+        timer.start(ms);
+    }
+    // Cut short: the waiter goes on now.
+    ~Pause() override
+    {
+        if (auto resumed = std::exchange(waiter, {}))
+            resumed.resume();
+    }
+    QTimer timer;
+    std::coroutine_handle<> waiter;
+};
+
+void ProcessRuns::PauseAwaiter::await_suspend(std::coroutine_handle<> waiter) noexcept { pause->waiter = waiter; }
+
+ProcessRuns::PauseAwaiter ProcessRuns::pause(int ms)
+{
+    if (m_closed)
+        return PauseAwaiter{nullptr};
+    return PauseAwaiter{new Pause(this, ms)};
+}
+
+ProcessRun* ProcessRuns::start(ProcessRun::Options options)
+{
+    if (m_closed)
+        return nullptr;
+    return new ProcessRun(std::move(options), this);
+}
+
+void ProcessRuns::close()
+{
+    // A waiter that goes on may close again, which has nothing more to do; nor can it start
+    // anything new.
+    if (std::exchange(m_closed, true))
+        return;
+    while (!children().isEmpty())
+        delete children().constFirst();
+}
+
+ProcessRuns::~ProcessRuns() { close(); }
 
 } // namespace qf

@@ -21,8 +21,8 @@ namespace qf {
 // How one child process ended.
 struct ProcessOutcome {
     // Stopped ones: `timedOut` (ran too long), `outputLimitReached` (wrote more than is kept),
-    // `stalled` (no output for too long).
-    enum Kind { exited, failedToStart, timedOut, outputLimitReached, stalled };
+    // `stalled` (no output for too long), `cancelled` (its owner stopped it, or went away).
+    enum Kind { exited, failedToStart, timedOut, outputLimitReached, stalled, cancelled };
     Kind kind = exited;
     int exitCode = 0;
     QByteArray standardOutput;
@@ -30,10 +30,13 @@ struct ProcessOutcome {
     QString launchError;
 };
 
-// One child process from start to end, awaited with `co_await run->outcome()`. It owns its
-// QProcess and deletes itself (and the process) only after the process has ended and the
-// outcome was handed over, so a running process is never destroyed and nothing ever blocks
-// waiting for one.
+class ProcessRuns;
+
+// One child process from start to end, awaited with `co_await run->outcome()`. It belongs to
+// the ProcessRuns that started it and deletes itself (and the process) once the process has
+// ended and the outcome was handed over, so a running process is never left behind and
+// nothing blocks waiting for one. Should its owner go first, the run stops the process group,
+// waits for the process, and resumes its waiter with `cancelled` before it goes.
 class ProcessRun : public QObject {
     Q_OBJECT
 
@@ -68,13 +71,7 @@ public:
         bool outputAlsoOnThreeAndFour = false;
     };
 
-    // Starts on the next turn of the event loop, so that the outcome can be awaited first.
-    explicit ProcessRun(Options options);
     ~ProcessRun() override;
-
-    // How many runs exist now, ended ones not yet gone included: work that nobody waits for
-    // (a quiet check in the background) has ended when this is 0.
-    static int existing();
 
     struct Awaiter {
         ProcessRun* run;
@@ -82,8 +79,13 @@ public:
         void await_suspend(std::coroutine_handle<> waiter) noexcept { run->m_waiter = waiter; }
         ProcessOutcome await_resume() const { return run->m_outcome; }
     };
-    // Await this once, right after construction.
+    // Await this once, right after the run was started.
     Awaiter outcome() { return Awaiter{this}; }
+
+    // Stops the process group as a time-out does (TERM now, KILL once the grace has passed);
+    // the waiter resumes with `cancelled` once the process has ended. A run that has ended
+    // already keeps its outcome.
+    void cancel();
 
     // Kills the process group of every command still running, and of every stopped one whose
     // grace has not passed yet. Runs by itself when the application quits, so that nothing a
@@ -91,6 +93,10 @@ public:
     static void stopEveryGroup();
 
 private:
+    friend class ProcessRuns;
+    // Starts on the next turn of the event loop, so that the outcome can be awaited first.
+    ProcessRun(Options options, ProcessRuns* owner);
+
     void start();
     void readOutput();
     void readError();
@@ -103,6 +109,8 @@ private:
     // The quiet time is over: stopped, unless the process made progress meanwhile.
     void quietTimeOver();
     void finish();
+    // Hands the outcome to the waiter; the run goes afterwards.
+    void handOver();
 
     Options m_options;
     // What the child is started with, prepared before the fork: the child only reads it.
@@ -123,6 +131,40 @@ private:
     std::optional<ProcessOutcome::Kind> m_stopReason;
     bool m_done = false;
     std::coroutine_handle<> m_waiter;
+};
+
+// The runs one service started, and the waits between them: it can stop them, and when it
+// goes, nothing it started outlives it. Closing stops every process group still running,
+// waits for the processes and resumes every waiter at once (`cancelled` for a run), so the
+// coroutines that waited end while their services are still there; a run started after that
+// never starts and is cancelled at once.
+class ProcessRuns : public QObject {
+    Q_OBJECT
+
+public:
+    ProcessRuns() = default;
+    ~ProcessRuns() override;
+
+    // A run of `options`, started on the next turn of the event loop; await its outcome once.
+    // Nothing once closed.
+    ProcessRun* start(ProcessRun::Options options);
+
+    // A wait of `ms` that ends early when the owner closes.
+    struct Pause;
+    struct PauseAwaiter {
+        Pause* pause;
+        bool await_ready() const noexcept { return pause == nullptr; }
+        void await_suspend(std::coroutine_handle<> waiter) noexcept;
+        void await_resume() const noexcept {}
+    };
+    PauseAwaiter pause(int ms);
+
+    // Stops and ends everything now, as described above.
+    void close();
+    bool isClosed() const { return m_closed; }
+
+private:
+    bool m_closed = false;
 };
 
 } // namespace qf

@@ -6,7 +6,6 @@
 #include "InstallationView.h"
 #include "MainWindow.h"
 #include "PlatformBackends.h"
-#include "ProcessRun.h"
 #include "Services.h"
 #include "SimulatedMac.h"
 #include "SystemCheckView.h"
@@ -42,14 +41,6 @@ protected:
     void TearDown() override
     {
         window.reset();
-        // Work a screen started and nobody waited for ends before the services go away.
-        EXPECT_TRUE(QTest::qWaitFor(
-            [] {
-                QCoreApplication::sendPostedEvents();
-                QCoreApplication::processEvents();
-                return ProcessRun::existing() == 0;
-            },
-            30000));
         services.reset();
     }
 

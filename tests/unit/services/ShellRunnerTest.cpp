@@ -28,6 +28,23 @@ struct Streamed {
 
 QString message(const Result<QString>& result) { return result.ok() ? QString() : result.error().errorDescription(); }
 
+template <typename T>
+bool isCancellation(const std::optional<Result<T>>& result)
+{
+    return result && !result->ok() && result->error().shellError() &&
+           result->error().shellError()->kind() == ShellError::cancelled;
+}
+
+// Gone, or only a zombie waiting for whoever adopted it.
+bool processEnded(pid_t pid)
+{
+    QFile stat(QStringLiteral("/proc/%1/stat").arg(pid));
+    if (!stat.open(QIODevice::ReadOnly))
+        return ::kill(pid, 0) != 0;
+    const QByteArray line = stat.readAll();
+    return line.mid(line.lastIndexOf(')') + 2, 1) == "Z";
+}
+
 class ShellRunnerTest : public ::testing::Test, protected test::TestMachine {
 protected:
     Result<QString> run(const QString& command, double timeout = ShellRunner::defaultTimeoutSeconds)
@@ -380,6 +397,65 @@ TEST_F(ShellRunnerTest, StopsDeliveringWhenItsContextIsGone)
     ASSERT_TRUE(result.has_value());
     EXPECT_TRUE(result->ok());
     EXPECT_EQ(received, QStringList{QStringLiteral("early\n")});
+}
+
+TEST_F(ShellRunnerTest, CancellingStopsTheGroupAndTheCallerResumesWithACancellation)
+{
+    // The child ignores TERM: the grace ends it. A later command of the same handle never starts.
+    const ShellRunner::Configuration impatient = configurationWith([](auto& c) { c.terminationGraceMs = 200; });
+    ShellRunner withEnvironment(impatient, &platform);
+    ShellRunner perCommand(impatient);
+    for (ShellRunner* runner : {&withEnvironment, &perCommand}) {
+        QFile::remove(sandbox.path(QStringLiteral("child.pid")));
+        const QString pidFile = sandbox.path(QStringLiteral("child.pid"));
+        const Cancellation cancellation;
+        QCoro::Task<Result<QString>> running = runner->run(
+            QStringLiteral("(trap '' TERM; exec sleep 30) & echo $! > '%1'; wait").arg(pidFile), 0, cancellation);
+        ASSERT_TRUE(QTest::qWaitFor([&] { return !sandbox.readFile(QStringLiteral("child.pid")).isEmpty(); }, 10000));
+        const pid_t child = sandbox.readFile(QStringLiteral("child.pid")).trimmed().toInt();
+        cancellation.cancel();
+        EXPECT_TRUE(isCancellation(await(std::move(running))));
+        EXPECT_TRUE(QTest::qWaitFor([child] { return processEnded(child); }, 3000));
+
+        const QString later = sandbox.path(QStringLiteral("later"));
+        EXPECT_TRUE(isCancellation(await(runner->run(QStringLiteral("touch '%1'").arg(later), 0, cancellation))));
+        EXPECT_FALSE(QFile::exists(later));
+    }
+}
+
+// A runner that goes stops its commands and waits for them, and their callers have resumed
+// before it is gone: nothing runs on, and no coroutine is left waiting (LeakSanitizer).
+TEST_F(ShellRunnerTest, ARunnerThatGoesTakesItsCommandsAlong)
+{
+    for (const bool perCommand : {false, true}) {
+        SCOPED_TRACE(perCommand);
+        auto runner = perCommand ? std::make_unique<ShellRunner>(sandbox.shellConfiguration())
+                                 : std::make_unique<ShellRunner>(sandbox.shellConfiguration(), &platform);
+        QFile::remove(sandbox.path(QStringLiteral("first.pid")));
+        QFile::remove(sandbox.path(QStringLiteral("second.pid")));
+        const QString command = QStringLiteral("trap '' TERM; sleep 30 & echo $! > '%1'; wait");
+        std::optional<Result<QString>> ran;
+        std::optional<Result<void>> streamed;
+        QObject context;
+        QCoro::connect(runner->run(command.arg(sandbox.path(QStringLiteral("first.pid")))), &context,
+                       [&](const Result<QString>& result) { ran = result; });
+        QCoro::connect(runner->runWithStreaming(command.arg(sandbox.path(QStringLiteral("second.pid"))), {}), &context,
+                       [&](const Result<void>& result) { streamed = result; });
+        ASSERT_TRUE(QTest::qWaitFor(
+            [&] {
+                return !sandbox.readFile(QStringLiteral("first.pid")).isEmpty() &&
+                       !sandbox.readFile(QStringLiteral("second.pid")).isEmpty();
+            },
+            10000));
+
+        runner.reset();
+        EXPECT_TRUE(isCancellation(ran));
+        EXPECT_TRUE(isCancellation(streamed));
+        for (const char* file : {"first.pid", "second.pid"}) {
+            const pid_t child = sandbox.readFile(QLatin1String(file)).trimmed().toInt();
+            EXPECT_TRUE(QTest::qWaitFor([child] { return processEnded(child); }, 3000)) << file;
+        }
+    }
 }
 
 // Quitting the application stops what its commands started, also a child that ignores TERM
