@@ -27,14 +27,6 @@ QByteArray beginMarker(const QByteArray& token) { return "quillforge-environment
 // A variable that env prints with the others: the list is whole when it is there.
 QByteArray endEntry(const QByteArray& token) { return "quillforge_environment_" + token + "_end=1"; }
 
-// Letters no start-up file prints by chance.
-QByteArray randomToken()
-{
-    quint32 words[4];
-    QRandomGenerator::system()->fillRange(words);
-    return QByteArray(reinterpret_cast<const char*>(words), sizeof(words)).toHex();
-}
-
 } // namespace
 
 EnvironmentVariables LoginEnvironment::appliedTo(EnvironmentVariables variables) const
@@ -47,6 +39,13 @@ EnvironmentVariables LoginEnvironment::appliedTo(EnvironmentVariables variables)
 }
 
 namespace loginEnvironment {
+
+QByteArray randomToken()
+{
+    quint32 words[4];
+    QRandomGenerator::system()->fillRange(words);
+    return QByteArray(reinterpret_cast<const char*>(words), sizeof(words)).toHex();
+}
 
 QCoro::Task<LoginReading> read(ProcessRuns& runs, const Platform& platform, ReadingOptions options)
 {

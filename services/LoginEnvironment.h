@@ -58,6 +58,9 @@ struct ReadingOptions {
 // application's environment, and reads the environment its start-up files leave.
 QCoro::Task<LoginReading> read(ProcessRuns& runs, const Platform& platform, ReadingOptions options);
 
+// Letters no start-up file prints by chance: the markers of a reading and of a command's start.
+QByteArray randomToken();
+
 // The application's own environment as it is now.
 EnvironmentVariables applicationEnvironment();
 

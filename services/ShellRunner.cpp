@@ -11,7 +11,6 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
-#include <QRandomGenerator>
 #include <QTemporaryDir>
 
 #include <algorithm>
@@ -35,14 +34,6 @@ constexpr qsizetype kKeptOutputTail = 4000;
 // What a login shell's start-up files may print before a command's own output without that
 // counting towards the command's output limit.
 constexpr qsizetype kStartupOutputAllowance = 64 * 1024;
-
-// Letters no start-up file prints by chance.
-QByteArray randomToken()
-{
-    quint32 words[4];
-    QRandomGenerator::system()->fillRange(words);
-    return QByteArray(reinterpret_cast<const char*>(words), sizeof(words)).toHex();
-}
 
 // The home folder, or the root when the home folder is not there: never wherever the
 // application happened to be started.
@@ -127,7 +118,9 @@ ShellRunner::Configuration ShellRunner::standardConfiguration(const Platform& pl
 }
 
 ShellRunner::ShellRunner(Configuration configuration, const Platform* platform)
-    : m_configuration(std::move(configuration)), m_platform(platform), m_marker("quillforge-command-" + randomToken())
+    : m_configuration(std::move(configuration)),
+      m_platform(platform),
+      m_marker("quillforge-command-" + loginEnvironment::randomToken())
 {
     if (!m_platform) {
         m_state.source = EnvironmentState::Source::loginShellPerCommand;
