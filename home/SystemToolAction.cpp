@@ -9,7 +9,7 @@ namespace qf {
 
 namespace {
 
-struct Text {
+struct ActionText {
     Q_DECLARE_TR_FUNCTIONS(SystemToolAction)
 };
 
@@ -28,8 +28,8 @@ void handleSystemToolAction(const SystemTool& tool, Platform& platform, const st
             return;
         }
         if (!platform.revealFolder(path) && fallback) {
-            fallback({Text::tr("The folder could not be shown"),
-                      Text::tr("No file manager answered. Your projects folder is here:"), path});
+            fallback({ActionText::tr("The folder could not be shown"),
+                      ActionText::tr("No file manager answered. Your projects folder is here:"), path});
         }
     };
     switch (tool.id) {
@@ -49,8 +49,8 @@ void handleSystemToolAction(const SystemTool& tool, Platform& platform, const st
             const DeveloperToolsItem item = platform.developerToolsItem();
             platform.startDeveloperToolsInstaller([fallback, item](TerminalAnswer answer) {
                 if (answer != TerminalAnswer::opened && fallback && !item.installLine.isEmpty()) {
-                    fallback({Text::tr("The installer could not be started"),
-                              Text::tr("Open a terminal yourself and type this line:"), item.installLine});
+                    fallback({ActionText::tr("The installer could not be started"),
+                              ActionText::tr("Open a terminal yourself and type this line:"), item.installLine});
                 }
             });
         }

@@ -2,12 +2,14 @@
 
 #include "Motion.h"
 #include "Preferences.h"
+#include "Theme.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QEvent>
 #include <QFile>
 #include <QFileInfo>
+#include <QPalette>
 
 #include <unistd.h>
 
@@ -44,6 +46,18 @@ void settle()
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QCoreApplication::processEvents();
     }
+}
+
+void inBothAppearances(const std::function<void()>& check)
+{
+    const QPalette saved = QApplication::palette();
+    for (const bool dark : {false, true}) {
+        SCOPED_TRACE(dark ? "dark" : "light");
+        QApplication::setPalette(dark ? ui::Theme::darkPalette() : ui::Theme::lightPalette());
+        settle();
+        check();
+    }
+    QApplication::setPalette(saved);
 }
 
 AnimationsOn::AnimationsOn() { ui::motion::setEnabled(true); }

@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+
 namespace qf::test {
 
 // Finds a descendant by object name, failing the test when there is none.
@@ -26,6 +28,10 @@ void makeLink(const QString& target, const QString& link);
 
 // Runs posted events, including deferred deletions.
 void settle();
+
+// Runs `check` in the light appearance, then in the dark one (each named in the failures),
+// and puts the palette back.
+void inBothAppearances(const std::function<void()>& check);
 
 // Turns animations on for one test and off again afterwards.
 class AnimationsOn {

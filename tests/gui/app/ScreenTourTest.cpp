@@ -227,21 +227,6 @@ void expectReadable(QWidget* window)
     }
 }
 
-// The light appearance, then the dark one, with the window re-coloured in between.
-template <typename Check>
-void inBothAppearances(Check&& check)
-{
-    const QPalette saved = QApplication::palette();
-    for (const bool dark : {false, true}) {
-        SCOPED_TRACE(dark ? "dark" : "light");
-        QApplication::setPalette(dark ? ui::Theme::darkPalette() : ui::Theme::lightPalette());
-        test::settle();
-        check();
-    }
-    QApplication::setPalette(saved);
-    test::settle();
-}
-
 class ScreenTour;
 
 // One screen in one of its states, as a person meets it: its name, how the window is brought
@@ -450,7 +435,7 @@ TEST_P(ScreenTour, EveryScreenIsUsableByKeyboardReadableAndKeepsToItsColumn)
     EXPECT_TRUE(screen()->isAncestorOf(focus));
     sweep(window.get(), size() == kLarge);
 
-    inBothAppearances([this] { expectReadable(window.get()); });
+    test::inBothAppearances([this] { expectReadable(window.get()); });
 }
 
 INSTANTIATE_TEST_SUITE_P(EveryScreen, ScreenTour,
@@ -624,11 +609,11 @@ TEST_F(KeyboardTest, TheDashboardWhileItLooksAndTheRemovalSheetStandOut)
     RemovalSheet* sheet = home->sheet();
     ASSERT_NE(sheet, nullptr);
     test::settle();
-    inBothAppearances([sheet] { expectReadable(sheet); });
+    test::inBothAppearances([sheet] { expectReadable(sheet); });
     test::child<QAbstractButton>(sheet, QStringLiteral("uninstallButton"))->click();
     ASSERT_TRUE(QTest::qWaitFor([sheet] { return sheet->uninstallComplete(); }, 20000));
     test::child<QAbstractButton>(sheet, QStringLiteral("detailsButton"))->click();
-    inBothAppearances([sheet] { expectReadable(sheet); });
+    test::inBothAppearances([sheet] { expectReadable(sheet); });
     sheet->reject();
     test::settle();
 }

@@ -1,4 +1,5 @@
 #include "CLITool.h"
+#include "TestSupport.h"
 #include "Theme.h"
 
 #include <QApplication>
@@ -9,19 +10,6 @@ using namespace qf;
 using namespace qf::ui;
 
 namespace {
-
-// Runs `check` once in the light and once in the dark palette, naming the one it is in.
-template <typename Check>
-void inBothAppearances(Check&& check)
-{
-    const QPalette saved = QApplication::palette();
-    for (const bool dark : {false, true}) {
-        QApplication::setPalette(dark ? Theme::darkPalette() : Theme::lightPalette());
-        SCOPED_TRACE(dark ? "dark" : "light");
-        check();
-    }
-    QApplication::setPalette(saved);
-}
 
 std::string describe(const QColor& color) { return color.name(QColor::HexArgb).toStdString(); }
 
@@ -76,7 +64,7 @@ TEST(Contrast, MeasuresAsWCAGDoes)
 
 TEST(Contrast, EveryTextRoleReadsOnEveryBackgroundOfBothAppearances)
 {
-    inBothAppearances([] {
+    test::inBothAppearances([] {
         const QList<QColor> backgrounds = textBackgrounds();
         for (const QColor& role : textRoles()) {
             const QColor text = Theme::textColor(role);
@@ -106,7 +94,7 @@ TEST(Contrast, EveryTextRoleReadsOnEveryBackgroundOfBothAppearances)
 
 TEST(Contrast, TextKeepsItsHueAndOnlyWhatNeedsItChanges)
 {
-    inBothAppearances([] {
+    test::inBothAppearances([] {
         // Primary text reads already: it stays as it is.
         EXPECT_EQ(Theme::textColor(Theme::color(Role::primary)), Theme::color(Role::primary));
         for (Role role : {Role::green, Role::orange, Role::red, Role::blue, Role::purple}) {
@@ -129,7 +117,7 @@ TEST(Contrast, TextKeepsItsHueAndOnlyWhatNeedsItChanges)
 
 TEST(Contrast, WhiteReadsOnEveryProminentFillAndTheFocusRingStandsOut)
 {
-    inBothAppearances([] {
+    test::inBothAppearances([] {
         QList<QColor> fills{Theme::color(Role::accent), Theme::color(Role::red), Theme::color(Role::green)};
         for (CLITool tool : CLITool::allCases())
             fills << tool.brandColor();

@@ -85,6 +85,6 @@ TEST(MacPlatformDiskSpace, AlwaysAnAnswerForARealVolume)
 {
     const qf::DiskSpace space = qf::MacPlatform().availableDiskSpace(QDir::tempPath());
     ASSERT_TRUE(space.bytes.has_value()) << space.error.toStdString();
-    EXPECT_GT(*space.bytes, 0);
+    EXPECT_GT(space.bytes.value_or(0), 0);
     EXPECT_TRUE(space.error.isEmpty());
 }

@@ -18,7 +18,7 @@ using qf::test::SmallDisk;
 
 namespace {
 
-QByteArray read(const QString& path)
+QByteArray contents(const QString& path)
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<missing>");
@@ -87,7 +87,7 @@ TEST(ProfileWriterFiles, TwoWritersAtOnceLoseNothing)
     ASSERT_EQ(one.exitCode, 0) << one.output.toStdString();
     ASSERT_EQ(two.exitCode, 0) << two.output.toStdString();
 
-    const QByteArray result = read(profile);
+    const QByteArray result = contents(profile);
     EXPECT_TRUE(result.startsWith("alias ll='ls -l'\n"));
     EXPECT_EQ(result.count("export OPENAI_API_KEY="), 1) << result.toStdString();
     EXPECT_EQ(result.count("export GEMINI_API_KEY="), 1) << result.toStdString();
@@ -127,7 +127,7 @@ TEST(ProfileWriterFiles, AFailureAtAnyByteLeavesTheProfileAsBeforeOrAsIntended)
         // What one save and then the block make of it, with room enough.
         reset();
         ASSERT_EQ(runHelper(profile, QStringLiteral("OPENAI_API_KEY"), 1).exitCode, 0);
-        const QByteArray intended = read(profile);
+        const QByteArray intended = contents(profile);
         const QList<QByteArray> allowed{
             c.before,
             shellExport::withExport(c.before, QStringLiteral("OPENAI_API_KEY"), QStringLiteral("Codex"),
@@ -138,13 +138,13 @@ TEST(ProfileWriterFiles, AFailureAtAnyByteLeavesTheProfileAsBeforeOrAsIntended)
         for (qint64 limit = 0; limit <= intended.size() + 1; ++limit) {
             reset();
             const HelperRun run = runHelper(profile, QStringLiteral("OPENAI_API_KEY"), 1, limit);
-            const QByteArray now = read(profile);
+            const QByteArray now = contents(profile);
             EXPECT_TRUE(allowed.contains(now)) << "limit " << limit << ":\n" << now.toStdString();
             if (run.exitCode != 0) {
                 EXPECT_TRUE(run.output.contains(QStringLiteral("File too large"))) << run.output.toStdString();
             }
             if (c.hardLinked) {
-                EXPECT_EQ(read(other), now); // still one file
+                EXPECT_EQ(contents(other), now); // still one file
             }
             QStringList expected{QStringLiteral(".zshrc")};
             if (c.hardLinked)
@@ -177,7 +177,7 @@ TEST(ProfileWriterFiles, AFullDiskIsNamedAndBreaksNothing)
     ASSERT_FALSE(block.ok());
     EXPECT_TRUE(
         block.error().errorDescription().contains(QStringLiteral("No space left on device. Your disk is full")));
-    EXPECT_EQ(read(profile), before);
+    EXPECT_EQ(contents(profile), before);
 
     // Once there is room again, the next save and the block go in whole.
     disk.free();
@@ -185,7 +185,8 @@ TEST(ProfileWriterFiles, AFullDiskIsNamedAndBreaksNothing)
     const auto added = ProfileWriter::addSearchPathBlock(profile);
     ASSERT_TRUE(added.ok());
     EXPECT_TRUE(added.value());
-    EXPECT_EQ(read(profile), before + "\n# Codex API Key\n" + line.toUtf8() + "\n" + shellExport::searchPathBlock());
+    EXPECT_EQ(contents(profile),
+              before + "\n# Codex API Key\n" + line.toUtf8() + "\n" + shellExport::searchPathBlock());
     EXPECT_EQ(entries(root.filePath(QStringLiteral("disk"))), QStringList{QStringLiteral(".zshrc")});
 }
 
@@ -210,7 +211,7 @@ TEST(ProfileWriterFiles, AReadOnlyProfileIsRefusedWhateverTheChange)
     const auto block = ProfileWriter::addSearchPathBlock(profile);
     ASSERT_FALSE(block.ok());
     EXPECT_TRUE(block.error().errorDescription().contains(profile + QStringLiteral(": Permission denied. Make")));
-    EXPECT_EQ(read(profile), before);
+    EXPECT_EQ(contents(profile), before);
     EXPECT_EQ(QFileInfo(profile).permissions() & QFile::WriteOwner, 0);
 
     // Where nothing needs to change, a read-only profile is no error: the key is there already.
@@ -230,11 +231,11 @@ TEST(ProfileWriterFiles, AnUnfinishedSearchPathBlockIsCompletedOnce)
     const auto added = ProfileWriter::addSearchPathBlock(profile);
     ASSERT_TRUE(added.ok());
     EXPECT_TRUE(added.value());
-    EXPECT_EQ(read(profile), cut + shellExport::searchPathBlock());
+    EXPECT_EQ(contents(profile), cut + shellExport::searchPathBlock());
     const auto again = ProfileWriter::addSearchPathBlock(profile);
     ASSERT_TRUE(again.ok());
     EXPECT_FALSE(again.value());
-    EXPECT_EQ(read(profile).count(pathBlockExport), 1);
+    EXPECT_EQ(contents(profile).count(pathBlockExport), 1);
 }
 
 TEST(ProfileWriterFiles, OnlyOrdinaryFilesAreWrittenAndLinksAreFollowed)
@@ -248,7 +249,7 @@ TEST(ProfileWriterFiles, OnlyOrdinaryFilesAreWrittenAndLinksAreFollowed)
     QDir().mkpath(home.filePath(QStringLiteral("dotfiles")));
     ASSERT_TRUE(ProfileWriter::store(profile, QStringLiteral("OPENAI_API_KEY"), QStringLiteral("Codex"), line).ok());
     EXPECT_TRUE(QFileInfo(profile).isSymLink());
-    EXPECT_EQ(read(home.filePath(QStringLiteral("dotfiles/zshrc"))),
+    EXPECT_EQ(contents(home.filePath(QStringLiteral("dotfiles/zshrc"))),
               "\n# Codex API Key\nexport OPENAI_API_KEY=\"k\"\n");
 
     // A device in its place is no profile: refused, and nothing is made beside the device.
