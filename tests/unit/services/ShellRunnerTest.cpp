@@ -277,15 +277,8 @@ TEST_F(ShellRunnerTest, AfterATimeOutNothingOfTheGroupSurvives)
 
     const QByteArray pid = sandbox.readFile(QStringLiteral("stubborn.pid")).trimmed();
     ASSERT_FALSE(pid.isEmpty());
-    // Gone, or a zombie waiting for whoever adopted it.
-    const auto gone = [&pid] {
-        QFile stat(QStringLiteral("/proc/") + QString::fromLatin1(pid) + QStringLiteral("/stat"));
-        if (!stat.open(QIODevice::ReadOnly))
-            return ::kill(pid.toInt(), 0) != 0;
-        const QByteArray fields = stat.readAll();
-        return fields.mid(fields.lastIndexOf(')') + 2, 1) == "Z";
-    };
-    EXPECT_TRUE(QTest::qWaitFor(gone, 3000)) << "process " << pid.constData() << " outlived its time-out";
+    EXPECT_TRUE(QTest::qWaitFor([&pid] { return processEnded(pid.toInt()); }, 3000))
+        << "process " << pid.constData() << " outlived its time-out";
 }
 
 TEST_F(ShellRunnerTest, CommandsStartAtHomeAndNeverSearchTheCurrentFolder)
@@ -475,15 +468,7 @@ TEST(ShellRunnerQuit, NothingACommandStartedOutlivesTheApplication)
         ASSERT_TRUE(file.open(QIODevice::ReadOnly));
         const pid_t child = file.readAll().trimmed().toInt();
         ASSERT_GT(child, 0);
-        // Gone, or only a zombie waiting for whoever adopted it.
-        const auto alive = [child] {
-            QFile stat(QStringLiteral("/proc/%1/stat").arg(child));
-            if (!stat.open(QIODevice::ReadOnly))
-                return ::kill(child, 0) == 0;
-            const QByteArray line = stat.readAll();
-            return line.mid(line.lastIndexOf(')') + 2, 1) != "Z";
-        };
-        const bool ended = QTest::qWaitFor([&] { return !alive(); }, 5000);
+        const bool ended = QTest::qWaitFor([child] { return processEnded(child); }, 5000);
         if (!ended)
             ::kill(child, SIGKILL);
         EXPECT_TRUE(ended) << "the command's child outlived the application";
