@@ -258,7 +258,7 @@ TEST(Release, TheIconsHaveEverySizeTheyClaim)
     EXPECT_TRUE(entry.contains(QStringLiteral("\nIcon=app.quillforge.Quillforge\n")));
 }
 
-TEST(Release, TheDashboardOpensTheAboutWindowWhereTheSystemHasNoApplicationMenu)
+TEST(Release, TheDashboardOpensTheAboutWindowWhereTheSystemHasNoApplicationMenuAndComesToTheFront)
 {
     test::clearPreferences();
     Preferences::setHasCompletedOnboarding(true);
@@ -287,25 +287,19 @@ TEST(Release, TheDashboardOpensTheAboutWindowWhereTheSystemHasNoApplicationMenu)
     test::settle();
     EXPECT_EQ(window.aboutDialog(), nullptr);
 
+    // A second launch brings a minimised window back.
+    window.showMinimized();
+    test::settle();
+    window.bringToFront();
+    EXPECT_FALSE(window.isMinimized());
+    EXPECT_TRUE(window.isVisible());
+
     // A Mac keeps it in the application menu, so the dashboard shows no button for it.
     test::TestMachine macMachine;
     macMachine.platform.applicationMenu = true;
     InstallationState macState;
     MainWindow macWindow(macState, macMachine.services);
     EXPECT_EQ(macWindow.contentView()->findChild<QWidget*>(QStringLiteral("aboutButton")), nullptr);
-}
-
-TEST(Release, BringingToFrontRestoresAMinimisedWindow)
-{
-    test::clearPreferences();
-    test::TestMachine machine;
-    InstallationState state;
-    MainWindow window(state, machine.services);
-    window.showMinimized();
-    test::settle();
-    window.bringToFront();
-    EXPECT_FALSE(window.isMinimized());
-    EXPECT_TRUE(window.isVisible());
 }
 
 TEST(Release, TheMacPackageStepsSignNotariseOnlyWithCredentialsAndMakeADiskImage)

@@ -26,24 +26,14 @@ TEST(CopyButton, PutsTheTextOnTheClipboardBeforeCallingBack)
     button.resize(button.sizeHint());
     button.show();
     QTest::mouseClick(&button, Qt::LeftButton);
-
     EXPECT_EQ(calls, 1);
     EXPECT_EQ(seenDuringCallback, QStringLiteral("claude \"explain this code\""));
-    EXPECT_EQ(clipboardText(), QStringLiteral("claude \"explain this code\""));
-}
+    EXPECT_EQ(clipboardText(), seenDuringCallback);
 
-TEST(CopyButton, CopiesAnEmptyTextAndWorksWithoutACallback)
-{
-    QGuiApplication::clipboard()->setText(QStringLiteral("previous"));
-    QString seen = QStringLiteral("<not called>");
-    CopyButton empty(QString(), CopyButton::CopyButtonStyle::small, [&] { seen = clipboardText(); });
+    // An empty text is copied too (the clipboard empties); no callback is needed.
+    CopyButton empty(QString(), CopyButton::CopyButtonStyle::small);
     empty.click();
-    EXPECT_TRUE(seen.isEmpty());
     EXPECT_TRUE(clipboardText().isEmpty());
-
-    CopyButton plain(QStringLiteral("git init"), CopyButton::CopyButtonStyle::bordered);
-    plain.click();
-    EXPECT_EQ(clipboardText(), QStringLiteral("git init"));
 }
 
 TEST(CopyButton, StylesDifferInSizeAndChrome)

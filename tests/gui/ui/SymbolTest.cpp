@@ -32,10 +32,13 @@ int opaquePixels(const QPixmap& pixmap)
 
 } // namespace
 
-TEST(Symbol, EveryDesignSymbolRendersInItsTint)
+TEST(Symbol, EveryDesignSymbolAndToolIconRendersInItsTint)
 {
     const QColor tint(200, 40, 120);
-    for (const QString& name : kDesignSymbols) {
+    QStringList names = kDesignSymbols;
+    for (CLITool tool : CLITool::allCases())
+        names << tool.iconName();
+    for (const QString& name : names) {
         ASSERT_TRUE(Symbol::exists(name)) << name.toStdString();
         const QPixmap pixmap = Symbol::pixmap(name, 20, tint, 1.0);
         ASSERT_FALSE(pixmap.isNull()) << name.toStdString();
@@ -60,30 +63,16 @@ TEST(Symbol, EveryDesignSymbolRendersInItsTint)
     }
 }
 
-TEST(Symbol, ToolIconsAreKnown)
+TEST(Symbol, SharpOnHighDensityScreensHeavierWhenBoldAndNothingForUnknownNames)
 {
-    for (CLITool tool : CLITool::allCases())
-        EXPECT_TRUE(Symbol::exists(tool.iconName())) << tool.iconName().toStdString();
-}
-
-TEST(Symbol, SharpOnHighDensityScreens)
-{
-    const QPixmap normal = Symbol::pixmap(QStringLiteral("sparkles"), 20, Qt::black, 1.0);
-    const QPixmap retina = Symbol::pixmap(QStringLiteral("sparkles"), 20, Qt::black, 2.0);
+    const QPixmap normal = Symbol::pixmap(QStringLiteral("chevron.left"), 20, Qt::black, 1.0);
+    const QPixmap retina = Symbol::pixmap(QStringLiteral("chevron.left"), 20, Qt::black, 2.0);
     EXPECT_EQ(normal.deviceIndependentSize(), retina.deviceIndependentSize());
     EXPECT_EQ(retina.size(), normal.size() * 2);
     EXPECT_EQ(normal.width(), Symbol::boxSize(20));
-}
+    const QPixmap bold = Symbol::pixmap(QStringLiteral("chevron.left"), 20, Qt::black, 1.0, SymbolWeight::bold);
+    EXPECT_GT(opaquePixels(bold), opaquePixels(normal));
 
-TEST(Symbol, HeavierWeightsDrawThickerOutlines)
-{
-    const QPixmap regular = Symbol::pixmap(QStringLiteral("chevron.left"), 24, Qt::black, 1.0, SymbolWeight::regular);
-    const QPixmap bold = Symbol::pixmap(QStringLiteral("chevron.left"), 24, Qt::black, 1.0, SymbolWeight::bold);
-    EXPECT_GT(opaquePixels(bold), opaquePixels(regular));
-}
-
-TEST(Symbol, UnknownNamesDrawNothing)
-{
     EXPECT_FALSE(Symbol::exists(QStringLiteral("not.a.symbol")));
     EXPECT_TRUE(Symbol::pixmap(QStringLiteral("not.a.symbol"), 12, Qt::black, 1.0).isNull());
 }
