@@ -12,6 +12,7 @@
 #include <QFile>
 #include <QTest>
 
+#include <algorithm>
 #include <memory>
 
 using namespace qf;
@@ -62,23 +63,24 @@ protected:
     static void expectFakesFound(const DashboardSnapshot& snapshot)
     {
         EXPECT_EQ(snapshot.installedTools, QList<CLITool>{CLITool::claudeCode});
-        bool nodeSeen = false;
-        for (const SystemTool& tool : snapshot.systemTools) {
-            if (tool.id != SystemToolID::node)
-                continue;
-            nodeSeen = true;
-            EXPECT_TRUE(tool.isInstalled);
-            EXPECT_EQ(tool.version, QStringLiteral("v20.10.0"));
-        }
-        EXPECT_TRUE(nodeSeen);
+        const auto node = std::ranges::find(snapshot.systemTools, SystemToolID::node, &SystemTool::id);
+        ASSERT_NE(node, snapshot.systemTools.end());
+        EXPECT_EQ(std::pair(node->isInstalled, node->version),
+                  std::pair(true, std::optional(QStringLiteral("v20.10.0"))));
+    }
+
+    // Where `runner` finds `name` without a shell; "<not found>" when nowhere.
+    static QString found(ShellRunner& runner, const QString& name)
+    {
+        const std::optional<Result<QString>> where = await(runner.findProgram(name));
+        return where && where->ok() ? where->value() : QStringLiteral("<not found>");
     }
 
     // Every kind of answer is exactly the command's own output.
     void expectExactAnswers(ShellRunner& runner, SystemDetector& detector)
     {
         EXPECT_EQ(run(runner, QStringLiteral("node --version")).value(), QStringLiteral("v20.10.0"));
-        const std::optional<std::optional<QString>> version = await(detector.getNodeVersion());
-        EXPECT_EQ(version.value_or(std::nullopt), QStringLiteral("v20.10.0"));
+        EXPECT_EQ(await(detector.getNodeVersion()), std::optional(std::optional(QStringLiteral("v20.10.0"))));
         EXPECT_EQ(run(runner, QStringLiteral("which node")).value(), sandbox.binDirectory() + QStringLiteral("/node"));
         EXPECT_EQ(run(runner, QStringLiteral("npm prefix -g")).value(), sandbox.path(QStringLiteral("npm-global")));
         const Result<QString> failed = run(runner, QStringLiteral("echo out; echo err >&2; exit 1"));
@@ -91,7 +93,7 @@ protected:
 
 } // namespace
 
-TEST(LoginEnvironmentParsing, TheEnvironmentIsWhatFollowsTheMarkerUpToItsClosingVariable)
+TEST(LoginEnvironmentParsing, TheEnvironmentFollowsTheMarkerAndItsChangesApplyToTheApplications)
 {
     const QByteArray token = "0123abcd";
     const QByteArray begin = "quillforge-environment-" + token + "-begin";
@@ -122,10 +124,8 @@ TEST(LoginEnvironmentParsing, TheEnvironmentIsWhatFollowsTheMarkerUpToItsClosing
     // The script prints what the parser looks for.
     EXPECT_TRUE(loginEnvironment::script(token).contains(QString::fromLatin1(begin)));
     EXPECT_TRUE(loginEnvironment::script(token).contains(QString::fromLatin1(end)));
-}
 
-TEST(LoginEnvironmentParsing, CommandsGetTheStartupFilesChangesOnTopOfTheApplicationsEnvironment)
-{
+    // Commands get the start-up files' changes on top of the application's environment.
     const EnvironmentVariables started{{"HOME", "/h"}, {"KEEP", "1"}, {"GONE", "x"}, {"PATH", "/bin"}, {"PWD", "/"}};
     const EnvironmentVariables printed{{"HOME", "/h"}, {"KEEP", "2"},  {"NEW", "y"},         {"PATH", "/opt:/bin"},
                                        {"PWD", "/h"},  {"SHLVL", "1"}, {"_", "/usr/bin/env"}};
@@ -245,9 +245,8 @@ TEST_F(LoginEnvironmentTest, AVersionManagersNodeInZshrcWinsOverTheSystemsOne)
     ASSERT_TRUE(test::writeExecutable(volta, "#!/bin/sh\necho v22.11.0\n"));
 
     EXPECT_EQ(run(services.runner, QStringLiteral("node --version")).value(), QStringLiteral("v22.11.0"));
-    EXPECT_EQ(await(services.runner.findProgram(QStringLiteral("node")))->value(), volta);
-    const std::optional<std::optional<QString>> version = await(services.detector.getNodeVersion());
-    EXPECT_EQ(version.value_or(std::nullopt), QStringLiteral("v22.11.0"));
+    EXPECT_EQ(found(services.runner, QStringLiteral("node")), volta);
+    EXPECT_EQ(await(services.detector.getNodeVersion()), std::optional(std::optional(QStringLiteral("v22.11.0"))));
     // The folders the profile lacks still come, once and after it.
     const QStringList path = services.runner.commandEnvironment().value(QStringLiteral("PATH")).split(QLatin1Char(':'));
     ASSERT_FALSE(path.isEmpty());
@@ -373,20 +372,12 @@ TEST_F(LoginEnvironmentTest, ProgramsAreFoundWithoutAShellExactlyWhereWhichFinds
     for (const char* name : {"node", "npm", "mytool", "relative", "onlyhere", "nothere"}) {
         const QString command = QString::fromLatin1(name);
         const Result<QString> byShell = run(services.runner, QStringLiteral("cd / && which ") + command);
-        const std::optional<Result<QString>> found = await(services.runner.findProgram(command));
-        ASSERT_TRUE(found.has_value());
-        EXPECT_EQ(found->ok(), byShell.ok()) << name;
-        if (byShell.ok() && found->ok()) {
-            EXPECT_EQ(found->value(), byShell.value()) << name;
-        }
+        EXPECT_EQ(found(services.runner, command), byShell.ok() ? byShell.value() : QStringLiteral("<not found>"));
     }
-    EXPECT_EQ(await(services.runner.findProgram(QStringLiteral("mytool")))->value(),
-              sandbox.path(QStringLiteral("first/mytool")));
-    EXPECT_EQ(await(services.runner.findProgram(QStringLiteral("onlyhere")))->value(),
-              sandbox.path(QStringLiteral("last/onlyhere")));
-    EXPECT_EQ(await(services.runner.findProgram(QStringLiteral("node")))->value(),
-              sandbox.binDirectory() + QStringLiteral("/node"));
-    EXPECT_FALSE(await(services.runner.findProgram(QStringLiteral("first/mytool")))->ok());
+    EXPECT_EQ(found(services.runner, QStringLiteral("mytool")), sandbox.path(QStringLiteral("first/mytool")));
+    EXPECT_EQ(found(services.runner, QStringLiteral("onlyhere")), sandbox.path(QStringLiteral("last/onlyhere")));
+    EXPECT_EQ(found(services.runner, QStringLiteral("node")), sandbox.binDirectory() + QStringLiteral("/node"));
+    EXPECT_EQ(found(services.runner, QStringLiteral("first/mytool")), QStringLiteral("<not found>"));
 }
 
 TEST_F(LoginEnvironmentTest, OddValuesArriveByteForByte)
@@ -484,8 +475,7 @@ TEST_P(EveryShell, TheAccountsStartupFilesSetTheSearchPathAndNeverReachAnAnswer)
     EXPECT_EQ(runner.environmentState().source, Source::loginShellOnce);
     // Read once, the user's own programs are found, by name and run, as in the user's terminal.
     EXPECT_EQ(startupReads(), readsBefore + 1);
-    EXPECT_EQ(await(runner.findProgram(QStringLiteral("mytool")))->value(),
-              sandbox.path(QStringLiteral("own/bin/mytool")));
+    EXPECT_EQ(found(runner, QStringLiteral("mytool")), sandbox.path(QStringLiteral("own/bin/mytool")));
     EXPECT_EQ(run(runner, QStringLiteral("mytool; printf %s \"$GREETING\"")).value(), QStringLiteral("mine\nhello"));
     // The profile's order first; the folders every command searches follow where it lacks them.
     const QStringList path = run(runner, QStringLiteral("printf %s \"$PATH\"")).value().split(QLatin1Char(':'));

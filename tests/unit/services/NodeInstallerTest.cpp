@@ -31,20 +31,6 @@ protected:
 
 } // namespace
 
-TEST_F(NodeInstallerTest, AnOldNodeIsReplacedThroughHomebrew)
-{
-    sandbox.installFakes({"git", "node", "npm", "brew"});
-    sandbox.setEnv("FAKE_NODE_VERSION", "v16.20.2");
-
-    EXPECT_EQ(steps(CLITool::codex)[2], (SetupStep{SetupStepType::installNode, kPending, std::nullopt}));
-    const SetupRun run = runSetup(CLITool::codex);
-    ASSERT_TRUE(run.result && run.result->ok()) << run.error().toStdString();
-    EXPECT_TRUE(run.reports.contains(Report{SetupStepType::installNode, kInProgress, std::nullopt}));
-    EXPECT_TRUE(run.reports.contains(Report{SetupStepType::installNode, kDone, QStringLiteral("v21.5.0")}));
-    EXPECT_TRUE(run.log.contains(QStringLiteral("Installing Node.js via Homebrew...\n==> Downloading")));
-    EXPECT_TRUE(run.log.contains(QStringLiteral("Node.js v21.5.0 successfully!\n")));
-}
-
 TEST_F(NodeInstallerTest, WithoutHomebrewNodeComesFromTheNewestLTSRelease)
 {
     sandbox.installFakes({"git", "npm", "curl"});
@@ -109,9 +95,8 @@ TEST_F(NodeInstallerTest, AnOlderNodeFirstOnThePathFailsTheNodeStep)
 {
     // An nvm Node.js 18 comes before ~/.local/bin, where the release installer puts Node.js 22.
     sandbox.installFakes({"git", "npm"});
-    sandbox.writeFile(QStringLiteral(".nvm/versions/node/v18.19.0/bin/node"), "#!/bin/sh\necho v18.19.0\n");
-    QFile::setPermissions(sandbox.path(QStringLiteral(".nvm/versions/node/v18.19.0/bin/node")),
-                          QFileDevice::ReadOwner | QFileDevice::ExeOwner);
+    ASSERT_TRUE(test::writeExecutable(sandbox.path(QStringLiteral(".nvm/versions/node/v18.19.0/bin/node")),
+                                      "#!/bin/sh\necho v18.19.0\n"));
     sandbox.installFake(QStringLiteral("curl"));
     publishNodeRelease(QStringLiteral("v22.11.0"));
 
@@ -149,7 +134,7 @@ TEST(NodeShadowedMessage, SaysWhatWasFound)
                              "Node.js 20 or newer."));
 }
 
-TEST_F(NodeInstallerTest, NodeFailures)
+TEST_F(NodeInstallerTest, HomebrewInstallsNodeAndItsFailuresEndTheRun)
 {
     sandbox.installFakes({"git", "npm", "brew"});
 
@@ -169,4 +154,16 @@ TEST_F(NodeInstallerTest, NodeFailures)
     ASSERT_TRUE(missing.result);
     EXPECT_EQ(missing.result->error().installationError(), InstallationError::nodeInstallFailed);
     EXPECT_EQ(missing.last(SetupStepType::installNode), kInProgress);
+
+    // An old Node.js is replaced through Homebrew.
+    sandbox.setEnv("FAKE_BREW_NO_NODE", "");
+    sandbox.installFake(QStringLiteral("node"));
+    sandbox.setEnv("FAKE_NODE_VERSION", "v16.20.2");
+    EXPECT_EQ(steps(CLITool::codex)[2], (SetupStep{SetupStepType::installNode, kPending, std::nullopt}));
+    const SetupRun run = runSetup(CLITool::codex);
+    ASSERT_TRUE(run.result && run.result->ok()) << run.error().toStdString();
+    EXPECT_TRUE(run.reports.contains(Report{SetupStepType::installNode, kInProgress, std::nullopt}));
+    EXPECT_TRUE(run.reports.contains(Report{SetupStepType::installNode, kDone, QStringLiteral("v21.5.0")}));
+    EXPECT_TRUE(run.log.contains(QStringLiteral("Installing Node.js via Homebrew...\n==> Downloading")));
+    EXPECT_TRUE(run.log.contains(QStringLiteral("Node.js v21.5.0 successfully!\n")));
 }

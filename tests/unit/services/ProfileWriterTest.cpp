@@ -62,10 +62,18 @@ QStringList entries(const QString& folder)
 }
 
 // Saves `key` for `variable` as the API key screen does.
-Result<ProfileChange> saveKey(const QString& profile, const QString& variable, const QString& toolName,
-                              const QString& key)
+Result<ProfileChange> saveKey(const QString& profile, const QString& key,
+                              const QString& variable = QStringLiteral("OPENAI_API_KEY"),
+                              const QString& toolName = QStringLiteral("Codex"))
 {
     return ProfileWriter::store(profile, variable, toolName, shellExport::exportLine(variable, key));
+}
+
+// The error's text; a placeholder that matches nothing when it worked.
+template <typename T>
+QString failure(const Result<T>& result)
+{
+    return result.ok() ? QStringLiteral("<no error>") : result.error().errorDescription();
 }
 
 const QByteArray pathBlockExport = "export PATH=\"$HOME/.local/bin:$PATH\"";
@@ -127,13 +135,14 @@ TEST(ProfileWriterFiles, AFailureAtAnyByteLeavesTheProfileAsBeforeOrAsIntended)
         // What one save and then the block make of it, with room enough.
         reset();
         ASSERT_EQ(runHelper(profile, QStringLiteral("OPENAI_API_KEY"), 1).exitCode, 0);
+        const QByteArray saved = shellExport::withExport(
+                                     c.before, QStringLiteral("OPENAI_API_KEY"), QStringLiteral("Codex"),
+                                     shellExport::exportLine(QStringLiteral("OPENAI_API_KEY"), QStringLiteral("key-0")))
+                                     .profile;
         const QByteArray intended = contents(profile);
-        const QList<QByteArray> allowed{
-            c.before,
-            shellExport::withExport(c.before, QStringLiteral("OPENAI_API_KEY"), QStringLiteral("Codex"),
-                                    shellExport::exportLine(QStringLiteral("OPENAI_API_KEY"), QStringLiteral("key-0")))
-                .profile,
-            intended};
+        // Rewritten in place, a shorter key leaves nothing of the longer one.
+        EXPECT_EQ(intended, saved + shellExport::searchPathBlock());
+        const QList<QByteArray> allowed{c.before, saved, intended};
 
         for (qint64 limit = 0; limit <= intended.size() + 1; ++limit) {
             reset();
@@ -146,10 +155,7 @@ TEST(ProfileWriterFiles, AFailureAtAnyByteLeavesTheProfileAsBeforeOrAsIntended)
             if (c.hardLinked) {
                 EXPECT_EQ(contents(other), now); // still one file
             }
-            QStringList expected{QStringLiteral(".zshrc")};
-            if (c.hardLinked)
-                expected.append(QStringLiteral("dotfiles-zshrc"));
-            EXPECT_EQ(entries(home.path()), expected) << "limit " << limit; // nothing left behind
+            EXPECT_EQ(entries(home.path()).size(), c.hardLinked ? 2 : 1) << "limit " << limit; // nothing left behind
         }
     }
 }
@@ -165,28 +171,21 @@ TEST(ProfileWriterFiles, AFullDiskIsNamedAndBreaksNothing)
     writeFile(profile, before);
     disk.fill();
 
-    const QString line = shellExport::exportLine(QStringLiteral("OPENAI_API_KEY"), QStringLiteral("sk-proj-1"));
-    const auto appended = ProfileWriter::store(profile, QStringLiteral("OPENAI_API_KEY"), QStringLiteral("Codex"),
-                                               line);
-    ASSERT_FALSE(appended.ok());
-    EXPECT_TRUE(appended.error().errorDescription().contains(profile + QStringLiteral(": No space left on device.")));
-    const auto rewritten = saveKey(profile, QStringLiteral("ANTHROPIC_API_KEY"), QStringLiteral("Claude Code"),
-                                   QStringLiteral("sk-ant-a-much-longer-key"));
-    ASSERT_FALSE(rewritten.ok());
-    const auto block = ProfileWriter::addSearchPathBlock(profile);
-    ASSERT_FALSE(block.ok());
-    EXPECT_TRUE(
-        block.error().errorDescription().contains(QStringLiteral("No space left on device. Your disk is full")));
+    EXPECT_TRUE(failure(saveKey(profile, QStringLiteral("sk-proj-1")))
+                    .contains(profile + QStringLiteral(": No space left on device.")));
+    EXPECT_FALSE(saveKey(profile, QStringLiteral("sk-ant-a-much-longer-key"), QStringLiteral("ANTHROPIC_API_KEY"),
+                         QStringLiteral("Claude Code"))
+                     .ok());
+    EXPECT_TRUE(failure(ProfileWriter::addSearchPathBlock(profile))
+                    .contains(QStringLiteral("No space left on device. Your disk is full")));
     EXPECT_EQ(contents(profile), before);
 
     // Once there is room again, the next save and the block go in whole.
     disk.free();
-    ASSERT_TRUE(ProfileWriter::store(profile, QStringLiteral("OPENAI_API_KEY"), QStringLiteral("Codex"), line).ok());
-    const auto added = ProfileWriter::addSearchPathBlock(profile);
-    ASSERT_TRUE(added.ok());
-    EXPECT_TRUE(added.value());
+    ASSERT_TRUE(saveKey(profile, QStringLiteral("sk-proj-1")).ok());
+    EXPECT_TRUE(ProfileWriter::addSearchPathBlock(profile).value());
     EXPECT_EQ(contents(profile),
-              before + "\n# Codex API Key\n" + line.toUtf8() + "\n" + shellExport::searchPathBlock());
+              before + "\n# Codex API Key\nexport OPENAI_API_KEY=\"sk-proj-1\"\n" + shellExport::searchPathBlock());
     EXPECT_EQ(entries(root.filePath(QStringLiteral("disk"))), QStringList{QStringLiteral(".zshrc")});
 }
 
@@ -200,67 +199,54 @@ TEST(ProfileWriterFiles, AReadOnlyProfileIsRefusedWhateverTheChange)
     writeFile(profile, before);
     ASSERT_EQ(::chmod(QFile::encodeName(profile).constData(), 0444), 0);
 
-    const auto rewritten = saveKey(profile, QStringLiteral("OPENAI_API_KEY"), QStringLiteral("Codex"),
-                                   QStringLiteral("new"));
-    ASSERT_FALSE(rewritten.ok());
-    EXPECT_TRUE(rewritten.error().errorDescription().contains(profile + QStringLiteral(": Permission denied. Make")));
-    const auto appended = saveKey(profile, QStringLiteral("GEMINI_API_KEY"), QStringLiteral("Gemini CLI"),
-                                  QStringLiteral("new"));
-    ASSERT_FALSE(appended.ok());
-    EXPECT_TRUE(appended.error().errorDescription().contains(QStringLiteral(": Permission denied. Make sure")));
-    const auto block = ProfileWriter::addSearchPathBlock(profile);
-    ASSERT_FALSE(block.ok());
-    EXPECT_TRUE(block.error().errorDescription().contains(profile + QStringLiteral(": Permission denied. Make")));
+    const QString denied = profile + QStringLiteral(": Permission denied. Make");
+    EXPECT_TRUE(failure(saveKey(profile, QStringLiteral("new"))).contains(denied));
+    EXPECT_TRUE(
+        failure(saveKey(profile, QStringLiteral("new"), QStringLiteral("GEMINI_API_KEY"), QStringLiteral("Gemini CLI")))
+            .contains(denied));
+    EXPECT_TRUE(failure(ProfileWriter::addSearchPathBlock(profile)).contains(denied));
     EXPECT_EQ(contents(profile), before);
     EXPECT_EQ(QFileInfo(profile).permissions() & QFile::WriteOwner, 0);
 
     // Where nothing needs to change, a read-only profile is no error: the key is there already.
-    const auto same = saveKey(profile, QStringLiteral("OPENAI_API_KEY"), QStringLiteral("Codex"),
-                              QStringLiteral("old"));
-    EXPECT_TRUE(same.ok());
+    EXPECT_TRUE(saveKey(profile, QStringLiteral("old")).ok());
 }
 
-TEST(ProfileWriterFiles, AnUnfinishedSearchPathBlockIsCompletedOnce)
-{
-    // A block cut off after its first line (by an older version on a full disk) would have
-    // kept every later install saying "already added".
-    QTemporaryDir home;
-    const QString profile = home.filePath(QStringLiteral(".bashrc"));
-    const QByteArray cut = QByteArray("alias ll='ls -l'\n\n") + kSearchPathMark + "\n";
-    writeFile(profile, cut);
-    const auto added = ProfileWriter::addSearchPathBlock(profile);
-    ASSERT_TRUE(added.ok());
-    EXPECT_TRUE(added.value());
-    EXPECT_EQ(contents(profile), cut + shellExport::searchPathBlock());
-    const auto again = ProfileWriter::addSearchPathBlock(profile);
-    ASSERT_TRUE(again.ok());
-    EXPECT_FALSE(again.value());
-    EXPECT_EQ(contents(profile).count(pathBlockExport), 1);
-}
-
-TEST(ProfileWriterFiles, OnlyOrdinaryFilesAreWrittenAndLinksAreFollowed)
+TEST(ProfileWriterFiles, OnlyOrdinaryFilesAreWrittenLinksAreFollowedAndACutBlockIsCompleted)
 {
     QTemporaryDir home;
     const QString profile = home.filePath(QStringLiteral(".zshrc"));
-    const QString line = shellExport::exportLine(QStringLiteral("OPENAI_API_KEY"), QStringLiteral("k"));
+    const QString target = home.filePath(QStringLiteral("dotfiles/zshrc"));
 
-    // A link to a file that does not exist yet: the file is made where the link points.
-    ASSERT_TRUE(QFile::link(home.filePath(QStringLiteral("dotfiles/zshrc")), profile));
+    // A link to a file that does not exist yet: the file is made where the link points. Later
+    // saves rewrite it there, and a shorter key leaves nothing of a longer one.
+    ASSERT_TRUE(QFile::link(target, profile));
     QDir().mkpath(home.filePath(QStringLiteral("dotfiles")));
-    ASSERT_TRUE(ProfileWriter::store(profile, QStringLiteral("OPENAI_API_KEY"), QStringLiteral("Codex"), line).ok());
+    ASSERT_TRUE(saveKey(profile, QStringLiteral("k")).ok());
+    EXPECT_EQ(contents(target), "\n# Codex API Key\nexport OPENAI_API_KEY=\"k\"\n");
+    ASSERT_TRUE(saveKey(profile, QStringLiteral("sk-proj-linked-and-longer")).ok());
+    ASSERT_TRUE(saveKey(profile, QStringLiteral("short")).ok());
     EXPECT_TRUE(QFileInfo(profile).isSymLink());
-    EXPECT_EQ(contents(home.filePath(QStringLiteral("dotfiles/zshrc"))),
-              "\n# Codex API Key\nexport OPENAI_API_KEY=\"k\"\n");
+    EXPECT_EQ(contents(target), "\n# Codex API Key\nexport OPENAI_API_KEY=\"short\"\n");
+    EXPECT_EQ(entries(home.filePath(QStringLiteral("dotfiles"))), QStringList{QStringLiteral("zshrc")});
+
+    // A block cut off after its first line (by an older version on a full disk) would have
+    // kept every later install saying "already added": it is completed, once.
+    const QString bashrc = home.filePath(QStringLiteral(".bashrc"));
+    const QByteArray cut = QByteArray("alias ll='ls -l'\n\n") + kSearchPathMark + "\n";
+    writeFile(bashrc, cut);
+    EXPECT_TRUE(ProfileWriter::addSearchPathBlock(bashrc).value());
+    EXPECT_EQ(contents(bashrc), cut + shellExport::searchPathBlock());
+    EXPECT_FALSE(ProfileWriter::addSearchPathBlock(bashrc).value());
+    EXPECT_EQ(contents(bashrc).count(pathBlockExport), 1);
 
     // A device in its place is no profile: refused, and nothing is made beside the device.
     if (QFileInfo::exists(QStringLiteral("/dev/null"))) {
-        const QString device = home.filePath(QStringLiteral(".bashrc"));
+        const QString device = home.filePath(QStringLiteral(".profile"));
         ASSERT_TRUE(QFile::link(QStringLiteral("/dev/null"), device));
         const QStringList devBefore = entries(QStringLiteral("/dev"));
-        const auto stored = ProfileWriter::store(device, QStringLiteral("OPENAI_API_KEY"), QStringLiteral("Codex"),
-                                                 line);
-        ASSERT_FALSE(stored.ok());
-        EXPECT_TRUE(stored.error().errorDescription().contains(device + QStringLiteral(": it is not an ordinary")));
+        EXPECT_TRUE(
+            failure(saveKey(device, QStringLiteral("k"))).contains(device + QStringLiteral(": it is not an ordinary")));
         EXPECT_EQ(entries(QStringLiteral("/dev")), devBefore);
     }
 }

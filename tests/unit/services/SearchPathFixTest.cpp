@@ -5,18 +5,24 @@ using qf::test::SetupRun;
 
 namespace {
 
-class SearchPathFixTest : public test::SetupTest {};
+// npm's global folder cannot take the package: its lib is a file (as root, permissions alone
+// would not say no).
+class SearchPathFixTest : public test::SetupTest {
+protected:
+    void SetUp() override
+    {
+        sandbox.installFakes({"git", "node", "npm"});
+        writeFile(prefix + QStringLiteral("/lib"), "");
+        sandbox.setEnv("FAKE_NPM_PREFIX", prefix.toUtf8());
+    }
+
+    const QString prefix = sandbox.stateDirectory() + QStringLiteral("/usr");
+};
 
 } // namespace
 
 TEST_F(SearchPathFixTest, AnUnwritableNpmFolderSendsTheToolToLocalAndTheTerminalFindsIt)
 {
-    sandbox.installFakes({"git", "node", "npm"});
-    // npm's global folder cannot take the package: its lib is a file (as root, permissions
-    // alone would not say no).
-    const QString prefix = sandbox.stateDirectory() + QStringLiteral("/usr");
-    writeFile(prefix + QStringLiteral("/lib"), "");
-    sandbox.setEnv("FAKE_NPM_PREFIX", prefix.toUtf8());
     // The profile is a link into a dotfiles folder, with its own permissions and no line
     // break at its end.
     sandbox.writeFile(QStringLiteral("dotfiles/zshrc"), "alias ll='ls -l'");
@@ -33,10 +39,8 @@ TEST_F(SearchPathFixTest, AnUnwritableNpmFolderSendsTheToolToLocalAndTheTerminal
                                                 "stay as they are).\n")
                                      .arg(prefix)))
         << run.log.toStdString();
-    QFile npmEnvironment(sandbox.stateDirectory() + QStringLiteral("/npm-env.log"));
-    ASSERT_TRUE(npmEnvironment.open(QIODevice::ReadOnly));
-    EXPECT_EQ(npmEnvironment.readAll(), "npm install -g @openai/codex with npm_config_prefix=" +
-                                            sandbox.path(QStringLiteral(".local")).toUtf8() + "\n");
+    EXPECT_EQ(sandbox.readState("npm-env.log"), "npm install -g @openai/codex with npm_config_prefix=" +
+                                                    sandbox.path(QStringLiteral(".local")).toUtf8() + "\n");
     EXPECT_TRUE(sandbox.exists(QStringLiteral(".local/bin/codex")));
     EXPECT_FALSE(sandbox.exists(QStringLiteral(".npmrc")));
 
@@ -75,10 +79,6 @@ TEST_F(SearchPathFixTest, AnUnwritableNpmFolderSendsTheToolToLocalAndTheTerminal
 
 TEST_F(SearchPathFixTest, EveryShellFamilyGetsTheSearchPathInTheFileItReads)
 {
-    sandbox.installFakes({"git", "node", "npm"});
-    const QString prefix = sandbox.stateDirectory() + QStringLiteral("/usr");
-    writeFile(prefix + QStringLiteral("/lib"), "");
-    sandbox.setEnv("FAKE_NPM_PREFIX", prefix.toUtf8());
     sandbox.setEnv("XDG_CONFIG_HOME", "");
 
     struct Case {

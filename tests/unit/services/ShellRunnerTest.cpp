@@ -143,14 +143,17 @@ TEST_F(ShellRunnerTest, ResultTexts)
 
 TEST(ShellError, TextsSayTheRealLengthsAndKeepTheEndOfLongOutput)
 {
+    // Lengths in words, grouped and never in scientific notation.
+    const std::pair<double, const char*> lengths[] = {
+        {0.25, "0.25 seconds"},      {45, "45 seconds"},
+        {1234.5, "1,234.5 seconds"}, {1, "1 second"},
+        {600, "10 minutes"},         {2e6, "2,000,000 seconds"},
+        {15 * 60, "15 minutes"},     {1e12, "1,000,000,000,000 seconds"},
+    };
+    for (const auto& [seconds, text] : lengths)
+        EXPECT_EQ(ShellError::durationText(seconds), QString::fromLatin1(text)) << seconds;
     EXPECT_EQ(ShellError::timeout(0.5).errorDescription(),
               QStringLiteral("The command did not finish within 0.5 seconds and was stopped."));
-    EXPECT_EQ(ShellError::timeout(1).errorDescription(),
-              QStringLiteral("The command did not finish within 1 second and was stopped."));
-    EXPECT_EQ(ShellError::timeout(600).errorDescription(),
-              QStringLiteral("The command did not finish within 10 minutes and was stopped."));
-    EXPECT_EQ(ShellError::timeout(1e12).errorDescription(),
-              QStringLiteral("The command did not finish within 1,000,000,000,000 seconds and was stopped."));
     EXPECT_EQ(ShellError::stalled(15 * 60).errorDescription(),
               QStringLiteral("The command showed no progress for 15 minutes and was stopped."));
 
@@ -196,7 +199,7 @@ TEST_F(ShellRunnerTest, LargeOutputOnBothPipesDoesNotStall)
     EXPECT_TRUE(failing.error().shellError()->output().startsWith(QStringLiteral("done\n\neee")));
 }
 
-TEST_F(ShellRunnerTest, CommandsCannotWaitForAnswers)
+TEST_F(ShellRunnerTest, CommandsCannotWaitForAnswersAndStartWithDefaultSignals)
 {
     // Standard input is the null device: a question gets no answer instead of waiting.
     EXPECT_EQ(run(QStringLiteral("cat")).value(), QString());
@@ -215,14 +218,9 @@ TEST_F(ShellRunnerTest, CommandsCannotWaitForAnswers)
     EXPECT_EQ(fields[2], pid); // process group
     EXPECT_EQ(fields[3], pid); // session
     EXPECT_NE(fields[3].toLongLong(), static_cast<long long>(getsid(0)));
-}
 
-TEST_F(ShellRunnerTest, CommandsStartWithNoSignalBlockedAndSigpipeAtItsDefault)
-{
-    if (!QFile::exists(QStringLiteral("/proc/self/status")))
-        GTEST_SKIP() << "no /proc";
-    // The writer of a pipeline whose reader is gone must end, not write into the void; and a
-    // command must hear TERM when it is stopped.
+    // No signal blocked and SIGPIPE at its default, with a login environment or without: the writer of a pipeline whose
+    // reader is gone must end, not write into the void; and a command must hear TERM when it is stopped.
     ShellRunner perCommand(sandbox.shellConfiguration());
     for (ShellRunner* runner : {&services.runner, &perCommand}) {
         const Result<QString> status = run(*runner, QStringLiteral("grep -E '^Sig(Blk|Ign)' /proc/self/status"));
@@ -248,37 +246,25 @@ TEST_F(ShellRunnerTest, BackgroundChildrenHoldingThePipeDoNotDelayTheResult)
     ::kill(child, SIGKILL);
 }
 
-TEST_F(ShellRunnerTest, OverlongCommandsAreStoppedWithTheirWholeGroup)
-{
-    ShellRunner impatient(configurationWith([](auto& c) { c.terminationGraceMs = 200; }));
-    const QString pidFile = sandbox.path(QStringLiteral("child.pid"));
-    const Result<QString> result = run(
-        impatient, QStringLiteral("sleep 30 & echo $! > '%1'; trap '' TERM; wait; sleep 30").arg(pidFile), 0.5);
-    ASSERT_FALSE(result.ok());
-    ASSERT_NE(result.error().shellError(), nullptr);
-    EXPECT_EQ(result.error().shellError()->kind(), ShellError::timedOut);
-    EXPECT_FALSE(result.error().errorDescription().isEmpty());
-
-    // The background child went with the shell.
-    const pid_t child = sandbox.readFile(QStringLiteral("child.pid")).trimmed().toInt();
-    ASSERT_GT(child, 0);
-    EXPECT_TRUE(QTest::qWaitFor([child] { return ::kill(child, 0) != 0; }, 2000));
-}
-
 TEST_F(ShellRunnerTest, AfterATimeOutNothingOfTheGroupSurvives)
 {
-    // The shell goes on TERM; a member of its group ignores TERM and must still go.
+    // The shell ignores TERM and its background child goes with it; or the shell goes on TERM
+    // and a member of its group ignores TERM and must still go.
     ShellRunner impatient(configurationWith([](auto& c) { c.terminationGraceMs = 200; }));
-    const QString pidFile = sandbox.path(QStringLiteral("stubborn.pid"));
-    const Result<QString> result = run(
-        impatient, QStringLiteral("(trap '' TERM; exec sleep 123) & echo $! > '%1'; wait").arg(pidFile), 0.5);
-    ASSERT_FALSE(result.ok());
-    EXPECT_EQ(result.error().shellError()->kind(), ShellError::timedOut);
-
-    const QByteArray pid = sandbox.readFile(QStringLiteral("stubborn.pid")).trimmed();
-    ASSERT_FALSE(pid.isEmpty());
-    EXPECT_TRUE(QTest::qWaitFor([&pid] { return processEnded(pid.toInt()); }, 3000))
-        << "process " << pid.constData() << " outlived its time-out";
+    const QString pidFile = sandbox.path(QStringLiteral("child.pid"));
+    for (const char* command : {"sleep 30 & echo $! > '%1'; trap '' TERM; wait; sleep 30",
+                                "(trap '' TERM; exec sleep 123) & echo $! > '%1'; wait"}) {
+        SCOPED_TRACE(command);
+        QFile::remove(pidFile);
+        const Result<QString> result = run(impatient, QString::fromLatin1(command).arg(pidFile), 0.5);
+        ASSERT_FALSE(result.ok());
+        ASSERT_NE(result.error().shellError(), nullptr);
+        EXPECT_EQ(result.error().shellError()->kind(), ShellError::timedOut);
+        EXPECT_FALSE(result.error().errorDescription().isEmpty());
+        const pid_t child = sandbox.readFile(QStringLiteral("child.pid")).trimmed().toInt();
+        ASSERT_GT(child, 0);
+        EXPECT_TRUE(QTest::qWaitFor([child] { return processEnded(child); }, 3000)) << "outlived its time-out";
+    }
 }
 
 TEST_F(ShellRunnerTest, CommandsStartAtHomeAndNeverSearchTheCurrentFolder)
@@ -342,7 +328,7 @@ TEST_F(ShellRunnerTest, AStreamedCommandWithoutProgressIsStopped)
     EXPECT_EQ(streamed.text(), QStringLiteral("a\nb\nc\n"));
 }
 
-TEST_F(ShellRunnerTest, DeliversOutputWhileRunningOnTheGuiThread)
+TEST_F(ShellRunnerTest, StreamedOutputArrivesWhileRunningWholeAndBeforeTheResult)
 {
     const Streamed streamed = stream(QStringLiteral("echo one; sleep 0.2; echo two >&2; sleep 0.2; echo three"));
     ASSERT_TRUE(streamed.result.has_value());
@@ -350,26 +336,21 @@ TEST_F(ShellRunnerTest, DeliversOutputWhileRunningOnTheGuiThread)
     EXPECT_GE(streamed.chunks.size(), 3);
     EXPECT_EQ(streamed.text(), QStringLiteral("one\ntwo\nthree\n"));
     EXPECT_TRUE(streamed.allOnGuiThread);
-}
 
-TEST_F(ShellRunnerTest, AFailureComesAfterAllOfItsOutput)
-{
-    const Streamed streamed = stream(QStringLiteral("echo partial; exit 2"));
-    ASSERT_TRUE(streamed.result.has_value());
-    ASSERT_FALSE(streamed.result->ok());
-    EXPECT_EQ(streamed.result->error().errorDescription(),
-              QStringLiteral("Command failed with exit code 2: Command failed"));
-    EXPECT_EQ(streamed.text(), QStringLiteral("partial\n"));
-}
-
-TEST_F(ShellRunnerTest, NeverLosesText)
-{
     // A character split over two writes arrives whole; bytes that are not UTF-8 show as U+FFFD.
     const Streamed split = stream(QStringLiteral("printf 'caf\\303'; sleep 0.3; printf '\\251 \\342\\206'; sleep 0.3; "
                                                  "printf '\\222 ok\\n'; printf 'bad \\377 byte\\n'"));
     ASSERT_TRUE(split.result.has_value());
     EXPECT_EQ(split.text(), QString::fromUtf8("caf\xC3\xA9 \xE2\x86\x92 ok\nbad \xEF\xBF\xBD byte\n"));
     EXPECT_GE(split.chunks.size(), 2);
+
+    // A failure comes after all of its output.
+    const Streamed failed = stream(QStringLiteral("echo partial; exit 2"));
+    ASSERT_TRUE(failed.result.has_value());
+    ASSERT_FALSE(failed.result->ok());
+    EXPECT_EQ(failed.result->error().errorDescription(),
+              QStringLiteral("Command failed with exit code 2: Command failed"));
+    EXPECT_EQ(failed.text(), QStringLiteral("partial\n"));
 }
 
 TEST_F(ShellRunnerTest, StopsDeliveringWhenItsContextIsGone)

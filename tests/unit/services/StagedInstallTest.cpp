@@ -112,6 +112,15 @@ std::string runProgram(const QString& program)
     return process.readAllStandardOutput().trimmed().toStdString();
 }
 
+// What node, npm and npx in the folder `bin` print, one to a line.
+std::string nodeAndNpm(const QString& bin)
+{
+    std::string printed;
+    for (const char* program : {"/node", "/npm", "/npx"})
+        printed += runProgram(bin + QLatin1String(program)) + "\n";
+    return printed;
+}
+
 // What the Node.js installer moves in last, in this order.
 const QStringList kLast{QStringLiteral("bin/corepack"), QStringLiteral("bin/npx"), QStringLiteral("bin/npm"),
                         QStringLiteral("bin/node")};
@@ -170,27 +179,21 @@ TEST_F(StagedInstallTest, ALinkedProgramFolderStaysALinkAndReceivesNode)
     ASSERT_TRUE(test::writeExecutable(home(QStringLiteral("dotfiles/bin/hello")), "#!/bin/sh\necho hello\n"));
     test::makeLink(QStringLiteral("../dotfiles/bin"), home(QStringLiteral(".local/bin")));
 
-    publish(QStringLiteral("v22.11.0"));
-    ASSERT_EQ(install(), "") << log.toStdString();
-    EXPECT_EQ(linkTarget(home(QStringLiteral(".local/bin"))), "../dotfiles/bin");
-    EXPECT_EQ(runProgram(home(QStringLiteral("dotfiles/bin/hello"))), "hello");
-    EXPECT_EQ(runProgram(home(QStringLiteral("dotfiles/bin/node"))), "v22.11.0");
-    EXPECT_EQ(runProgram(home(QStringLiteral(".local/bin/node"))), "v22.11.0");
-    // npm's link reaches npm in ~/.local/lib, though its folder is somewhere else.
-    EXPECT_EQ(runProgram(home(QStringLiteral(".local/bin/npm"))), "npm v22.11.0");
-    EXPECT_EQ(runProgram(home(QStringLiteral(".local/bin/npx"))), "npx v22.11.0");
-    EXPECT_EQ(entriesOf(home(QStringLiteral(".local"))), kInstalledFolders);
-
-    // A newer release replaces the files through the same link.
-    publish(QStringLiteral("v22.12.0"));
-    ASSERT_EQ(install(), "") << log.toStdString();
-    EXPECT_EQ(linkTarget(home(QStringLiteral(".local/bin"))), "../dotfiles/bin");
-    EXPECT_EQ(runProgram(home(QStringLiteral(".local/bin/hello"))), "hello");
-    EXPECT_EQ(runProgram(home(QStringLiteral(".local/bin/node"))), "v22.12.0");
-    EXPECT_EQ(runProgram(home(QStringLiteral(".local/bin/npm"))), "npm v22.12.0");
-    EXPECT_EQ(entriesOf(home(QStringLiteral(".local"))), kInstalledFolders);
-    EXPECT_EQ(entriesOf(home(QStringLiteral("dotfiles/bin"))),
-              (std::vector<std::string>{"hello", "node", "npm", "npx"}));
+    // The first release, then a newer one through the same link. npm's link reaches npm in
+    // ~/.local/lib, though its folder is somewhere else.
+    for (const char* version : {"v22.11.0", "v22.12.0"}) {
+        SCOPED_TRACE(version);
+        publish(QString::fromLatin1(version));
+        ASSERT_EQ(install(), "") << log.toStdString();
+        EXPECT_EQ(linkTarget(home(QStringLiteral(".local/bin"))), "../dotfiles/bin");
+        EXPECT_EQ(runProgram(home(QStringLiteral(".local/bin/hello"))), "hello");
+        const std::string v = version;
+        EXPECT_EQ(nodeAndNpm(home(QStringLiteral(".local/bin"))), v + "\nnpm " + v + "\nnpx " + v + "\n");
+        EXPECT_EQ(runProgram(home(QStringLiteral("dotfiles/bin/node"))), v);
+        EXPECT_EQ(entriesOf(home(QStringLiteral(".local"))), kInstalledFolders);
+        EXPECT_EQ(entriesOf(home(QStringLiteral("dotfiles/bin"))),
+                  (std::vector<std::string>{"hello", "node", "npm", "npx"}));
+    }
 }
 
 TEST_F(StagedInstallTest, ALinkToAFolderNotYetThereGetsThatFolder)
@@ -265,8 +268,7 @@ TEST_F(StagedInstallTest, AFailureAnywherePutsEverythingBack)
         ASSERT_TRUE(QDir(blocker).removeRecursively());
         ASSERT_EQ(installTree(local, QStringLiteral("v22.11.0"), 0, true), "");
         EXPECT_EQ(linkTarget(local + QStringLiteral("/bin")), "../dotfiles/bin");
-        EXPECT_EQ(runProgram(local + QStringLiteral("/bin/node")), "v22.11.0");
-        EXPECT_EQ(runProgram(local + QStringLiteral("/bin/npm")), "npm v22.11.0");
+        EXPECT_EQ(nodeAndNpm(local + QStringLiteral("/bin")), "v22.11.0\nnpm v22.11.0\nnpx v22.11.0\n");
         EXPECT_EQ(runProgram(local + QStringLiteral("/bin/corepack")), "corepack");
         EXPECT_EQ(entriesOf(local), kInstalledFolders);
     }
@@ -290,8 +292,7 @@ TEST_F(StagedInstallTest, AFolderLinkedToAnotherDiskGetsCopiesAndAFullOneNothing
 
     // No rename reaches the other disk: node is copied there, whole and runnable.
     ASSERT_EQ(installTree(local, QStringLiteral("v20.19.5")), "");
-    EXPECT_EQ(runProgram(local + QStringLiteral("/bin/node")), "v20.19.5");
-    EXPECT_EQ(runProgram(local + QStringLiteral("/bin/npm")), "npm v20.19.5");
+    EXPECT_EQ(nodeAndNpm(local + QStringLiteral("/bin")), "v20.19.5\nnpm v20.19.5\nnpx v20.19.5\n");
     EXPECT_EQ(runProgram(local + QStringLiteral("/bin/hello")), "hello");
     EXPECT_EQ(entriesOf(home(QStringLiteral("disk/bin"))), (std::vector<std::string>{"hello", "node", "npm", "npx"}));
     EXPECT_EQ(entriesOf(local), kInstalledFolders);

@@ -40,7 +40,7 @@ protected:
 
 } // namespace
 
-TEST_F(SupportToolsTest, TheCatalogue)
+TEST_F(SupportToolsTest, TheCatalogueListsHomebrewOnlyWhereTheSetupUsesIt)
 {
     const QList<SystemTool> tools = catalogue();
     ASSERT_EQ(tools.size(), 4); // their order and numbers follow below
@@ -73,10 +73,8 @@ TEST_F(SupportToolsTest, TheCatalogue)
     EXPECT_FALSE(tools[1].isInstalled);
     sandbox.writeFile(QStringLiteral("Developer"), "a file");
     EXPECT_TRUE(catalogue()[1].isInstalled);
-}
 
-TEST_F(SupportToolsTest, HomebrewIsListedOnlyWhereTheSetupUsesIt)
-{
+    // Homebrew is listed only where the setup uses it.
     const auto listed = [](const QList<SystemTool>& tools) {
         QList<QPair<SystemToolID, int>> items;
         for (const SystemTool& tool : tools)
@@ -105,13 +103,14 @@ TEST_F(SupportToolsTest, VersionsAsTheyAreShown)
     QDir().mkpath(sandbox.path(QStringLiteral("Developer")));
 
     // Only the Command Line Tools: the version pipeline prints nothing, so no version is known.
-    QList<SystemTool> tools = detect();
-    EXPECT_TRUE(item(tools, SystemToolID::developerTools).isInstalled);
-    EXPECT_EQ(item(tools, SystemToolID::developerTools).version, std::nullopt);
-    EXPECT_TRUE(item(tools, SystemToolID::developerFolder).isInstalled);
-    EXPECT_FALSE(item(tools, SystemToolID::developerFolder).version.has_value());
-    EXPECT_EQ(item(tools, SystemToolID::homebrew).version, QStringLiteral("4.2.0")); // first line only
-    EXPECT_EQ(item(tools, SystemToolID::node).version, QStringLiteral("v20.10.0"));  // with its v
+    // Homebrew's is its first line only; Node.js's with its v.
+    QList<std::pair<bool, std::optional<QString>>> shown;
+    for (const SystemTool& tool : detect())
+        shown.append({tool.isInstalled, tool.version});
+    EXPECT_EQ(shown, (QList<std::pair<bool, std::optional<QString>>>{{true, std::nullopt},
+                                                                     {true, std::nullopt},
+                                                                     {true, QStringLiteral("4.2.0")},
+                                                                     {true, QStringLiteral("v20.10.0")}}));
 
     sandbox.setEnv("FAKE_FULL_XCODE", "1");
     EXPECT_EQ(item(detect(), SystemToolID::developerTools).version, QStringLiteral("15.2"));
@@ -123,14 +122,19 @@ TEST_F(SupportToolsTest, VersionsAsTheyAreShown)
     EXPECT_EQ(item(detect(), SystemToolID::developerTools).version, QStringLiteral("2.39.5"));
 }
 
-TEST_F(SupportToolsTest, NodeIsOfferedForRemovalOnlyAsACopyQuillforgeCanRemove)
+TEST_F(SupportToolsTest, NodeIsOfferedForRemovalOnlyAsACopyQuillforgeCanRemoveAndRemovedByItsLine)
 {
-    // Homebrew's Node.js goes through Homebrew.
+    // Homebrew's Node.js goes through Homebrew, which says what it does.
     sandbox.installFakes({"brew", "node"});
-    EXPECT_EQ(item(detect(), SystemToolID::node).uninstallCommand, QStringLiteral("brew uninstall node"));
+    const SystemTool homebrews = *await(services.supportTools.detect(item(SystemToolID::node)));
+    EXPECT_EQ(homebrews.uninstallCommand, QStringLiteral("brew uninstall node"));
+    EXPECT_TRUE(remove(homebrews).ok());
+    EXPECT_EQ(log, QStringLiteral("Running: brew uninstall node\n\n"
+                                  "Uninstalling /opt/homebrew/Cellar/node/21.5.0... (2,000 files, 60MB)\n"
+                                  "\nNode.js has been uninstalled.\n"));
+    EXPECT_FALSE(QFile::exists(sandbox.binDirectory() + QStringLiteral("/node")));
 
     // The release archive's copy in ~/.local: its files go, the global packages beside it stay.
-    sandbox.removeFake(QStringLiteral("node"));
     for (const char* file : {".local/bin/npm", ".local/bin/npx", ".local/lib/node_modules/npm/package.json",
                              ".local/include/node/node.h", ".local/share/man/man1/node.1",
                              ".local/lib/node_modules/@google/gemini-cli/package.json", ".local/bin/gemini"})
@@ -155,17 +159,6 @@ TEST_F(SupportToolsTest, NodeIsOfferedForRemovalOnlyAsACopyQuillforgeCanRemove)
     EXPECT_EQ(other.uninstallNote,
               QStringLiteral("This Node.js (%1) was installed by another program. Remove it the way it was installed.")
                   .arg(nvm));
-}
-
-TEST_F(SupportToolsTest, ARemovalRunsTheItemsLineAndStreamsWhatItSays)
-{
-    sandbox.installFakes({"brew", "node"});
-    const SystemTool node = *await(services.supportTools.detect(item(SystemToolID::node)));
-    EXPECT_TRUE(remove(node).ok());
-    EXPECT_EQ(log, QStringLiteral("Running: brew uninstall node\n\n"
-                                  "Uninstalling /opt/homebrew/Cellar/node/21.5.0... (2,000 files, 60MB)\n"
-                                  "\nNode.js has been uninstalled.\n"));
-    EXPECT_FALSE(QFile::exists(sandbox.binDirectory() + QStringLiteral("/node")));
 
     // An item without a line of its own is not removed from here.
     const Result<void> folder = remove(item(SystemToolID::developerFolder));

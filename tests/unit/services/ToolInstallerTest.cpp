@@ -51,20 +51,6 @@ TEST_F(ToolInstallerTest, ClaudeCodeInstallsWithoutNode)
     EXPECT_TRUE(QFile(sandbox.stateDirectory() + QStringLiteral("/curl.log")).exists());
 }
 
-TEST_F(ToolInstallerTest, AFailedDownloadFailsTheInstallWithItsOwnReason)
-{
-    // Offline: the maker's installer never arrives, so nothing runs and nothing is verified.
-    sandbox.installFakes({"git", "curl"});
-    sandbox.setEnv("FAKE_CURL_FAIL", "1");
-    const SetupRun run = runSetup(CLITool::claudeCode);
-    ASSERT_TRUE(run.result && !run.result->ok());
-    EXPECT_EQ(run.result->error().shellError()->exitCode(), 22); // curl's own status
-    EXPECT_EQ(run.result->error().plainDescription(), failureSentence(FailureCause::notFound));
-    EXPECT_EQ(run.last(SetupStepType::installTool), kInProgress);
-    EXPECT_FALSE(run.log.contains(QStringLiteral("Verifying"))) << run.log.toStdString();
-    EXPECT_FALSE(QFile::exists(sandbox.binDirectory() + QStringLiteral("/claude")));
-}
-
 TEST_F(ToolInstallerTest, GeminiWithARecentNodeSkipsTheNodeStep)
 {
     sandbox.installFakes({"git", "node", "npm"});
@@ -100,9 +86,18 @@ TEST_F(ToolInstallerTest, GeminiWithARecentNodeSkipsTheNodeStep)
     EXPECT_TRUE(unread.log.endsWith(QStringLiteral("\nGemini CLI installed successfully!\n")));
 }
 
-TEST_F(ToolInstallerTest, ToolInstallAndVerificationFailures)
+TEST_F(ToolInstallerTest, DownloadInstallAndVerificationFailures)
 {
-    sandbox.installFakes({"git", "node", "npm"});
+    // Offline: the maker's installer never arrives, so nothing runs and nothing is verified.
+    sandbox.installFakes({"git", "curl", "node", "npm"});
+    sandbox.setEnv("FAKE_CURL_FAIL", "1");
+    const SetupRun offline = runSetup(CLITool::claudeCode);
+    ASSERT_TRUE(offline.result && !offline.result->ok());
+    EXPECT_EQ(offline.result->error().shellError()->exitCode(), 22); // curl's own status
+    EXPECT_EQ(offline.result->error().plainDescription(), failureSentence(FailureCause::notFound));
+    EXPECT_EQ(offline.last(SetupStepType::installTool), kInProgress);
+    EXPECT_FALSE(offline.log.contains(QStringLiteral("Verifying"))) << offline.log.toStdString();
+    EXPECT_FALSE(QFile::exists(sandbox.binDirectory() + QStringLiteral("/claude")));
 
     sandbox.setEnv("FAKE_NPM_FAIL", "1");
     const SetupRun failed = runSetup(CLITool::codex);

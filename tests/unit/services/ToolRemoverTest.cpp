@@ -89,12 +89,22 @@ TEST_F(ToolRemoverTest, UninstallRemovesClaudeCodesOwnLauncherAndTellsAboutOther
 
 TEST_F(ToolRemoverTest, ACopyInAFolderOnlyAnAdministratorMayChangeGoesThroughThePasswordDialog)
 {
-    // Gemini CLI in npm's global folder, which the user's npm may not change.
-    sandbox.installFakes({"npm", "gemini", "sudo"});
+    // Gemini CLI in npm's global folder, which the user's npm may not change. npm starts through
+    // `env node`, and the administrator's shell searches only the system's folders, where this
+    // Node.js is not.
+    sandbox.installFakes({"gemini", "sudo"});
+    QFile npmFixture(QStringLiteral(QF_FIXTURES_DIR "/bin/npm"));
+    ASSERT_TRUE(npmFixture.open(QIODevice::ReadOnly));
+    const QByteArray npmBody = npmFixture.readAll();
+    ASSERT_TRUE(test::writeExecutable(sandbox.binDirectory() + QStringLiteral("/npm"),
+                                      "#!/usr/bin/env node\n" + npmBody.mid(npmBody.indexOf('\n') + 1)));
+    ASSERT_TRUE(test::writeExecutable(sandbox.binDirectory() + QStringLiteral("/node"),
+                                      "#!/bin/sh\nscript=$1; shift; exec /bin/sh \"$script\" \"$@\"\n"));
     const QString prefix = QFileInfo(sandbox.binDirectory()).absolutePath();
     test::writeFile(prefix + QStringLiteral("/lib"), "");
     sandbox.setEnv("FAKE_NPM_PREFIX", prefix.toUtf8());
     sandbox.setEnv("FAKE_NPM_DENIED", "1");
+    sandbox.setEnv("FAKE_SUDO_PATH", "/usr/sbin:/sbin");
 
     // Cancelled: the removal fails with a plain message and the tool stays.
     sandbox.setEnv("FAKE_SUDO_CANCEL", "1");
@@ -106,40 +116,12 @@ TEST_F(ToolRemoverTest, ACopyInAFolderOnlyAnAdministratorMayChangeGoesThroughThe
 
     sandbox.setEnv("FAKE_SUDO_ALLOW", "1");
     result = uninstall(CLITool::geminiCLI);
-    ASSERT_TRUE(result.ok()) << result.error().errorDescription().toStdString();
+    ASSERT_TRUE(result.ok()) << result.error().errorDescription().toStdString() << log.toStdString();
     EXPECT_FALSE(QFile::exists(sandbox.binDirectory() + QStringLiteral("/gemini")));
     EXPECT_TRUE(log.endsWith(QStringLiteral("\nRemoving Gemini CLI from %1 needs administrator rights.\n"
                                             "removed 1 package\n\nGemini CLI has been uninstalled.\n")
                                  .arg(prefix)))
         << log.toStdString();
-}
-
-TEST_F(ToolRemoverTest, TheAdministratorsRemovalFindsNodeOnItsOwnSearchPath)
-{
-    // npm starts through `env node`, and the administrator's shell searches only the system's
-    // folders, where this Node.js is not.
-    sandbox.installFakes({"gemini", "sudo"});
-    QFile npmFixture(QStringLiteral(QF_FIXTURES_DIR "/bin/npm"));
-    ASSERT_TRUE(npmFixture.open(QIODevice::ReadOnly));
-    const QByteArray npmBody = npmFixture.readAll();
-    test::writeFile(sandbox.binDirectory() + QStringLiteral("/npm"),
-                    "#!/usr/bin/env node\n" + npmBody.mid(npmBody.indexOf('\n') + 1));
-    test::writeFile(sandbox.binDirectory() + QStringLiteral("/node"),
-                    "#!/bin/sh\nscript=$1; shift; exec /bin/sh \"$script\" \"$@\"\n");
-    for (const char* program : {"/npm", "/node"})
-        QFile::setPermissions(sandbox.binDirectory() + QLatin1String(program),
-                              QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
-    const QString prefix = QFileInfo(sandbox.binDirectory()).absolutePath();
-    test::writeFile(prefix + QStringLiteral("/lib"), "");
-    sandbox.setEnv("FAKE_NPM_PREFIX", prefix.toUtf8());
-    sandbox.setEnv("FAKE_NPM_DENIED", "1");
-    sandbox.setEnv("FAKE_SUDO_ALLOW", "1");
-    sandbox.setEnv("FAKE_SUDO_PATH", "/usr/sbin:/sbin");
-
-    const Result<void> result = uninstall(CLITool::geminiCLI);
-    ASSERT_TRUE(result.ok()) << result.error().errorDescription().toStdString();
-    EXPECT_FALSE(QFile::exists(sandbox.binDirectory() + QStringLiteral("/gemini"))) << log.toStdString();
-    EXPECT_TRUE(log.endsWith(QStringLiteral("\nGemini CLI has been uninstalled.\n"))) << log.toStdString();
 }
 
 TEST_F(ToolRemoverTest, UninstallThatCannotLookAfterwardsSaysSo)

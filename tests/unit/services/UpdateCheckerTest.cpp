@@ -9,6 +9,14 @@ using qf::test::await;
 
 namespace {
 
+// What the dashboard shows of a check: installed and newest version, the Node.js the newest
+// needs, and whether it is an update.
+using Shown = std::tuple<std::optional<QString>, std::optional<QString>, int, bool>;
+Shown shown(const ToolUpdateInfo& info)
+{
+    return {info.installedVersion, info.latestVersion, info.requiredNodeMajor, info.updateAvailable()};
+}
+
 class UpdateCheckerTest : public ::testing::Test, protected test::TestMachine {
 protected:
     void SetUp() override
@@ -45,13 +53,9 @@ TEST_F(UpdateCheckerTest, ANewerPublishedVersionIsAnUpdateWithItsNodeRequirement
     // Codex is not installed: its newest version is known, but nothing is offered for it.
     const QList<ToolUpdateInfo> infos = check(checker, {CLITool::geminiCLI, CLITool::codex});
     ASSERT_EQ(infos.size(), 2);
-    const ToolUpdateInfo& gemini = infos[0];
-    EXPECT_EQ(gemini.tool, CLITool::geminiCLI);
-    EXPECT_EQ(gemini.installedVersion, QStringLiteral("0.60.0"));
-    EXPECT_EQ(gemini.latestVersion, QStringLiteral("0.61.0"));
-    EXPECT_EQ(gemini.requiredNodeMajor, 20);
-    EXPECT_TRUE(gemini.updateAvailable());
+    EXPECT_EQ(infos[0].tool, CLITool::geminiCLI);
     EXPECT_EQ(infos[1].tool, CLITool::codex);
+    EXPECT_EQ(shown(infos[0]), Shown(QStringLiteral("0.60.0"), QStringLiteral("0.61.0"), 20, true));
     EXPECT_EQ(infos[1].installedVersion, std::nullopt);
     EXPECT_FALSE(infos[1].updateAvailable());
     // The requirement asked for is the one of the version found.
@@ -60,22 +64,17 @@ TEST_F(UpdateCheckerTest, ANewerPublishedVersionIsAnUpdateWithItsNodeRequirement
     // Once the installed version is the newest, no badge.
     sandbox.setEnv("FAKE_TOOL_VERSION", "0.61.0");
     EXPECT_FALSE(checkGemini().updateAvailable());
-}
 
-TEST_F(UpdateCheckerTest, WithoutNpmTheRegistryIsReadDirectly)
-{
-    // Claude Code from its maker's installer on a computer without Node.js.
+    // Claude Code from its maker's installer on a computer without Node.js: the registry is read
+    // directly.
     sandbox.removeFake(QStringLiteral("npm"));
     sandbox.installFakes({"claude", "curl"});
     sandbox.setEnv("FAKE_TOOL_VERSION", "2.1.330 (Claude Code)");
     sandbox.setEnv("FAKE_NPM_LATEST", "2.1.332");
     sandbox.setEnv("FAKE_NPM_ENGINES", ">=22.0.0");
-    const QList<ToolUpdateInfo> infos = check(checker, {CLITool::claudeCode});
-    ASSERT_EQ(infos.size(), 1);
-    EXPECT_EQ(infos[0].installedVersion, QStringLiteral("2.1.330"));
-    EXPECT_EQ(infos[0].latestVersion, QStringLiteral("2.1.332"));
-    EXPECT_EQ(infos[0].requiredNodeMajor, 22);
-    EXPECT_TRUE(infos[0].updateAvailable());
+    const QList<ToolUpdateInfo> claude = check(checker, {CLITool::claudeCode});
+    ASSERT_EQ(claude.size(), 1);
+    EXPECT_EQ(shown(claude[0]), Shown(QStringLiteral("2.1.330"), QStringLiteral("2.1.332"), 22, true));
     EXPECT_TRUE(sandbox.readState("curl.log")
                     .contains("--max-time 20 https://registry.npmjs.org/@anthropic-ai/claude-code/latest"));
 }
@@ -95,8 +94,7 @@ TEST_F(UpdateCheckerTest, TheRegistryIsAskedAtMostOnceADayRememberedAcrossLaunch
     nextLaunch.setClock([this] { return now; });
     const QList<ToolUpdateInfo> remembered = check(nextLaunch, {CLITool::geminiCLI});
     ASSERT_EQ(remembered.size(), 1);
-    EXPECT_EQ(remembered[0].latestVersion, QStringLiteral("0.61.0"));
-    EXPECT_EQ(remembered[0].requiredNodeMajor, 20);
+    EXPECT_EQ(shown(remembered[0]), Shown(QStringLiteral("0.60.0"), QStringLiteral("0.61.0"), 20, true));
     EXPECT_EQ(registryQuestions(), once);
 
     // "Check for Updates" asks at once.
@@ -122,9 +120,7 @@ TEST_F(UpdateCheckerTest, OfflineShowsNoUpdateAndSaysWhyInOneDiagnosticLine)
     const ToolUpdateInfo offline = checkGemini();
     const QString printed = diagnostics.text();
     diagnostics.restore();
-    EXPECT_EQ(offline.installedVersion, QStringLiteral("0.60.0"));
-    EXPECT_EQ(offline.latestVersion, std::nullopt);
-    EXPECT_FALSE(offline.updateAvailable());
+    EXPECT_EQ(shown(offline), Shown(QStringLiteral("0.60.0"), std::nullopt, 0, false));
     EXPECT_EQ(printed.count(QLatin1Char('\n')), 1) << printed.toStdString();
     EXPECT_TRUE(printed.startsWith(QStringLiteral("Update check for Gemini CLI failed: ")) &&
                 printed.contains(QStringLiteral("ENOTFOUND registry.npmjs.org")))

@@ -35,6 +35,11 @@ TEST(Utf8StreamDecoder, InvalidBytesBecomeReplacementCharactersAndLoseNothingEls
     EXPECT_EQ(decoder.feed("x\xE2\x86"), QStringLiteral("x"));
     EXPECT_EQ(decoder.finish(), QStringLiteral("\uFFFD"));
     EXPECT_TRUE(decoder.finish().isEmpty());
+
+    // Decoding lossily at once keeps everything it can too.
+    EXPECT_EQ(qf::decodeUtf8Lossily("caf\xC3\xA9 \xFF ok"), QStringLiteral("caf\u00E9 \uFFFD ok"));
+    EXPECT_EQ(qf::decodeUtf8Lossily("\xEF\xBB\xBFx"), QStringLiteral("\uFEFFx"));
+    EXPECT_EQ(qf::decodeUtf8Lossily(QByteArray()), QString());
 }
 
 TEST(Utf8StreamDecoder, OnlyTheMarkThatOpensTheStreamIsDropped)
@@ -48,11 +53,4 @@ TEST(Utf8StreamDecoder, OnlyTheMarkThatOpensTheStreamIsDropped)
     text += decoder.feed(mark.mid(1));
     text += decoder.finish();
     EXPECT_EQ(text, QStringLiteral("a\uFEFFb\uFEFF\uFEFF"));
-}
-
-TEST(Utf8StreamDecoder, LossyDecodingKeepsEverythingItCan)
-{
-    EXPECT_EQ(qf::decodeUtf8Lossily("caf\xC3\xA9 \xFF ok"), QStringLiteral("caf\u00E9 \uFFFD ok"));
-    EXPECT_EQ(qf::decodeUtf8Lossily("\xEF\xBB\xBFx"), QStringLiteral("\uFEFFx"));
-    EXPECT_EQ(qf::decodeUtf8Lossily(QByteArray()), QString());
 }
