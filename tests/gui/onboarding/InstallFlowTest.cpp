@@ -91,7 +91,7 @@ TEST_F(InstallFlowTest, FromTheAccountScreenToACompletedInstallation)
     waitForInstallation();
     EXPECT_EQ(text("installationTitle"), QStringLiteral("Installation Complete!"));
     EXPECT_EQ(step(SetupStepType::installTool).status, SetupStepStatus(SetupStepStatus::completed));
-    EXPECT_FALSE(shows(test::child(screen(), QStringLiteral("errorCard"))));
+    EXPECT_FALSE(showsChild("errorCard"));
     EXPECT_TRUE(shows(button("backButton")));
     EXPECT_EQ(button("mainButton")->title(), QStringLiteral("Continue"));
     click("mainButton");
@@ -114,8 +114,8 @@ TEST_F(InstallFlowTest, AToolAlreadyOnThePathIsOfferedInTheTerminal)
     sandbox.setEnv("FAKE_TOOL_VERSION_FAIL", "1");
     open(InstallationStep::systemCheck, CLITool::claudeCode);
     waitForCheck();
-    EXPECT_TRUE(shows(test::child(screen(), QStringLiteral("alreadyInstalled"))));
-    EXPECT_FALSE(shows(test::child(screen(), QStringLiteral("installedVersion"))));
+    EXPECT_TRUE(showsChild("alreadyInstalled"));
+    EXPECT_FALSE(showsChild("installedVersion"));
     EXPECT_EQ(button("mainButton")->title(), QStringLiteral("Open Terminal"));
 }
 
@@ -132,9 +132,9 @@ TEST_F(InstallFlowTest, RequirementsDecideWhetherTheInstallationMayStart)
     EXPECT_EQ(nodeStatus->text(), QStringLiteral("Will be installed for you"));
     EXPECT_EQ(nodeStatus->tint(), ui::Tint(ui::Role::orange));
     // Its help agrees: nothing for the user to do.
-    EXPECT_EQ(test::child<ui::Label>(nodeRow, QStringLiteral("requirementFix"))->text(),
+    EXPECT_EQ(textIn(nodeRow, "requirementFix"),
               QStringLiteral("Quillforge installs it for you as part of the setup."));
-    EXPECT_FALSE(shows(test::child(screen(), QStringLiteral("blockedNotice"))));
+    EXPECT_FALSE(showsChild("blockedNotice"));
     EXPECT_EQ(button("mainButton")->title(), QStringLiteral("Install"));
     EXPECT_TRUE(button("mainButton")->isEnabled());
 
@@ -161,12 +161,10 @@ TEST_F(InstallFlowTest, RequirementsDecideWhetherTheInstallationMayStart)
     EXPECT_FALSE(button("mainButton")->isEnabled());
     // What is wrong, in red, and the screen says what blocks "Install".
     auto* diskRow = test::child<RequirementRow>(screen(), QStringLiteral("requirementRow.diskSpace"));
-    EXPECT_EQ(test::child<ui::Label>(diskRow, QStringLiteral("requirementStatus"))->text(),
-              QStringLiteral("Not enough space"));
+    EXPECT_EQ(textIn(diskRow, "requirementStatus"), QStringLiteral("Not enough space"));
     EXPECT_EQ(test::child<ui::Label>(diskRow, QStringLiteral("requirementStatus"))->tint(), ui::Tint(ui::Role::red));
-    EXPECT_EQ(test::child<ui::Label>(diskRow, QStringLiteral("requirementDetails"))->text(),
-              QStringLiteral("100 MB free, 1024 MB needed"));
-    EXPECT_TRUE(shows(test::child(screen(), QStringLiteral("blockedNotice"))));
+    EXPECT_EQ(textIn(diskRow, "requirementDetails"), QStringLiteral("100 MB free, 1024 MB needed"));
+    EXPECT_TRUE(showsChild("blockedNotice"));
     EXPECT_EQ(
         text("blockedReason"),
         QStringLiteral("Install is not available until this is fixed: 1GB disk space (100 MB free, 1024 MB needed)."));
@@ -186,8 +184,7 @@ TEST_F(InstallFlowTest, MissingGitBlocksTheInstallationAndOffersItsInstaller)
     open(InstallationStep::systemCheck, CLITool::claudeCode); // no git here
     waitForCheck();
     auto* gitRow = test::child<RequirementRow>(screen(), QStringLiteral("requirementRow.git"));
-    EXPECT_EQ(test::child<ui::Label>(gitRow, QStringLiteral("requirementStatus"))->text(),
-              QStringLiteral("Not installed"));
+    EXPECT_EQ(textIn(gitRow, "requirementStatus"), QStringLiteral("Not installed"));
     EXPECT_FALSE(button("mainButton")->isEnabled());
     EXPECT_EQ(text("blockedReason"),
               QStringLiteral("Install is not available until this is fixed: Git (Xcode CLI Tools not installed)."));
@@ -213,7 +210,7 @@ TEST_F(InstallFlowTest, MissingGitBlocksTheInstallationAndOffersItsInstaller)
     click("checkAgainButton");
     waitForCheck();
     EXPECT_TRUE(button("mainButton")->isEnabled());
-    EXPECT_FALSE(shows(test::child(screen(), QStringLiteral("blockedNotice"))));
+    EXPECT_FALSE(showsChild("blockedNotice"));
 }
 
 TEST_F(InstallFlowTest, MissingGitStopsTheRunAndTryAgainStartsOver)
@@ -253,7 +250,7 @@ TEST_F(InstallFlowTest, MissingGitStopsTheRunAndTryAgainStartsOver)
     waitForInstallation();
     EXPECT_EQ(step(SetupStepType::checkGit).status, SetupStepStatus(SetupStepStatus::completed));
     EXPECT_FALSE(state.installationOutput().contains(platform.wording().gitMissingLog));
-    EXPECT_FALSE(shows(test::child(screen(), QStringLiteral("errorCard"))));
+    EXPECT_FALSE(showsChild("errorCard"));
     EXPECT_EQ(button("mainButton")->title(), QStringLiteral("Continue"));
 }
 
@@ -264,11 +261,11 @@ TEST_F(InstallFlowTest, ACaveatShowsOnTheResultAndTheCompletionScreen)
     open(InstallationStep::installation, CLITool::geminiCLI);
     waitForInstallation();
     EXPECT_EQ(text("installationTitle"), QStringLiteral("Installation Complete!"));
-    ASSERT_TRUE(shows(test::child(screen(), QStringLiteral("caveats"))));
+    ASSERT_TRUE(showsChild("caveats"));
     EXPECT_TRUE(text("caveat").startsWith(QStringLiteral("npm is set to refuse install scripts")));
     click("mainButton");
     ASSERT_EQ(state.currentStep(), InstallationStep::completion);
-    EXPECT_TRUE(shows(test::child(screen(), QStringLiteral("caveats"))));
+    EXPECT_TRUE(showsChild("caveats"));
     EXPECT_EQ(text("caveat"), state.caveats().first());
 
     // A run without caveats shows none, also after one that had them.
@@ -278,34 +275,6 @@ TEST_F(InstallFlowTest, ACaveatShowsOnTheResultAndTheCompletionScreen)
     EXPECT_TRUE(state.caveats().isEmpty());
     const auto* caveats = screen()->findChild<QWidget*>(QStringLiteral("caveats"));
     EXPECT_FALSE(caveats && shows(caveats));
-}
-
-TEST_F(InstallFlowTest, FailingCommandsEndInTheErrorCard)
-{
-    sandbox.installFakes({"git", "npm", "node"});
-    sandbox.setEnv("FAKE_NPM_FAIL", "1");
-    // The smallest window: the card lies below the steps.
-    open(InstallationStep::installation, CLITool::geminiCLI, QSize(550, 450));
-    waitForInstallation();
-    EXPECT_EQ(step(SetupStepType::installNode).status, SetupStepStatus(SetupStepStatus::skipped));
-    EXPECT_EQ(step(SetupStepType::installTool).status.kind(), SetupStepStatus::failed);
-    // The command's own words are in the log; the card says that it failed, and is scrolled
-    // into view.
-    EXPECT_TRUE(state.installationOutput().contains(QStringLiteral("404 Not Found")));
-    EXPECT_EQ(text("errorMessage"), failureSentence(FailureCause::notFound));
-    const QWidget* viewport = screenAs<InstallationView>()->scrollView()->viewport();
-    const QWidget* sentence = test::child(screen(), QStringLiteral("errorMessage"));
-    EXPECT_TRUE(QTest::qWaitFor([viewport, sentence] {
-        return viewport->rect().contains(QRect(sentence->mapTo(viewport, QPoint()), sentence->size()));
-    })) << "the error is out of sight";
-
-    // npm reports success but the command never appears.
-    sandbox.setEnv("FAKE_NPM_FAIL", "");
-    sandbox.setEnv("FAKE_NPM_SKIP_BIN", "1");
-    click("mainButton");
-    waitForInstallation();
-    EXPECT_EQ(step(SetupStepType::installTool).status, SetupStepStatus::failure(QStringLiteral("Verification failed")));
-    EXPECT_EQ(text("errorMessage"), errorDescription(InstallationError::verificationFailed, platform.wording()));
 }
 
 TEST_F(InstallFlowTest, LeavingDuringARunAndComingBackIsSafe)
@@ -404,26 +373,34 @@ TEST_F(InstallFlowTest, ALongLogShowsItsNewestPartAndIsCopiedWhole)
     EXPECT_TRUE(view->toastPresenter()->isShowing());
 }
 
-TEST_F(InstallFlowTest, AFailedInstallationOffersItsLogFile)
+TEST_F(InstallFlowTest, FailingCommandsEndInTheErrorCardWithTheirLogFile)
 {
     sandbox.installFakes({"git", "npm", "node"});
     sandbox.setEnv("FAKE_NPM_FAIL", "1");
+    // The smallest window: the card lies below the steps.
     open(InstallationStep::installation, CLITool::geminiCLI,
          QSize(MainWindow::minimumWidth, MainWindow::minimumHeight));
     EXPECT_FALSE(shows(button("showLogFileButton"))); // not while it runs
     waitForInstallation();
-    ASSERT_TRUE(shows(test::child(screen(), QStringLiteral("errorCard"))));
-    ASSERT_TRUE(shows(button("showLogFileButton")));
-    // Beside "Try Again", whole, in the smallest window.
-    const QRect bar = test::child(screen(), QStringLiteral("bottomBar"))->rect();
+    EXPECT_EQ(step(SetupStepType::installNode).status, SetupStepStatus(SetupStepStatus::skipped));
+    EXPECT_EQ(step(SetupStepType::installTool).status.kind(), SetupStepStatus::failed);
+    // The command's own words are in the log; the card says that it failed, and is scrolled
+    // into view.
+    EXPECT_TRUE(state.installationOutput().contains(QStringLiteral("404 Not Found")));
+    EXPECT_EQ(text("errorMessage"), failureSentence(FailureCause::notFound));
+    const QWidget* viewport = screenAs<InstallationView>()->scrollView()->viewport();
+    const QWidget* sentence = test::child(screen(), QStringLiteral("errorMessage"));
+    EXPECT_TRUE(QTest::qWaitFor([viewport, sentence] {
+        return viewport->rect().contains(QRect(sentence->mapTo(viewport, QPoint()), sentence->size()));
+    })) << "the error is out of sight";
+
+    // "Show Log File" beside "Try Again", whole, in the smallest window.
+    const QWidget* bar = test::child(screen(), QStringLiteral("bottomBar"));
     for (const char* name : {"backButton", "showLogFileButton", "mainButton"}) {
         const QWidget* control = button(name);
-        const QRect place(control->mapTo(test::child(screen(), QStringLiteral("bottomBar")), QPoint()),
-                          control->size());
-        EXPECT_TRUE(bar.contains(place)) << name;
+        EXPECT_TRUE(bar->rect().contains(QRect(control->mapTo(bar, QPoint()), control->size()))) << name;
         EXPECT_GE(control->width(), control->sizeHint().width()) << name;
     }
-
     const QString path = controller().logFile()->path();
     EXPECT_EQ(QFileInfo(path).absolutePath(), QFileInfo(platform.logs).absoluteFilePath());
     EXPECT_TRUE(QFileInfo(path).fileName().endsWith(QStringLiteral(" Install Gemini CLI.log")));
@@ -433,8 +410,16 @@ TEST_F(InstallFlowTest, AFailedInstallationOffersItsLogFile)
     ASSERT_TRUE(whole && *whole);
     EXPECT_TRUE((*whole)->contains(QStringLiteral("404 Not Found")));
 
-    // A run that succeeds has nothing to show.
+    // npm reports success but the command never appears.
     sandbox.setEnv("FAKE_NPM_FAIL", "");
+    sandbox.setEnv("FAKE_NPM_SKIP_BIN", "1");
+    click("mainButton");
+    waitForInstallation();
+    EXPECT_EQ(step(SetupStepType::installTool).status, SetupStepStatus::failure(QStringLiteral("Verification failed")));
+    EXPECT_EQ(text("errorMessage"), errorDescription(InstallationError::verificationFailed, platform.wording()));
+
+    // A run that succeeds has no log file to show.
+    sandbox.setEnv("FAKE_NPM_SKIP_BIN", "");
     click("mainButton");
     waitForInstallation();
     EXPECT_TRUE(controller().installationComplete());
@@ -451,7 +436,6 @@ TEST_F(InstallFlowTest, AnUnwritableLogFolderDoesNotStopTheInstallation)
     open(InstallationStep::installation, CLITool::geminiCLI);
     waitForInstallation();
     EXPECT_TRUE(state.installationOutput().contains(QStringLiteral("404 Not Found")));
-    EXPECT_EQ(text("errorMessage"), failureSentence(FailureCause::notFound));
     // Without a file there is nothing to show.
     EXPECT_FALSE(shows(button("showLogFileButton")));
 
