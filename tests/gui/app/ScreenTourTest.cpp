@@ -278,7 +278,7 @@ protected:
 
     // What a person reads or uses on the screen (its text, buttons and cards, in the window's
     // coordinates) lies within `column`. The backdrop and the bars span the window on purpose;
-    // of a bar only its buttons count.
+    // of a bar only its buttons count, each whole.
     struct Content {
         QRect all;   // everything together
         QRect cards; // the cards
@@ -303,9 +303,10 @@ protected:
                 continue;
             const QRect place(widget->mapTo(window.get(), QPoint(0, 0)), widget->size());
             found.all |= place;
-            if (bar)
+            if (bar) {
                 found.bars |= place;
-            else if (qobject_cast<ui::RoundedCard*>(widget))
+                EXPECT_GE(widget->width(), widget->sizeHint().width()) << describe(widget) << " is cut";
+            } else if (qobject_cast<ui::RoundedCard*>(widget))
                 found.cards |= place;
             EXPECT_TRUE(place.left() >= column.left() && place.right() <= column.right())
                 << describe(widget) << " at " << place.left() << ".." << place.right();
@@ -501,6 +502,7 @@ TEST_F(KeyboardTest, ARemovalSheetStartsOnItsMainButtonStandsOutAndGivesTheFocus
     ASSERT_NE(sheet, nullptr);
     EXPECT_EQ(QApplication::focusWidget(), test::child<QWidget>(sheet, QStringLiteral("uninstallButton")));
     EXPECT_TRUE(ui::showsFocusRing(QApplication::focusWidget()));
+    EXPECT_FALSE(test::child(sheet, QStringLiteral("detailsButton"))->isVisible()); // no output yet
     sweep(sheet);
     test::inBothAppearances([sheet] { expectReadable(sheet); });
     QTest::keyClick(sheet, Qt::Key_Escape);
@@ -512,7 +514,7 @@ TEST_F(KeyboardTest, ARemovalSheetStartsOnItsMainButtonStandsOutAndGivesTheFocus
     EXPECT_EQ(QApplication::focusWidget(), remove);
 
     // Through to the end by keyboard: "Done" has the focus once the removal is complete, and
-    // the sheet with its log stands out; the dashboard reloads without Gemini CLI, and the
+    // the sheet with its log (behind "Details") stands out; the dashboard reloads without Gemini CLI, and the
     // focus lands on its card's "Install".
     sheet = openSheet();
     ASSERT_NE(sheet, nullptr);
@@ -520,7 +522,10 @@ TEST_F(KeyboardTest, ARemovalSheetStartsOnItsMainButtonStandsOutAndGivesTheFocus
     ASSERT_TRUE(QTest::qWaitFor([sheet] { return sheet->uninstallComplete(); }, 20000));
     auto* done = test::child<QWidget>(sheet, QStringLiteral("doneButton"));
     EXPECT_EQ(QApplication::focusWidget(), done);
+    // The log is behind "Details".
+    EXPECT_FALSE(test::child(sheet, QStringLiteral("logView"))->isVisible());
     test::child<QAbstractButton>(sheet, QStringLiteral("detailsButton"))->click();
+    EXPECT_TRUE(test::child(sheet, QStringLiteral("logView"))->isVisible());
     test::inBothAppearances([sheet] { expectReadable(sheet); });
     QTest::keyClick(done, Qt::Key_Return);
     ASSERT_TRUE(QTest::qWaitFor([home] { return !home->sheet() && !home->isLoading(); }, 20000));

