@@ -26,6 +26,7 @@
 #include <QPlainTextEdit>
 #include <QTest>
 
+#include <algorithm>
 #include <functional>
 
 using namespace qf;
@@ -198,15 +199,7 @@ QColor backgroundOf(const QImage& picture, const QWidget* widget)
         for (int x = box.left(); x <= box.right(); ++x)
             ++counts[picture.pixel(x, y)];
     }
-    QRgb most = 0;
-    int best = -1;
-    for (auto it = counts.cbegin(); it != counts.cend(); ++it) {
-        if (it.value() > best) {
-            best = it.value();
-            most = it.key();
-        }
-    }
-    return QColor::fromRgb(most);
+    return QColor::fromRgb(std::max_element(counts.cbegin(), counts.cend()).key()); // the most counted
 }
 
 // Every text shown in `window` stands out from what is behind it: 4.5:1 below 18 points, 3:1 above.

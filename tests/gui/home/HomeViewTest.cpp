@@ -56,13 +56,9 @@ protected:
     }
     static void hover(QWidget* widget, bool inside)
     {
-        if (inside) {
-            QEnterEvent enter(QPointF(4, 4), QPointF(4, 4), QPointF(4, 4));
-            QCoreApplication::sendEvent(widget, &enter);
-        } else {
-            QEvent leave(QEvent::Leave);
-            QCoreApplication::sendEvent(widget, &leave);
-        }
+        QEnterEvent enter(QPointF(4, 4), QPointF(4, 4), QPointF(4, 4));
+        QEvent leave(QEvent::Leave);
+        QCoreApplication::sendEvent(widget, inside ? static_cast<QEvent*>(&enter) : &leave);
     }
     static bool shows(const QWidget* widget) { return widget && widget->isVisible(); }
 

@@ -135,31 +135,6 @@ TEST_F(AfterInstallTest, CompletionTellsAFreshInstallFromAnOpenedTool)
               QStringLiteral("Change API Key"));
 }
 
-TEST_F(AfterInstallTest, EveryCopyPutsItsTextOnTheClipboardUnderOneToast)
-{
-    open(InstallationStep::completion, CLITool::codex);
-    auto* view = screenAs<CompletionView>();
-    click("commonCommandsHeader");
-    click("copyTryCommand");
-    EXPECT_EQ(QGuiApplication::clipboard()->text(), CLITool(CLITool::codex).tryCommand());
-    EXPECT_TRUE(view->toastPresenter()->isShowing());
-    const QTimer& hide = view->toastPresenter()->hideTimer();
-    ASSERT_TRUE(hide.isActive());
-    QSignalSpy hidden(&hide, &QTimer::timeout);
-    const int remaining = hide.remainingTime();
-
-    // Later copies while it shows change what is copied, not when the toast leaves.
-    auto* commands = test::child<CommonCommandsCard>(screen(), QStringLiteral("commonCommandsCard"));
-    commands->rows()[1]->findChild<ui::CopyButton*>()->click();
-    EXPECT_EQ(QGuiApplication::clipboard()->text(), CLITool(CLITool::codex).exampleCommands()[1].command);
-    auto* tips = test::child<FirstProjectTipsCard>(screen(), QStringLiteral("firstProjectCard"));
-    tips->steps()[1]->findChild<ui::CopyButton*>()->click();
-    EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("git init"));
-    EXPECT_LE(hide.remainingTime(), remaining) << "a later copy restarted the toast's time";
-    ASSERT_TRUE(QTest::qWaitFor([view] { return !view->toastPresenter()->isShowing(); }, 5000));
-    EXPECT_EQ(hidden.count(), 1);
-}
-
 TEST_F(AfterInstallTest, WithoutAToolTheScreensAfterInstallOfferOnlyTheWayHome)
 {
     for (const auto& [step, home] :
@@ -176,9 +151,30 @@ TEST_F(AfterInstallTest, WithoutAToolTheScreensAfterInstallOfferOnlyTheWayHome)
     EXPECT_TRUE(platform.terminals.isEmpty());
 }
 
-TEST_F(AfterInstallTest, OpenInTerminalSaysWhatToTypeWhenNoWindowOpens)
+TEST_F(AfterInstallTest, EveryCopyShowsOneToastAndOpenInTerminalSaysWhatToTypeWhenNoWindowOpens)
 {
     open(InstallationStep::completion, CLITool::geminiCLI);
+    auto* view = screenAs<CompletionView>();
+    click("commonCommandsHeader");
+    click("copyTryCommand");
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), CLITool(CLITool::geminiCLI).tryCommand());
+    EXPECT_TRUE(view->toastPresenter()->isShowing());
+    const QTimer& hide = view->toastPresenter()->hideTimer();
+    ASSERT_TRUE(hide.isActive());
+    QSignalSpy hidden(&hide, &QTimer::timeout);
+    const int remaining = hide.remainingTime();
+
+    // Later copies while it shows change what is copied, not when the toast leaves.
+    auto* commands = test::child<CommonCommandsCard>(screen(), QStringLiteral("commonCommandsCard"));
+    commands->rows()[1]->findChild<ui::CopyButton*>()->click();
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), CLITool(CLITool::geminiCLI).exampleCommands()[1].command);
+    auto* tips = test::child<FirstProjectTipsCard>(screen(), QStringLiteral("firstProjectCard"));
+    tips->steps()[1]->findChild<ui::CopyButton*>()->click();
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("git init"));
+    EXPECT_LE(hide.remainingTime(), remaining) << "a later copy restarted the toast's time";
+    ASSERT_TRUE(QTest::qWaitFor([view] { return !view->toastPresenter()->isShowing(); }, 5000));
+    EXPECT_EQ(hidden.count(), 1);
+
     const QPair<QString, QString> launch{QStringLiteral("gemini"), QStringLiteral("~/Developer")};
     click("openInTerminalButton");
     EXPECT_EQ(platform.terminals, (QList{launch}));
@@ -193,7 +189,7 @@ TEST_F(AfterInstallTest, OpenInTerminalSaysWhatToTypeWhenNoWindowOpens)
     test::child<ui::CopyButton>(test::child(screen(), QStringLiteral("terminalFallback")), QStringLiteral("copyButton"))
         ->click();
     EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("cd ~/Developer && gemini"));
-    EXPECT_TRUE(screenAs<CompletionView>()->toastPresenter()->isShowing());
+    EXPECT_TRUE(view->toastPresenter()->isShowing());
 
     // Answers that come late (as on a Mac) and in any order: only the newest launch counts.
     platform.holdTerminalOutcomes = true;
