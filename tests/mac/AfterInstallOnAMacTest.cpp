@@ -43,43 +43,35 @@ protected:
 
 } // namespace
 
-// "Open in Terminal" sends Terminal the script that opens a window in ~/Developer running the
-// tool; the screen that says so offers it again.
-TEST_F(AfterInstallOnAMac, TheToolOpensInTerminalInTheProjectsFolder)
-{
-    open(InstallationStep::completion, CLITool::claudeCode);
-    click("openInTerminalButton");
-    ASSERT_TRUE(mac.waitForEvents(QStringLiteral("terminal-window")));
-    EXPECT_EQ(mac.events(QStringLiteral("osascript")),
-              QStringList{QStringLiteral("tell application \"Terminal\"\\n    activate\\n    do script \"cd "
-                                         "~/Developer && claude\"\\nend tell")});
-    EXPECT_EQ(mac.events(QStringLiteral("terminal-window")), QStringList{QStringLiteral("cd ~/Developer && claude")});
-    EXPECT_FALSE(fallback()->isVisible());
-
-    open(InstallationStep::terminal, CLITool::geminiCLI);
-    click("openAgainButton");
-    ASSERT_TRUE(mac.waitForEvents(QStringLiteral("terminal-window"), 2));
-    EXPECT_EQ(mac.events(QStringLiteral("terminal-window")).constLast(), QStringLiteral("cd ~/Developer && gemini"));
-}
-
 // A user who answered "Don't Allow" when macOS asked whether Quillforge may control Terminal
-// learns where to allow it, with the line to type meanwhile; once allowed, the window opens.
-TEST_F(AfterInstallOnAMac, RefusedAutomationSaysWhereToAllowIt)
+// learns where to allow it, with the line to type meanwhile. Once allowed, "Open in Terminal"
+// sends Terminal the script that opens a window in ~/Developer running the tool; the screen
+// that says so offers it again.
+TEST_F(AfterInstallOnAMac, TheToolOpensInTerminalInTheProjectsFolderOnceAutomationIsAllowed)
 {
     mac.answer("automation", "denied");
-    open(InstallationStep::completion, CLITool::codex);
+    open(InstallationStep::completion, CLITool::claudeCode);
     click("openInTerminalButton");
     ASSERT_TRUE(QTest::qWaitFor([this] { return fallback()->isVisible(); }, 10000));
     EXPECT_EQ(fallbackText("terminalFallbackTitle"), QStringLiteral("Quillforge is not allowed to control Terminal"));
     EXPECT_TRUE(fallbackText("terminalFallbackHint")
                     .contains(QStringLiteral("System Settings > Privacy & Security > Automation")));
-    EXPECT_EQ(fallbackText("terminalFallbackLine"), QStringLiteral("cd ~/Developer && codex"));
+    EXPECT_EQ(fallbackText("terminalFallbackLine"), QStringLiteral("cd ~/Developer && claude"));
     EXPECT_EQ(mac.events(QStringLiteral("terminal-window")), QStringList());
 
     mac.answer("automation", "allowed");
     click("openInTerminalButton");
     ASSERT_TRUE(mac.waitForEvents(QStringLiteral("terminal-window")));
+    EXPECT_EQ(mac.events(QStringLiteral("osascript")).constLast(),
+              QStringLiteral("tell application \"Terminal\"\\n    activate\\n    do script \"cd "
+                             "~/Developer && claude\"\\nend tell"));
+    EXPECT_EQ(mac.events(QStringLiteral("terminal-window")), QStringList{QStringLiteral("cd ~/Developer && claude")});
     ASSERT_TRUE(QTest::qWaitFor([this] { return !fallback()->isVisible(); }, 10000));
+
+    open(InstallationStep::terminal, CLITool::geminiCLI);
+    click("openAgainButton");
+    ASSERT_TRUE(mac.waitForEvents(QStringLiteral("terminal-window"), 2));
+    EXPECT_EQ(mac.events(QStringLiteral("terminal-window")).constLast(), QStringLiteral("cd ~/Developer && gemini"));
 }
 
 // Removing the Command Line Tools needs an administrator: the system's password dialog asks.

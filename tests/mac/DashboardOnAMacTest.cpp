@@ -17,8 +17,8 @@ using DashboardOnAMac = MacTest;
 // A Mac without the Command Line Tools is the Mac of most first-time users: loading the
 // dashboard, and loading it again as a sheet's "Done" does, asks the system nothing. "Install"
 // starts the system's installer and, half a second later, brings it to the front through
-// System Events.
-TEST_F(DashboardOnAMac, WithoutTheCommandLineToolsOnlyInstallOpensTheSystemsInstaller)
+// System Events. The projects folder is shown in Finder.
+TEST_F(DashboardOnAMac, WithoutTheCommandLineToolsOnlyInstallOpensTheSystemsInstallerAndFinderShowsTheFolder)
 {
     mac.setDeveloperTools(false);
     open(InstallationStep::home);
@@ -48,6 +48,16 @@ TEST_F(DashboardOnAMac, WithoutTheCommandLineToolsOnlyInstallOpensTheSystemsInst
     EXPECT_EQ(item("xcode")->tool().version, std::nullopt);
     EXPECT_EQ(test::child<ui::Badge>(item("xcode"), QStringLiteral("versionBadge"))->text(), QStringLiteral("Ready"));
     EXPECT_EQ(mac.events(QStringLiteral("developer-tools-dialog")).size(), 1);
+
+    // The projects folder is made and shown in Finder, then in Finder again once it is there.
+    const QString folder = QDir::homePath() + QStringLiteral("/Developer");
+    item("developer")->actionButton()->click();
+    ASSERT_TRUE(mac.waitForEvents(QStringLiteral("open")));
+    EXPECT_TRUE(QFileInfo(folder).isDir());
+    waitForDashboard();
+    item("developer")->actionButton()->click();
+    ASSERT_TRUE(mac.waitForEvents(QStringLiteral("open"), 2));
+    EXPECT_EQ(mac.events(QStringLiteral("open")), QStringList({folder, folder}));
 }
 
 // Homebrew is found in either of its homes, with its version.
@@ -64,19 +74,4 @@ TEST_F(DashboardOnAMac, HomebrewIsFoundOnAppleSiliconAndOnIntel)
                   homebrew != SimulatedMac::Homebrew::none ? std::optional(QStringLiteral("4.4.9")) : std::nullopt);
         EXPECT_FALSE(item("node")->tool().isInstalled);
     }
-}
-
-// The projects folder is made and shown in Finder, then in Finder again once it is there.
-TEST_F(DashboardOnAMac, TheProjectsFolderIsShownInFinder)
-{
-    const QString folder = QDir::homePath() + QStringLiteral("/Developer");
-    open(InstallationStep::home);
-    waitForDashboard();
-    item("developer")->actionButton()->click();
-    ASSERT_TRUE(mac.waitForEvents(QStringLiteral("open")));
-    EXPECT_TRUE(QFileInfo(folder).isDir());
-    waitForDashboard();
-    item("developer")->actionButton()->click();
-    ASSERT_TRUE(mac.waitForEvents(QStringLiteral("open"), 2));
-    EXPECT_EQ(mac.events(QStringLiteral("open")), QStringList({folder, folder}));
 }

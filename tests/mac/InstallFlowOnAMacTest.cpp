@@ -43,7 +43,8 @@ protected:
 } // namespace
 
 // The system check says what is missing without running git, whose stub would make the
-// system offer the Command Line Tools in a dialog the user did not ask for.
+// system offer the Command Line Tools in a dialog the user did not ask for; the failed
+// installation's log is shown in Finder.
 TEST_F(InstallFlowOnAMac, WithoutTheCommandLineToolsTheCheckNamesThemAndAsksNothing)
 {
     mac.setDeveloperTools(false);
@@ -54,6 +55,16 @@ TEST_F(InstallFlowOnAMac, WithoutTheCommandLineToolsTheCheckNamesThemAndAsksNoth
     EXPECT_FALSE(git->isMet);
     EXPECT_EQ(git->details, QStringLiteral("Xcode CLI Tools not installed"));
     EXPECT_EQ(mac.events(QStringLiteral("developer-tools-dialog")), QStringList());
+
+    // The installation fails for want of git; "Show Log File" shows the log selected in Finder.
+    open(InstallationStep::installation, CLITool::codex);
+    waitForInstallation();
+    click("showLogFileButton");
+    ASSERT_TRUE(mac.waitForEvents(QStringLiteral("open")));
+    EXPECT_TRUE(
+        mac.events(QStringLiteral("open"))
+            .constFirst()
+            .startsWith(QStringLiteral("-R ") + QDir::homePath() + QStringLiteral("/Library/Logs/Quillforge/")));
 
     // With them, git is the Mac's.
     mac.setDeveloperTools(true);
@@ -79,57 +90,36 @@ TEST_F(InstallFlowOnAMac, TheMacOSVersionDecidesTheFirstRequirement)
 }
 
 // Gemini CLI needs Node.js: Homebrew brings it into its own prefix on either processor, and
-// npm puts the tool beside it.
-TEST_F(InstallFlowOnAMac, NodeComesThroughHomebrewInEitherHome)
+// npm puts the tool beside it. Without Homebrew, Node.js comes from nodejs.org's archive for the
+// Mac's processor, unpacked by the Mac's tar (bsdtar) into ~/.local.
+TEST_F(InstallFlowOnAMac, NodeComesThroughHomebrewOrFromTheReleaseForTheProcessor)
 {
-    for (const SimulatedMac::Homebrew homebrew :
-         {SimulatedMac::Homebrew::appleSilicon, SimulatedMac::Homebrew::intel}) {
+    using Homebrew = SimulatedMac::Homebrew;
+    for (const auto& [homebrew, archive] : {std::pair{Homebrew::appleSilicon, ""},
+                                            {Homebrew::intel, ""},
+                                            {Homebrew::none, "darwin-arm64"},
+                                            {Homebrew::intel, "darwin-x64"}}) {
+        const bool fromRelease = *archive != '\0';
+        SCOPED_TRACE(fromRelease ? archive : "Homebrew");
         mac.setHomebrew(homebrew);
-        const QString prefix = SimulatedMac::homebrewPrefix(homebrew);
+        if (fromRelease && homebrew == Homebrew::intel)
+            QFile::remove(QStringLiteral("/usr/local/bin/brew")); // an Intel Mac without Homebrew
+        const QString local = QDir::homePath() + QStringLiteral("/.local");
+        QDir(local).removeRecursively();
+        if (fromRelease)
+            publishNodeRelease(QLatin1String(archive));
+        const QString prefix = fromRelease ? local : SimulatedMac::homebrewPrefix(homebrew);
         open(InstallationStep::installation, CLITool::geminiCLI);
         waitForInstallation();
         EXPECT_EQ(state.errorMessage(), std::nullopt) << state.installationOutput().toStdString();
         EXPECT_EQ(step(SetupStepType::installNode).status.kind(), SetupStepStatus::completed);
-        EXPECT_TRUE(state.installationOutput().contains(QStringLiteral("==> Pouring node")));
-        EXPECT_TRUE(QFileInfo(prefix + QStringLiteral("/bin/gemini")).isExecutable()) << prefix.toStdString();
-        QFile::remove(prefix + QStringLiteral("/bin/gemini"));
-        QFile::remove(prefix + QStringLiteral("/bin/node"));
-        QFile::remove(prefix + QStringLiteral("/bin/npm"));
+        EXPECT_TRUE(state.installationOutput().contains(fromRelease ? QLatin1String(archive)
+                                                                    : QLatin1String("==> Pouring node")));
+        EXPECT_FALSE(QFileInfo::exists(local + QStringLiteral("/README.md")));
+        for (const char* program : {"/bin/node", "/bin/gemini", "/bin/npm"}) {
+            EXPECT_TRUE(QFileInfo(prefix + QLatin1String(program)).isExecutable()) << program;
+            QFile::remove(prefix + QLatin1String(program));
+        }
     }
     EXPECT_EQ(mac.events(QStringLiteral("developer-tools-dialog")), QStringList());
-}
-
-// Without Homebrew, Node.js comes from nodejs.org's archive for the Mac's processor, unpacked
-// by the Mac's tar (bsdtar) into ~/.local.
-TEST_F(InstallFlowOnAMac, WithoutHomebrewNodeComesFromTheReleaseForTheProcessor)
-{
-    for (const auto& [homebrew, archive] :
-         {std::pair{SimulatedMac::Homebrew::none, "darwin-arm64"}, {SimulatedMac::Homebrew::intel, "darwin-x64"}}) {
-        mac.setHomebrew(homebrew);
-        if (homebrew == SimulatedMac::Homebrew::intel)
-            QFile::remove(QStringLiteral("/usr/local/bin/brew")); // an Intel Mac without Homebrew
-        QDir(QDir::homePath() + QStringLiteral("/.local")).removeRecursively();
-        publishNodeRelease(QLatin1String(archive));
-        open(InstallationStep::installation, CLITool::geminiCLI);
-        waitForInstallation();
-        EXPECT_EQ(state.errorMessage(), std::nullopt) << state.installationOutput().toStdString();
-        EXPECT_TRUE(state.installationOutput().contains(QLatin1String(archive))) << archive;
-        EXPECT_TRUE(QFileInfo(QDir::homePath() + QStringLiteral("/.local/bin/node")).isExecutable());
-        EXPECT_FALSE(QFileInfo::exists(QDir::homePath() + QStringLiteral("/.local/README.md")));
-        EXPECT_TRUE(QFileInfo(QDir::homePath() + QStringLiteral("/.local/bin/gemini")).isExecutable());
-    }
-}
-
-// "Show Log File" after a failure shows the log selected in Finder.
-TEST_F(InstallFlowOnAMac, TheLogFileIsShownInFinder)
-{
-    mac.setDeveloperTools(false);
-    open(InstallationStep::installation, CLITool::codex);
-    waitForInstallation();
-    click("showLogFileButton");
-    ASSERT_TRUE(mac.waitForEvents(QStringLiteral("open")));
-    const QString shown = mac.events(QStringLiteral("open")).constFirst();
-    EXPECT_TRUE(
-        shown.startsWith(QStringLiteral("-R ") + QDir::homePath() + QStringLiteral("/Library/Logs/Quillforge/")))
-        << shown.toStdString();
 }

@@ -26,6 +26,7 @@
 #include <QPlainTextEdit>
 #include <QTest>
 
+#include <algorithm>
 #include <functional>
 
 using namespace qf;
@@ -198,15 +199,7 @@ QColor backgroundOf(const QImage& picture, const QWidget* widget)
         for (int x = box.left(); x <= box.right(); ++x)
             ++counts[picture.pixel(x, y)];
     }
-    QRgb most = 0;
-    int best = -1;
-    for (auto it = counts.cbegin(); it != counts.cend(); ++it) {
-        if (it.value() > best) {
-            best = it.value();
-            most = it.key();
-        }
-    }
-    return QColor::fromRgb(most);
+    return QColor::fromRgb(std::max_element(counts.cbegin(), counts.cend()).key()); // the most counted
 }
 
 // Every text shown in `window` stands out from what is behind it: 4.5:1 below 18 points, 3:1 above.
@@ -278,7 +271,7 @@ protected:
 
     // What a person reads or uses on the screen (its text, buttons and cards, in the window's
     // coordinates) lies within `column`. The backdrop and the bars span the window on purpose;
-    // of a bar only its buttons count.
+    // of a bar only its buttons count, each whole.
     struct Content {
         QRect all;   // everything together
         QRect cards; // the cards
@@ -303,9 +296,10 @@ protected:
                 continue;
             const QRect place(widget->mapTo(window.get(), QPoint(0, 0)), widget->size());
             found.all |= place;
-            if (bar)
+            if (bar) {
                 found.bars |= place;
-            else if (qobject_cast<ui::RoundedCard*>(widget))
+                EXPECT_GE(widget->width(), widget->sizeHint().width()) << describe(widget) << " is cut";
+            } else if (qobject_cast<ui::RoundedCard*>(widget))
                 found.cards |= place;
             EXPECT_TRUE(place.left() >= column.left() && place.right() <= column.right())
                 << describe(widget) << " at " << place.left() << ".." << place.right();
@@ -444,73 +438,89 @@ INSTANTIATE_TEST_SUITE_P(EveryScreen, ScreenTour,
 
 namespace {
 
-class KeyboardTest : public test::FlowWindowTest {
-protected:
-    // Tab from wherever the focus is until it reaches `target`.
-    static void tabTo(const QWidget* target)
-    {
-        for (int i = 0; i < 60 && QApplication::focusWidget() != target; ++i) {
-            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-            test::settle();
-        }
-        ASSERT_EQ(QApplication::focusWidget(), target);
-    }
-    HomeView* openDashboard()
-    {
-        open(InstallationStep::home, std::nullopt, {1000, 1700});
-        auto* home = screenAs<HomeView>();
-        EXPECT_TRUE(QTest::qWaitFor([home] { return !home->isLoading(); }, 20000));
-        test::settle();
-        return home;
-    }
-    RemovalSheet* waitForSheet(HomeView* home)
-    {
-        EXPECT_TRUE(QTest::qWaitFor([home] { return home->sheet() && home->sheet()->isVisible(); }, 5000));
-        RemovalSheet* sheet = home->sheet();
-        if (sheet) {
-            QApplication::setActiveWindow(sheet);
-            test::settle();
-        }
-        return sheet;
-    }
-};
+using KeyboardTest = test::FlowWindowTest;
 
 } // namespace
 
-TEST_F(KeyboardTest, ARemovalSheetStartsOnItsMainButtonAndGivesTheFocusBack)
+// The dashboard while it looks stands out; its removal sheet, opened by keyboard, starts on its
+// main button, is walked like a screen, stands out asking and done, and gives the focus back.
+TEST_F(KeyboardTest, ARemovalSheetStartsOnItsMainButtonStandsOutAndGivesTheFocusBack)
 {
     sandbox.installFakes({"gemini", "npm"});
     platform.npmPrograms = {sandbox.binDirectory() + QStringLiteral("/npm")};
-    HomeView* home = openDashboard();
+    open(InstallationStep::home, std::nullopt, {1000, 1700});
+    auto* home = screenAs<HomeView>();
+    const auto loaded = [home] { return QTest::qWaitFor([home] { return !home->isLoading(); }, 20000); };
+    ASSERT_TRUE(loaded());
+
+    // "Checking your setup..." shows while a load runs; it is measured before the load can end.
+    home->loadData();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    auto* checking = test::child<ui::Label>(home, QStringLiteral("loadingText"));
+    ASSERT_TRUE(shows(checking));
+    const QPalette saved = QApplication::palette();
+    for (const bool dark : {false, true}) {
+        SCOPED_TRACE(dark ? "dark" : "light");
+        QApplication::setPalette(dark ? ui::Theme::darkPalette() : ui::Theme::lightPalette());
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+        const QImage picture = window->grab().toImage();
+        EXPECT_GE(
+            ui::Theme::contrastRatio(checking->palette().color(QPalette::WindowText), backgroundOf(picture, checking)),
+            ui::Theme::smallTextContrast);
+    }
+    QApplication::setPalette(saved);
+    ASSERT_TRUE(loaded());
+    test::settle();
+
     AIToolCard* gemini = test::child<AIToolCard>(home, QStringLiteral("aiToolCard.geminiCLI"));
     auto* remove = test::child<QWidget>(gemini, QStringLiteral("removeButton"));
-    tabTo(remove);
+    for (int i = 0; i < 60 && QApplication::focusWidget() != remove; ++i) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        test::settle();
+    }
+    ASSERT_EQ(QApplication::focusWidget(), remove);
+    const auto openSheet = [home, remove] {
+        QTest::keyClick(remove, Qt::Key_Space);
+        EXPECT_TRUE(QTest::qWaitFor([home] { return home->sheet() && home->sheet()->isVisible(); }, 5000));
+        if (home->sheet())
+            QApplication::setActiveWindow(home->sheet());
+        test::settle();
+        return home->sheet();
+    };
 
-    // Space opens the sheet on "Uninstall", which Tab reads like a screen; Escape closes it and
-    // the focus is back on the button that opened it.
-    QTest::keyClick(remove, Qt::Key_Space);
-    RemovalSheet* sheet = waitForSheet(home);
+    // Space opens the sheet on "Uninstall", showing where the focus is before any Tab; Tab
+    // reads it like a screen. Escape closes it, nothing reloads, and the focus is back on the
+    // button that opened it.
+    RemovalSheet* sheet = openSheet();
     ASSERT_NE(sheet, nullptr);
     EXPECT_EQ(QApplication::focusWidget(), test::child<QWidget>(sheet, QStringLiteral("uninstallButton")));
-    // Opened by keyboard, it shows where the focus is before any Tab.
     EXPECT_TRUE(ui::showsFocusRing(QApplication::focusWidget()));
+    EXPECT_FALSE(test::child(sheet, QStringLiteral("detailsButton"))->isVisible()); // no output yet
     sweep(sheet);
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    test::inBothAppearances([sheet] { expectReadable(sheet); });
+    QTest::keyClick(sheet, Qt::Key_Escape);
     test::settle();
     QApplication::setActiveWindow(window.get());
     test::settle();
     EXPECT_EQ(home->sheet(), nullptr);
+    EXPECT_FALSE(home->isLoading());
     EXPECT_EQ(QApplication::focusWidget(), remove);
 
-    // Through to the end by keyboard: "Done" has the focus once the removal is complete; the
-    // dashboard reloads without Gemini CLI, and the focus lands on its card's "Install".
-    QTest::keyClick(remove, Qt::Key_Space);
-    sheet = waitForSheet(home);
+    // Through to the end by keyboard: "Done" has the focus once the removal is complete, and
+    // the sheet with its log (behind "Details") stands out; the dashboard reloads without Gemini CLI, and the
+    // focus lands on its card's "Install".
+    sheet = openSheet();
     ASSERT_NE(sheet, nullptr);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
     ASSERT_TRUE(QTest::qWaitFor([sheet] { return sheet->uninstallComplete(); }, 20000));
-    EXPECT_EQ(QApplication::focusWidget(), test::child<QWidget>(sheet, QStringLiteral("doneButton")));
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    auto* done = test::child<QWidget>(sheet, QStringLiteral("doneButton"));
+    EXPECT_EQ(QApplication::focusWidget(), done);
+    // The log is behind "Details".
+    EXPECT_FALSE(test::child(sheet, QStringLiteral("logView"))->isVisible());
+    test::child<QAbstractButton>(sheet, QStringLiteral("detailsButton"))->click();
+    EXPECT_TRUE(test::child(sheet, QStringLiteral("logView"))->isVisible());
+    test::inBothAppearances([sheet] { expectReadable(sheet); });
+    QTest::keyClick(done, Qt::Key_Return);
     ASSERT_TRUE(QTest::qWaitFor([home] { return !home->sheet() && !home->isLoading(); }, 20000));
     QApplication::setActiveWindow(window.get());
     test::settle();
@@ -562,58 +572,4 @@ TEST_F(KeyboardTest, ToolCardsAreRadioButtonsOfOneChoice)
     EXPECT_EQ(QApplication::focusWidget(), cards[0]);
     EXPECT_EQ(state.selectedTool(), CLITool::claudeCode);
     EXPECT_EQ(checked(), (QList<bool>{true, false, false}));
-}
-
-TEST_F(KeyboardTest, TheTypedLinesCopyButtonSaysWhatItCopies)
-{
-    platform.terminalOpens = false;
-    open(InstallationStep::terminal, CLITool::codex);
-    auto* fallback = test::child(screen(), QStringLiteral("terminalFallback"));
-    ASSERT_TRUE(shows(fallback));
-    auto* copy = test::child<QWidget>(fallback, QStringLiteral("copyButton"));
-    EXPECT_EQ(copy->accessibleName(), QStringLiteral("Copy the line to type"));
-    EXPECT_EQ(copy->accessibleDescription(),
-              test::child<QLabel>(fallback, QStringLiteral("terminalFallbackLine"))->text());
-}
-
-TEST_F(KeyboardTest, TheDashboardWhileItLooksAndTheRemovalSheetStandOut)
-{
-    sandbox.installFakes({"gemini", "npm"});
-    platform.npmPrograms = {sandbox.binDirectory() + QStringLiteral("/npm")};
-    open(InstallationStep::home, std::nullopt, {1000, 1400});
-    auto* home = screenAs<HomeView>();
-    ASSERT_TRUE(QTest::qWaitFor([home] { return !home->isLoading(); }, 20000));
-
-    // "Checking your setup..." shows while a load runs; it is measured before the load can end.
-    home->loadData();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
-    ASSERT_TRUE(shows(test::child(home, QStringLiteral("loadingText"))));
-    const QPalette saved = QApplication::palette();
-    for (const bool dark : {false, true}) {
-        SCOPED_TRACE(dark ? "dark" : "light");
-        QApplication::setPalette(dark ? ui::Theme::darkPalette() : ui::Theme::lightPalette());
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
-        const QImage picture = window->grab().toImage();
-        auto* checking = test::child<ui::Label>(home, QStringLiteral("loadingText"));
-        EXPECT_GE(
-            ui::Theme::contrastRatio(checking->palette().color(QPalette::WindowText), backgroundOf(picture, checking)),
-            ui::Theme::smallTextContrast);
-    }
-    QApplication::setPalette(saved);
-    ASSERT_TRUE(QTest::qWaitFor([home] { return !home->isLoading(); }, 20000));
-    test::settle();
-
-    // The removal sheet, asking and then done with its log.
-    auto* gemini = test::child<AIToolCard>(home, QStringLiteral("aiToolCard.geminiCLI"));
-    test::child<QAbstractButton>(gemini, QStringLiteral("removeButton"))->click();
-    RemovalSheet* sheet = home->sheet();
-    ASSERT_NE(sheet, nullptr);
-    test::settle();
-    test::inBothAppearances([sheet] { expectReadable(sheet); });
-    test::child<QAbstractButton>(sheet, QStringLiteral("uninstallButton"))->click();
-    ASSERT_TRUE(QTest::qWaitFor([sheet] { return sheet->uninstallComplete(); }, 20000));
-    test::child<QAbstractButton>(sheet, QStringLiteral("detailsButton"))->click();
-    test::inBothAppearances([sheet] { expectReadable(sheet); });
-    sheet->reject();
-    test::settle();
 }

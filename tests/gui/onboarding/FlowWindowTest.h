@@ -27,7 +27,7 @@ protected:
         showWindow(services, step, tool, size);
     }
     ui::Button* button(const char* name) const { return child<ui::Button>(screen(), QLatin1String(name)); }
-    QString text(const char* name) const { return child<QLabel>(screen(), QLatin1String(name))->text(); }
+    QString text(const char* name) const { return textIn(screen(), name); }
 
     SetupStep step(SetupStepType type) const
     {
@@ -39,6 +39,12 @@ protected:
         return {type};
     }
     static bool shows(const QWidget* widget) { return widget && widget->isVisible(); }
+    bool showsChild(const char* name) const { return shows(child<QWidget>(screen(), QLatin1String(name))); }
+    // The text of the label `name` inside `parent`.
+    static QString textIn(const QWidget* parent, const char* name)
+    {
+        return child<QLabel>(parent, QLatin1String(name))->text();
+    }
 };
 
 } // namespace qf::test

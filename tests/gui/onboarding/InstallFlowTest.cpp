@@ -68,12 +68,10 @@ TEST_F(InstallFlowTest, FromTheAccountScreenToACompletedInstallation)
     EXPECT_EQ(expanded(), QList<CLITool>{CLITool::claudeCode});
     EXPECT_EQ(state.selectedTool(), CLITool::claudeCode);
     // The explainer for newcomers opens and closes.
-    QWidget* explainer = test::child(screen(), QStringLiteral("whatIsAIBody"));
-    EXPECT_FALSE(explainer->isVisible());
-    click("whatIsAIHeader");
-    EXPECT_TRUE(explainer->isVisible());
-    click("whatIsAIHeader");
-    EXPECT_FALSE(explainer->isVisible());
+    for (const bool open : {false, true, false}) {
+        EXPECT_EQ(showsChild("whatIsAIBody"), open);
+        click("whatIsAIHeader");
+    }
 
     // Return presses the main button, wherever the focus is.
     button("continueButton")->setFocus();
@@ -91,7 +89,7 @@ TEST_F(InstallFlowTest, FromTheAccountScreenToACompletedInstallation)
     waitForInstallation();
     EXPECT_EQ(text("installationTitle"), QStringLiteral("Installation Complete!"));
     EXPECT_EQ(step(SetupStepType::installTool).status, SetupStepStatus(SetupStepStatus::completed));
-    EXPECT_FALSE(shows(test::child(screen(), QStringLiteral("errorCard"))));
+    EXPECT_FALSE(showsChild("errorCard"));
     EXPECT_TRUE(shows(button("backButton")));
     EXPECT_EQ(button("mainButton")->title(), QStringLiteral("Continue"));
     click("mainButton");
@@ -114,8 +112,8 @@ TEST_F(InstallFlowTest, AToolAlreadyOnThePathIsOfferedInTheTerminal)
     sandbox.setEnv("FAKE_TOOL_VERSION_FAIL", "1");
     open(InstallationStep::systemCheck, CLITool::claudeCode);
     waitForCheck();
-    EXPECT_TRUE(shows(test::child(screen(), QStringLiteral("alreadyInstalled"))));
-    EXPECT_FALSE(shows(test::child(screen(), QStringLiteral("installedVersion"))));
+    EXPECT_TRUE(showsChild("alreadyInstalled"));
+    EXPECT_FALSE(showsChild("installedVersion"));
     EXPECT_EQ(button("mainButton")->title(), QStringLiteral("Open Terminal"));
 }
 
@@ -132,9 +130,9 @@ TEST_F(InstallFlowTest, RequirementsDecideWhetherTheInstallationMayStart)
     EXPECT_EQ(nodeStatus->text(), QStringLiteral("Will be installed for you"));
     EXPECT_EQ(nodeStatus->tint(), ui::Tint(ui::Role::orange));
     // Its help agrees: nothing for the user to do.
-    EXPECT_EQ(test::child<ui::Label>(nodeRow, QStringLiteral("requirementFix"))->text(),
+    EXPECT_EQ(textIn(nodeRow, "requirementFix"),
               QStringLiteral("Quillforge installs it for you as part of the setup."));
-    EXPECT_FALSE(shows(test::child(screen(), QStringLiteral("blockedNotice"))));
+    EXPECT_FALSE(showsChild("blockedNotice"));
     EXPECT_EQ(button("mainButton")->title(), QStringLiteral("Install"));
     EXPECT_TRUE(button("mainButton")->isEnabled());
 
@@ -149,9 +147,8 @@ TEST_F(InstallFlowTest, RequirementsDecideWhetherTheInstallationMayStart)
     rows[3]->helpButton()->click();
     EXPECT_TRUE(shows(test::child(nodeRow, QStringLiteral("requirementFix"))));
     // The help says which Node.js the chosen tool needs.
-    EXPECT_TRUE(test::child<ui::Label>(nodeRow, QStringLiteral("requirementExplanation"))
-                    ->text()
-                    .endsWith(QStringLiteral("used by millions of developers. Gemini CLI needs Node.js 20 or newer.")));
+    EXPECT_TRUE(
+        textIn(nodeRow, "requirementExplanation").endsWith(QStringLiteral("Gemini CLI needs Node.js 20 or newer.")));
 
     // Too little space blocks, and Return does nothing then.
     platform.diskSpace = DiskSpace{100 * 1024 * 1024, {}};
@@ -161,12 +158,10 @@ TEST_F(InstallFlowTest, RequirementsDecideWhetherTheInstallationMayStart)
     EXPECT_FALSE(button("mainButton")->isEnabled());
     // What is wrong, in red, and the screen says what blocks "Install".
     auto* diskRow = test::child<RequirementRow>(screen(), QStringLiteral("requirementRow.diskSpace"));
-    EXPECT_EQ(test::child<ui::Label>(diskRow, QStringLiteral("requirementStatus"))->text(),
-              QStringLiteral("Not enough space"));
+    EXPECT_EQ(textIn(diskRow, "requirementStatus"), QStringLiteral("Not enough space"));
     EXPECT_EQ(test::child<ui::Label>(diskRow, QStringLiteral("requirementStatus"))->tint(), ui::Tint(ui::Role::red));
-    EXPECT_EQ(test::child<ui::Label>(diskRow, QStringLiteral("requirementDetails"))->text(),
-              QStringLiteral("100 MB free, 1024 MB needed"));
-    EXPECT_TRUE(shows(test::child(screen(), QStringLiteral("blockedNotice"))));
+    EXPECT_EQ(textIn(diskRow, "requirementDetails"), QStringLiteral("100 MB free, 1024 MB needed"));
+    EXPECT_TRUE(showsChild("blockedNotice"));
     EXPECT_EQ(
         text("blockedReason"),
         QStringLiteral("Install is not available until this is fixed: 1GB disk space (100 MB free, 1024 MB needed)."));
@@ -186,8 +181,7 @@ TEST_F(InstallFlowTest, MissingGitBlocksTheInstallationAndOffersItsInstaller)
     open(InstallationStep::systemCheck, CLITool::claudeCode); // no git here
     waitForCheck();
     auto* gitRow = test::child<RequirementRow>(screen(), QStringLiteral("requirementRow.git"));
-    EXPECT_EQ(test::child<ui::Label>(gitRow, QStringLiteral("requirementStatus"))->text(),
-              QStringLiteral("Not installed"));
+    EXPECT_EQ(textIn(gitRow, "requirementStatus"), QStringLiteral("Not installed"));
     EXPECT_FALSE(button("mainButton")->isEnabled());
     EXPECT_EQ(text("blockedReason"),
               QStringLiteral("Install is not available until this is fixed: Git (Xcode CLI Tools not installed)."));
@@ -213,7 +207,7 @@ TEST_F(InstallFlowTest, MissingGitBlocksTheInstallationAndOffersItsInstaller)
     click("checkAgainButton");
     waitForCheck();
     EXPECT_TRUE(button("mainButton")->isEnabled());
-    EXPECT_FALSE(shows(test::child(screen(), QStringLiteral("blockedNotice"))));
+    EXPECT_FALSE(showsChild("blockedNotice"));
 }
 
 TEST_F(InstallFlowTest, MissingGitStopsTheRunAndTryAgainStartsOver)
@@ -242,18 +236,11 @@ TEST_F(InstallFlowTest, MissingGitStopsTheRunAndTryAgainStartsOver)
 
     // With git there, "Try Again" runs every step again from a clean log.
     sandbox.installFakes({"git", "curl"});
-    bool startedClean = false;
-    QObject::connect(&state, &InstallationState::setupStepsChanged, screen(), [&] {
-        if (!startedClean && controller().isInstalling())
-            startedClean = state.installationOutput().isEmpty() && !state.errorMessage() &&
-                           step(SetupStepType::checkGit).status == SetupStepStatus(SetupStepStatus::pending);
-    });
     click("mainButton");
-    EXPECT_TRUE(startedClean);
     waitForInstallation();
     EXPECT_EQ(step(SetupStepType::checkGit).status, SetupStepStatus(SetupStepStatus::completed));
     EXPECT_FALSE(state.installationOutput().contains(platform.wording().gitMissingLog));
-    EXPECT_FALSE(shows(test::child(screen(), QStringLiteral("errorCard"))));
+    EXPECT_FALSE(showsChild("errorCard"));
     EXPECT_EQ(button("mainButton")->title(), QStringLiteral("Continue"));
 }
 
@@ -264,11 +251,11 @@ TEST_F(InstallFlowTest, ACaveatShowsOnTheResultAndTheCompletionScreen)
     open(InstallationStep::installation, CLITool::geminiCLI);
     waitForInstallation();
     EXPECT_EQ(text("installationTitle"), QStringLiteral("Installation Complete!"));
-    ASSERT_TRUE(shows(test::child(screen(), QStringLiteral("caveats"))));
+    ASSERT_TRUE(showsChild("caveats"));
     EXPECT_TRUE(text("caveat").startsWith(QStringLiteral("npm is set to refuse install scripts")));
     click("mainButton");
     ASSERT_EQ(state.currentStep(), InstallationStep::completion);
-    EXPECT_TRUE(shows(test::child(screen(), QStringLiteral("caveats"))));
+    EXPECT_TRUE(showsChild("caveats"));
     EXPECT_EQ(text("caveat"), state.caveats().first());
 
     // A run without caveats shows none, also after one that had them.
@@ -278,34 +265,6 @@ TEST_F(InstallFlowTest, ACaveatShowsOnTheResultAndTheCompletionScreen)
     EXPECT_TRUE(state.caveats().isEmpty());
     const auto* caveats = screen()->findChild<QWidget*>(QStringLiteral("caveats"));
     EXPECT_FALSE(caveats && shows(caveats));
-}
-
-TEST_F(InstallFlowTest, FailingCommandsEndInTheErrorCard)
-{
-    sandbox.installFakes({"git", "npm", "node"});
-    sandbox.setEnv("FAKE_NPM_FAIL", "1");
-    // The smallest window: the card lies below the steps.
-    open(InstallationStep::installation, CLITool::geminiCLI, QSize(550, 450));
-    waitForInstallation();
-    EXPECT_EQ(step(SetupStepType::installNode).status, SetupStepStatus(SetupStepStatus::skipped));
-    EXPECT_EQ(step(SetupStepType::installTool).status.kind(), SetupStepStatus::failed);
-    // The command's own words are in the log; the card says that it failed, and is scrolled
-    // into view.
-    EXPECT_TRUE(state.installationOutput().contains(QStringLiteral("404 Not Found")));
-    EXPECT_EQ(text("errorMessage"), failureSentence(FailureCause::notFound));
-    const QWidget* viewport = screenAs<InstallationView>()->scrollView()->viewport();
-    const QWidget* sentence = test::child(screen(), QStringLiteral("errorMessage"));
-    EXPECT_TRUE(QTest::qWaitFor([viewport, sentence] {
-        return viewport->rect().contains(QRect(sentence->mapTo(viewport, QPoint()), sentence->size()));
-    })) << "the error is out of sight";
-
-    // npm reports success but the command never appears.
-    sandbox.setEnv("FAKE_NPM_FAIL", "");
-    sandbox.setEnv("FAKE_NPM_SKIP_BIN", "1");
-    click("mainButton");
-    waitForInstallation();
-    EXPECT_EQ(step(SetupStepType::installTool).status, SetupStepStatus::failure(QStringLiteral("Verification failed")));
-    EXPECT_EQ(text("errorMessage"), errorDescription(InstallationError::verificationFailed, platform.wording()));
 }
 
 TEST_F(InstallFlowTest, LeavingDuringARunAndComingBackIsSafe)
@@ -330,14 +289,24 @@ TEST_F(InstallFlowTest, LeavingDuringARunAndComingBackIsSafe)
     EXPECT_EQ(state.installationOutput().count(QStringLiteral("Installing Codex")), 1);
 }
 
-TEST_F(InstallFlowTest, TheLogShowsEveryByteAndCanBeCopied)
+TEST_F(InstallFlowTest, TheLogShowsEveryByteAndIsCopiedEvenWithoutALogFile)
 {
     sandbox.installFakes({"git", "npm", "node"});
-    // A euro sign split across two reads, an invalid byte, then many lines.
-    sandbox.setEnv("FAKE_NPM_SCRIPT", "printf 'price \\342\\202'; sleep 0.2; printf '\\254 \\377 ok\\n'; seq 1 400");
+    // A file stands where the log folder's parent should be: the installation goes on without a
+    // log file, and its failure has none to show.
+    sandbox.writeFile(QStringLiteral("Library/Logs"), "not a folder");
+    sandbox.setEnv("FAKE_NPM_FAIL", "1");
     open(InstallationStep::installation, CLITool::geminiCLI);
     auto* view = screenAs<InstallationView>();
     ui::LogView* log = view->logView();
+    waitForInstallation();
+    EXPECT_TRUE(state.installationOutput().contains(QStringLiteral("404 Not Found")));
+    EXPECT_FALSE(shows(button("showLogFileButton")));
+
+    // A euro sign split across two reads, an invalid byte, then many lines, read as they come.
+    sandbox.setEnv("FAKE_NPM_FAIL", "");
+    sandbox.setEnv("FAKE_NPM_SCRIPT", "printf 'price \\342\\202'; sleep 0.2; printf '\\254 \\377 ok\\n'; seq 1 400");
+    click("mainButton");
     QTest::mouseClick(test::child<QWidget>(screen(), QStringLiteral("detailsButton")), Qt::LeftButton);
     EXPECT_TRUE(view->showDetails());
     waitForInstallation();
@@ -362,6 +331,7 @@ TEST_F(InstallFlowTest, TheLogShowsEveryByteAndCanBeCopied)
     EXPECT_EQ(QGuiApplication::clipboard()->text(), state.installationOutput());
     EXPECT_TRUE(view->toastPresenter()->isShowing());
     EXPECT_TRUE(QTest::qWaitFor([view] { return !view->toastPresenter()->isShowing(); }, 5000));
+    EXPECT_FALSE(sandbox.exists(QStringLiteral("Library/Logs/Quillforge")));
 }
 
 TEST_F(InstallFlowTest, ALongLogShowsItsNewestPartAndIsCopiedWhole)
@@ -382,9 +352,7 @@ TEST_F(InstallFlowTest, ALongLogShowsItsNewestPartAndIsCopiedWhole)
     for (const QString& text : {shown, kept}) {
         EXPECT_TRUE(text.startsWith(notice));
         EXPECT_LE(text.size(), 4 * 1024 * 1024);
-        EXPECT_GT(text.size(), 3 * 1024 * 1024);
         EXPECT_TRUE(text.contains(QStringLiteral("\n699999\n700000\n")));
-        EXPECT_FALSE(text.contains(QStringLiteral("\n000001\n")));
     }
     EXPECT_TRUE(shown.endsWith(kept.right(1000)));
 
@@ -404,26 +372,28 @@ TEST_F(InstallFlowTest, ALongLogShowsItsNewestPartAndIsCopiedWhole)
     EXPECT_TRUE(view->toastPresenter()->isShowing());
 }
 
-TEST_F(InstallFlowTest, AFailedInstallationOffersItsLogFile)
+TEST_F(InstallFlowTest, FailingCommandsEndInTheErrorCardWithTheirLogFile)
 {
     sandbox.installFakes({"git", "npm", "node"});
     sandbox.setEnv("FAKE_NPM_FAIL", "1");
+    // The smallest window: the card lies below the steps.
     open(InstallationStep::installation, CLITool::geminiCLI,
          QSize(MainWindow::minimumWidth, MainWindow::minimumHeight));
     EXPECT_FALSE(shows(button("showLogFileButton"))); // not while it runs
     waitForInstallation();
-    ASSERT_TRUE(shows(test::child(screen(), QStringLiteral("errorCard"))));
-    ASSERT_TRUE(shows(button("showLogFileButton")));
-    // Beside "Try Again", whole, in the smallest window.
-    const QRect bar = test::child(screen(), QStringLiteral("bottomBar"))->rect();
-    for (const char* name : {"backButton", "showLogFileButton", "mainButton"}) {
-        const QWidget* control = button(name);
-        const QRect place(control->mapTo(test::child(screen(), QStringLiteral("bottomBar")), QPoint()),
-                          control->size());
-        EXPECT_TRUE(bar.contains(place)) << name;
-        EXPECT_GE(control->width(), control->sizeHint().width()) << name;
-    }
+    EXPECT_EQ(step(SetupStepType::installNode).status, SetupStepStatus(SetupStepStatus::skipped));
+    EXPECT_EQ(step(SetupStepType::installTool).status.kind(), SetupStepStatus::failed);
+    // The command's own words are in the log; the card says that it failed, and is scrolled
+    // into view.
+    EXPECT_TRUE(state.installationOutput().contains(QStringLiteral("404 Not Found")));
+    EXPECT_EQ(text("errorMessage"), failureSentence(FailureCause::notFound));
+    const QWidget* viewport = screenAs<InstallationView>()->scrollView()->viewport();
+    const QWidget* sentence = test::child(screen(), QStringLiteral("errorMessage"));
+    EXPECT_TRUE(QTest::qWaitFor([viewport, sentence] {
+        return viewport->rect().contains(QRect(sentence->mapTo(viewport, QPoint()), sentence->size()));
+    })) << "the error is out of sight";
 
+    // "Show Log File" (the screen tour sees it whole beside "Try Again" in the smallest window).
     const QString path = controller().logFile()->path();
     EXPECT_EQ(QFileInfo(path).absolutePath(), QFileInfo(platform.logs).absoluteFilePath());
     EXPECT_TRUE(QFileInfo(path).fileName().endsWith(QStringLiteral(" Install Gemini CLI.log")));
@@ -433,34 +403,19 @@ TEST_F(InstallFlowTest, AFailedInstallationOffersItsLogFile)
     ASSERT_TRUE(whole && *whole);
     EXPECT_TRUE((*whole)->contains(QStringLiteral("404 Not Found")));
 
-    // A run that succeeds has nothing to show.
+    // npm reports success but the command never appears.
     sandbox.setEnv("FAKE_NPM_FAIL", "");
+    sandbox.setEnv("FAKE_NPM_SKIP_BIN", "1");
+    click("mainButton");
+    waitForInstallation();
+    EXPECT_EQ(step(SetupStepType::installTool).status, SetupStepStatus::failure(QStringLiteral("Verification failed")));
+    EXPECT_EQ(text("errorMessage"), errorDescription(InstallationError::verificationFailed, platform.wording()));
+
+    // A run that succeeds has no log file to show.
+    sandbox.setEnv("FAKE_NPM_SKIP_BIN", "");
     click("mainButton");
     waitForInstallation();
     EXPECT_TRUE(controller().installationComplete());
     EXPECT_FALSE(shows(button("showLogFileButton")));
     EXPECT_EQ(platform.revealedFiles.size(), 1);
-}
-
-TEST_F(InstallFlowTest, AnUnwritableLogFolderDoesNotStopTheInstallation)
-{
-    sandbox.installFakes({"git", "npm", "node"});
-    // A file stands where the log folder's parent should be.
-    sandbox.writeFile(QStringLiteral("Library/Logs"), "not a folder");
-    sandbox.setEnv("FAKE_NPM_FAIL", "1");
-    open(InstallationStep::installation, CLITool::geminiCLI);
-    waitForInstallation();
-    EXPECT_TRUE(state.installationOutput().contains(QStringLiteral("404 Not Found")));
-    EXPECT_EQ(text("errorMessage"), failureSentence(FailureCause::notFound));
-    // Without a file there is nothing to show.
-    EXPECT_FALSE(shows(button("showLogFileButton")));
-
-    sandbox.setEnv("FAKE_NPM_FAIL", "");
-    click("mainButton");
-    waitForInstallation();
-    EXPECT_EQ(text("installationTitle"), QStringLiteral("Installation Complete!"));
-    EXPECT_EQ(screenAs<InstallationView>()->logView()->text(), state.installationOutput());
-    click("copyLogButton");
-    EXPECT_EQ(QGuiApplication::clipboard()->text(), state.installationOutput());
-    EXPECT_FALSE(sandbox.exists(QStringLiteral("Library/Logs/Quillforge")));
 }

@@ -50,36 +50,16 @@ struct Elements {
     QWidget* buttonRow;
 };
 
-Elements elementsOf(OnboardingView& view)
-{
-    return {test::child(&view, QStringLiteral("quillforgeLogo")),
-            test::child(&view, QStringLiteral("onboardingTitleBlock")), view.findChildren<FeatureItem*>(),
-            test::child(&view, QStringLiteral("getStartedRow"))};
-}
-
 } // namespace
-
-TEST_F(OnboardingTest, ShowsTheIntroductionsFeatures)
-{
-    InstallationState state;
-    OnboardingView view(state);
-    const QList<FeatureItem*> rows = view.findChildren<FeatureItem*>();
-    ASSERT_EQ(rows.size(), 3);
-    for (FeatureItem* row : rows) {
-        EXPECT_TRUE(ui::Symbol::exists(row->icon())) << row->icon().toStdString();
-        EXPECT_EQ(test::child<QLabel>(row, QStringLiteral("featureTitle"))->text(), row->title());
-        EXPECT_EQ(test::child<ui::Label>(row, QStringLiteral("featureDescription"))->maximumLines(), 2);
-        EXPECT_FALSE(row->description().isEmpty());
-        EXPECT_TRUE(row->shadow().has_value());
-    }
-}
 
 TEST_F(OnboardingTest, EntranceAnimationMovesEveryElementFromOutToIn)
 {
     test::AnimationsOn animations;
     InstallationState state;
     OnboardingView view(state);
-    const Elements e = elementsOf(view);
+    const Elements e{test::child(&view, QStringLiteral("quillforgeLogo")),
+                     test::child(&view, QStringLiteral("onboardingTitleBlock")), view.findChildren<FeatureItem*>(),
+                     test::child(&view, QStringLiteral("getStartedRow"))};
     ASSERT_EQ(e.rows.size(), 3);
     // Rising elements share one large parent, so nothing clips them on their way in.
     QWidget* content = e.logo->parentWidget();
@@ -94,23 +74,21 @@ TEST_F(OnboardingTest, EntranceAnimationMovesEveryElementFromOutToIn)
     ASSERT_NE(entrance, nullptr);
     EXPECT_EQ(entrance->totalDuration(), OnboardingView::entranceDelayMs + OnboardingView::entranceDurationMs);
 
-    auto expectOut = [&] {
-        const ElementLook logo = lookOf(e.logo);
-        EXPECT_EQ(logo.opacity, 0.0);
-        EXPECT_DOUBLE_EQ(logo.scale, 0.8);
-        const ElementLook title = lookOf(e.titleBlock);
-        EXPECT_EQ(title.opacity, 0.0);
-        EXPECT_EQ(title.offset, QPointF(0, 10));
-        for (QWidget* row : e.rows) {
-            EXPECT_EQ(lookOf(row).opacity, 0.0);
-            EXPECT_EQ(lookOf(row).offset, QPointF(0, 20));
+    // Out, until the delay has passed: invisible, the logo small, the title a little lower and
+    // the rest lower still.
+    const QList<QWidget*> all{e.logo, e.titleBlock, e.rows[0], e.rows[1], e.rows[2], e.buttonRow};
+    for (const int time : {-1, OnboardingView::entranceDelayMs - 10}) {
+        if (time >= 0)
+            entrance->setCurrentTime(time);
+        for (QWidget* element : all) {
+            const ElementLook look = lookOf(element);
+            EXPECT_EQ(look.opacity, 0.0) << element->objectName().toStdString();
+            if (element == e.logo)
+                EXPECT_DOUBLE_EQ(look.scale, 0.8);
+            else
+                EXPECT_EQ(look.offset, QPointF(0, element == e.titleBlock ? 10 : 20));
         }
-        EXPECT_EQ(lookOf(e.buttonRow).opacity, 0.0);
-        EXPECT_EQ(lookOf(e.buttonRow).offset, QPointF(0, 20));
-    };
-    expectOut();
-    entrance->setCurrentTime(OnboardingView::entranceDelayMs - 10); // still waiting
-    expectOut();
+    }
 
     // Half way every element is on its way, all together.
     entrance->setCurrentTime(OnboardingView::entranceDelayMs + OnboardingView::entranceDurationMs / 2);
@@ -124,8 +102,7 @@ TEST_F(OnboardingTest, EntranceAnimationMovesEveryElementFromOutToIn)
 
     // After 0.7 s everything has its final look.
     entrance->setCurrentTime(700);
-    for (QWidget* element : {e.logo, e.titleBlock, e.buttonRow, static_cast<QWidget*>(e.rows[0]),
-                             static_cast<QWidget*>(e.rows[1]), static_cast<QWidget*>(e.rows[2])}) {
+    for (QWidget* element : all) {
         const ElementLook look = lookOf(element);
         EXPECT_EQ(look.opacity, 1.0);
         EXPECT_EQ(look.offset, QPointF());
@@ -157,7 +134,7 @@ TEST_F(OnboardingTest, GetStartedMidAnimationStoresThePreferenceAndGoesHome)
     EXPECT_EQ(window.contentView()->findChildren<OnboardingView*>().size(), 0);
 }
 
-TEST_F(OnboardingTest, ShortWindowsScrollTheContent)
+TEST_F(OnboardingTest, TheFeaturesShowAndShortWindowsScrollTheContent)
 {
     InstallationState state;
     OnboardingView view(state);
@@ -175,11 +152,17 @@ TEST_F(OnboardingTest, ShortWindowsScrollTheContent)
     EXPECT_EQ(shot.size(), QSize(550, 450) * shot.devicePixelRatio());
     EXPECT_EQ(qAlpha(shot.pixel(2, shot.height() - 3)), 255);
 
-    // Narrow rows wrap their descriptions onto a second line instead of cutting them.
+    // The three features, each with its icon, title and description; narrow rows wrap their
+    // descriptions onto a second line instead of cutting them.
     const QList<FeatureItem*> rows = view.findChildren<FeatureItem*>();
     ASSERT_EQ(rows.size(), 3);
     int wrappedRows = 0;
     for (FeatureItem* row : rows) {
+        EXPECT_TRUE(ui::Symbol::exists(row->icon())) << row->icon().toStdString();
+        EXPECT_EQ(test::child<QLabel>(row, QStringLiteral("featureTitle"))->text(), row->title());
+        EXPECT_EQ(test::child<ui::Label>(row, QStringLiteral("featureDescription"))->maximumLines(), 2);
+        EXPECT_FALSE(row->description().isEmpty());
+        EXPECT_TRUE(row->shadow().has_value());
         auto* description = test::child<QLabel>(row, QStringLiteral("featureDescription"));
         EXPECT_GE(description->height(), description->heightForWidth(description->width()));
         wrappedRows += description->height() >= 2 * QFontMetrics(description->font()).lineSpacing();
