@@ -89,7 +89,10 @@ FirstTimeWelcomeCard::FirstTimeWelcomeCard(const QString& developerToolsName, QW
 
 void FirstTimeWelcomeCard::setMachine(bool hasDeveloperTools, const QList<CLITool>& installedTools)
 {
-    m_tip->setText(tipText(m_developerToolsName, hasDeveloperTools, installedTools));
+    const QString tip = tipText(m_developerToolsName, hasDeveloperTools, installedTools);
+    m_tip->setText(tip);
+    // A screen reader reads the words, not the marks that make them bold.
+    m_tip->setAccessibleName(QString(tip).remove(QStringLiteral("**")));
 }
 
 QString FirstTimeWelcomeCard::tipText(const QString& developerToolsName, bool hasDeveloperTools,

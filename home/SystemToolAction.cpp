@@ -24,7 +24,7 @@ void handleSystemToolAction(const SystemTool& tool, Platform& platform, const st
         // manager rather than opened with whatever application handles it.
         const QFileInfo entry(path);
         if (entry.exists() && !entry.isDir()) {
-            platform.revealFile(path);
+            platform.revealFile(path, {});
             return;
         }
         if (!platform.revealFolder(path) && fallback) {

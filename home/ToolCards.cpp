@@ -294,12 +294,19 @@ SystemToolCard::SystemToolCard(const SystemTool& tool, Action onAction, Action o
     m_version = new StatusBadge(QString(), Tint(Role::green));
     m_version->setObjectName(QStringLiteral("versionBadge"));
     title->addWidget(m_version, 0, Qt::AlignVCenter);
+    m_missing = new StatusBadge(tr("Not installed"), Tint(Role::orange));
+    m_missing->setObjectName(QStringLiteral("missingBadge"));
+    title->addWidget(m_missing, 0, Qt::AlignVCenter);
     title->addStretch(1);
     text->addLayout(title);
     m_description = new Label(QString(), Theme::font(11), Tint(Role::secondary));
     m_description->setObjectName(QStringLiteral("itemDescription"));
     m_description->setWrapping(true);
     text->addWidget(m_description);
+    m_nextStep = new Label(tr("Installed for you with Gemini CLI or Codex"), Theme::font(11), Tint(Role::secondary));
+    m_nextStep->setObjectName(QStringLiteral("itemNextStep"));
+    m_nextStep->setWrapping(true);
+    text->addWidget(m_nextStep);
     row->addLayout(text, 1);
 
     // The item's action (its title and icon follow the item), then the remove button.
@@ -352,12 +359,19 @@ void SystemToolCard::render()
     m_version->setVisible(installed);
     m_version->setText(m_tool.version.value_or(tr("Ready")));
     m_description->setText(m_tool.description);
+    // Homebrew and Node.js come with the setup of a tool that needs them; the projects folder
+    // and the developer tools have a button of their own.
+    const bool comesWithSetup = !installed && (m_tool.id == SystemToolID::homebrew || m_tool.id == SystemToolID::node);
+    m_missing->setVisible(!installed && m_tool.id != SystemToolID::developerFolder);
+    m_nextStep->setVisible(comesWithSetup);
 
     QStringList state{installed ? tr("Installed") : tr("Not installed")};
     if (installed && m_tool.version && !m_tool.version->isEmpty())
         state << *m_tool.version;
     if (m_tool.isOptional)
         state << tr("Optional");
+    if (comesWithSetup)
+        state << m_nextStep->text();
     setAccessibleName(m_tool.name);
     setAccessibleDescription(state.join(QStringLiteral(", ")));
 

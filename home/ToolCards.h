@@ -158,7 +158,10 @@ private:
     ui::Label* m_name;
     ui::Badge* m_optional;
     StatusBadge* m_version;
+    // A missing item says so in words, not by colour alone, and what happens to it next.
+    StatusBadge* m_missing;
     ui::Label* m_description;
+    ui::Label* m_nextStep;
     ActionButton* m_action;
 };
 

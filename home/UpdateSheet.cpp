@@ -197,10 +197,10 @@ void UpdateSheet::render()
     case Phase::ready:
         m_title->setText(tr("Update %1?").arg(name));
         m_description->setText(
-            m_current
-                ? tr("%1 goes from version %2 to %3. Your settings and sign-in stay as they are.")
-                      .arg(name, *m_current, m_new)
-                : tr("%1 is updated to version %2. Your settings and sign-in stay as they are.").arg(name, m_new));
+            m_current ? tr("%1 goes from version %2 to %3. You stay signed in, and your settings stay as they are.")
+                            .arg(name, *m_current, m_new)
+                      : tr("%1 is updated to version %2. You stay signed in, and your settings stay as they are.")
+                            .arg(name, m_new));
         break;
     case Phase::running:
         m_title->setText(tr("Updating %1...").arg(name));
@@ -217,7 +217,9 @@ void UpdateSheet::render()
     }
     m_description->setVisible(!failed);
 
-    m_logSection->setVisible(m_run->hasOutput() && phase != Phase::ready);
+    // An update refused for an older Node.js ran nothing: its log would only repeat the
+    // sentence the sheet shows.
+    m_logSection->setVisible(m_run->hasOutput() && phase != Phase::ready && !(failed && needsNode));
     m_errorRow->setVisible(errorMessage.has_value());
     m_error->setText(errorMessage.value_or(QString()));
 

@@ -158,8 +158,9 @@ void APIKeyView::save()
     const std::optional<CLITool> tool = m_state.selectedTool();
     if (!tool || !m_field || m_isSaving)
         return;
-    // Blanks are a key like any other; only an empty field has nothing to save.
-    const QString key = m_field->text();
+    // Blanks and line breaks around a pasted key are no part of it; a field of nothing else
+    // has nothing to save.
+    const QString key = APIKeyStore::cleanedKey(m_field->text());
     if (key.isEmpty())
         return;
     m_isSaving = true;
@@ -211,7 +212,7 @@ void APIKeyView::render()
         m_field->setReadOnly(m_isSaving || m_savedNotice);
     }
     m_save->setText(m_savedNotice ? tr("Continue") : tr("Save & Continue"));
-    m_save->setEnabled(hasField && !m_field->text().isEmpty() && !m_isSaving);
+    m_save->setEnabled(hasField && !APIKeyStore::cleanedKey(m_field->text()).isEmpty() && !m_isSaving);
     m_save->setShowsActivity(m_isSaving);
     m_save->setAccessibleDescription(m_isSaving ? tr("Saving") : QString());
     // "Skip for Now" stays available while a save runs: the save then only stores the key.

@@ -230,7 +230,7 @@ InstallationView::InstallationView(InstallationState& state, InstallationControl
     m_showLogFile->setObjectName(QStringLiteral("showLogFileButton"));
     connect(m_showLogFile, &QAbstractButton::clicked, this, [this] {
         if (const QString path = logFilePath(); !path.isEmpty())
-            m_platform.revealFile(path);
+            m_platform.revealFile(path, {});
     });
     bottomBar()->addWidget(m_showLogFile);
     m_main = flow::mainButton(QString(), QStringLiteral("mainButton"));

@@ -444,7 +444,7 @@ QStringList LinuxPlatform::showItemsCommandLine(const QString& path)
             QStringLiteral("string:")};
 }
 
-void LinuxPlatform::revealFile(const QString& path)
+void LinuxPlatform::revealFile(const QString& path, RevealAnswer answer)
 {
     // Without a file manager that answers on the session bus, the folder opens instead. The
     // process owns itself and goes once it has ended or failed to start.
@@ -457,16 +457,21 @@ void LinuxPlatform::revealFile(const QString& path)
     process->setStandardOutputFile(QProcess::nullDevice());
     process->setStandardErrorFile(QProcess::nullDevice());
     const QUrl folder = QUrl::fromLocalFile(QFileInfo(path).absolutePath());
-    QObject::connect(process, &QProcess::errorOccurred, process, [process, folder](QProcess::ProcessError error) {
+    // Said once: the folder was opened instead, or nothing answered at all.
+    const auto answered = [folder, answer = std::move(answer)](bool fileManagerShowedIt) {
+        const bool shown = fileManagerShowedIt || QDesktopServices::openUrl(folder);
+        if (answer)
+            answer(shown);
+    };
+    QObject::connect(process, &QProcess::errorOccurred, process, [process, answered](QProcess::ProcessError error) {
         if (error != QProcess::FailedToStart)
             return;
-        QDesktopServices::openUrl(folder);
+        answered(false);
         process->deleteLater();
     });
     QObject::connect(process, &QProcess::finished, process,
-                     [process, folder](int exitCode, QProcess::ExitStatus exitStatus) {
-                         if (exitStatus != QProcess::NormalExit || exitCode != 0)
-                             QDesktopServices::openUrl(folder);
+                     [process, answered](int exitCode, QProcess::ExitStatus exitStatus) {
+                         answered(exitStatus == QProcess::NormalExit && exitCode == 0);
                          process->deleteLater();
                      });
     process->start();

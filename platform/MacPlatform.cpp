@@ -326,11 +326,15 @@ void MacPlatform::openURL(const QUrl& url)
         Platform::openURL(url);
 }
 
-void MacPlatform::revealFile(const QString& path)
+void MacPlatform::revealFile(const QString& path, RevealAnswer answer)
 {
     const QStringList commandLine = revealCommandLine(path);
-    if (!QProcess::startDetached(commandLine.first(), commandLine.mid(1)))
-        Platform::revealFile(path);
+    if (!QProcess::startDetached(commandLine.first(), commandLine.mid(1))) {
+        Platform::revealFile(path, std::move(answer));
+        return;
+    }
+    if (answer)
+        answer(true);
 }
 
 } // namespace qf

@@ -17,7 +17,12 @@ DiskSpace Platform::availableDiskSpace(const QString& path) const
 
 bool Platform::revealFolder(const QString& path) { return QDesktopServices::openUrl(QUrl::fromLocalFile(path)); }
 
-void Platform::revealFile(const QString& path) { revealFolder(QFileInfo(path).absolutePath()); }
+void Platform::revealFile(const QString& path, RevealAnswer answer)
+{
+    const bool shown = revealFolder(QFileInfo(path).absolutePath());
+    if (answer)
+        answer(shown);
+}
 
 void Platform::openURL(const QUrl& url) { QDesktopServices::openUrl(url); }
 

@@ -136,6 +136,9 @@ enum class TerminalAnswer {
 
 // Told once what became of a terminal launch.
 using TerminalOutcome = std::function<void(TerminalAnswer)>;
+// Whether a file manager showed what it was asked to (false: nothing did, so the path should
+// be shown some other way).
+using RevealAnswer = std::function<void(bool shown)>;
 
 // The only place that knows which operating system Quillforge runs on: the application makes
 // one at start (`createNativePlatform()`) and hands it on; tests use a fake.
@@ -201,8 +204,9 @@ public:
     // Shows a folder to the user in the file manager; false when none could be asked to.
     virtual bool revealFolder(const QString& path);
     // Shows a file to the user in the file manager, selected where the file manager can do
-    // that; otherwise its folder.
-    virtual void revealFile(const QString& path);
+    // that; otherwise its folder. `answer` (when given) learns whether anything showed it,
+    // possibly later, on the GUI thread.
+    virtual void revealFile(const QString& path, RevealAnswer answer);
     // Where the whole logs of installations and removals are kept (the folder may not exist
     // yet): on macOS ~/Library/Logs/Quillforge, elsewhere under the user's state folder.
     virtual QString logFolder() const = 0;

@@ -12,6 +12,7 @@ APIKeyStore::APIKeyStore(ShellRunner& shell, SystemDetector& detector) : m_shell
 
 QCoro::Task<Result<QString>> APIKeyStore::save(QString key, CLITool tool)
 {
+    key = cleanedKey(key);
     // Checked before any file or the environment is touched; the key itself is never written
     // to a log, and no command is started for the save.
     if (const std::optional<QString> reason = ProfileWriter::rejectionReason(key))
@@ -39,6 +40,8 @@ QCoro::Task<Result<QString>> APIKeyStore::save(QString key, CLITool tool)
         co_return computedValueNotice(variable, displayedPath(profile.path));
     co_return QString();
 }
+
+QString APIKeyStore::cleanedKey(const QString& pasted) { return pasted.trimmed(); }
 
 QString APIKeyStore::computedValueNotice(const QString& variable, const QString& profile)
 {

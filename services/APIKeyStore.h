@@ -25,7 +25,11 @@ public:
     // (rewriting an existing export line in place, or appending one) and sets it in this
     // process too. What the user should know about the save comes back (nothing: empty), such
     // as a computed value that was left and followed by the new line.
+    // A pasted key loses the blanks and line breaks around it first (the commonest paste
+    // accident); one inside is refused with a sentence that says so.
     QCoro::Task<Result<QString>> save(QString key, CLITool tool);
+    // The key as it is saved: without what surrounds it.
+    static QString cleanedKey(const QString& pasted);
     static QString computedValueNotice(const QString& variable, const QString& profile);
 
     // `path` as the user knows it: "~/.bashrc" for a file in the home folder.

@@ -4,6 +4,7 @@
 
 #include <QLocale>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 
@@ -63,6 +64,9 @@ std::optional<QString> ProfileWriter::rejectionReason(const QString& key)
         return tr("The API key contains a line break. Copy the key again and paste it as one line.");
     if (key.contains(QChar(u'\0')))
         return tr("The API key contains an invisible control character. Copy the key again and paste it.");
+    // No provider's key has blanks inside; one there is a paste that took more than the key.
+    if (std::ranges::any_of(key, [](QChar ch) { return ch.isSpace(); }))
+        return tr("The API key contains a space. Copy only the key and paste it again.");
     return std::nullopt;
 }
 

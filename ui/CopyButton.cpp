@@ -18,8 +18,8 @@ Button::Style buttonStyle(CopyButton::CopyButtonStyle style)
 
 qreal CopyButton::symbolSize(CopyButtonStyle style)
 {
-    // Caption-sized for the regular and bordered styles, a step smaller for the small one.
-    return style == CopyButtonStyle::small ? 9.0 : 11.0;
+    // The size of the caption text style, or of caption 2 for the small one.
+    return (style == CopyButtonStyle::small ? Theme::caption2() : Theme::caption()).pixelSize();
 }
 
 CopyButton::CopyButton(const QString& text, CopyButtonStyle style, std::function<void()> onCopy, QWidget* parent)

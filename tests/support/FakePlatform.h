@@ -60,7 +60,12 @@ public:
         revealed.append(path);
         return fileManagerAnswers;
     }
-    void revealFile(const QString& path) override { revealedFiles.append(path); }
+    void revealFile(const QString& path, RevealAnswer answer) override
+    {
+        revealedFiles.append(path);
+        if (answer)
+            answer(fileManagerAnswers);
+    }
     QString logFolder() const override { return logs; }
     void openURL(const QUrl& url) override { openedURLs.append(url); }
     DeveloperToolsItem developerToolsItem() const override { return developerTools; }

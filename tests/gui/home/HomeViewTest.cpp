@@ -84,6 +84,14 @@ TEST_F(HomeTest, AFirstTimeUserIsWelcomedAndOfferedEveryTool)
         keys << tool.key;
     EXPECT_EQ(keys, (QStringList{QStringLiteral("xcode"), QStringLiteral("developer"), QStringLiteral("homebrew"),
                                  QStringLiteral("node")}));
+    // What is missing says so in words, not by colour alone, and what happens to it next.
+    SystemToolCard* node = card(*view, "node");
+    EXPECT_TRUE(shows(part(node, "missingBadge")));
+    EXPECT_EQ(label(node, "itemNextStep"), QStringLiteral("Installed for you with Gemini CLI or Codex"));
+    EXPECT_EQ(node->accessibleDescription(),
+              QStringLiteral("Not installed, Optional, Installed for you with Gemini CLI or Codex"));
+    EXPECT_TRUE(shows(part(card(*view, "xcode"), "missingBadge")));
+    EXPECT_FALSE(shows(part(card(*view, "xcode"), "itemNextStep"))); // it has its own "Install"
 
     // "Install" moves on to the account screen for that tool.
     test::child<QAbstractButton>(card(*view, CLITool::geminiCLI), QStringLiteral("installButton"))->click();
@@ -104,6 +112,8 @@ TEST_F(HomeTest, AFirstTimeUserIsWelcomedAndOfferedEveryTool)
     // The welcome card's tip follows what the dashboard found.
     const auto tip = [&view] { return label(view.get(), "welcomeTipText"); };
     EXPECT_EQ(tip(), QStringLiteral("New to this? Start with **Xcode CLI Tools**, then try **Claude Code**."));
+    EXPECT_EQ(test::child(view.get(), QStringLiteral("welcomeTipText"))->accessibleName(),
+              QStringLiteral("New to this? Start with Xcode CLI Tools, then try Claude Code."));
     sandbox.installFakes({"xcode-select"});
     view->loadData();
     waitForLoad(*view);
@@ -136,6 +146,8 @@ TEST_F(HomeTest, InstalledToolsAndItemsShowTheirState)
     EXPECT_EQ(version("homebrew"), QStringLiteral("4.2.0"));
     EXPECT_EQ(version("xcode"), QStringLiteral("Ready"));
     EXPECT_EQ(card(*view, "node")->accessibleDescription(), QStringLiteral("Installed, v20.10.0, Optional"));
+    EXPECT_FALSE(shows(part(card(*view, "node"), "missingBadge")));
+    EXPECT_FALSE(shows(part(card(*view, "node"), "itemNextStep")));
     // The projects folder offers "Open"; installed developer tools and the optional items none.
     EXPECT_EQ(card(*view, "developer")->actionButton()->accessibleName(), QStringLiteral("Open Developer Folder"));
     EXPECT_EQ(card(*view, "xcode")->actionButton(), nullptr);

@@ -336,13 +336,19 @@ TEST_F(AfterInstallTest, ASavedKeyLandsInTheProfileTheCaptionNames)
                                            kKey + QStringLiteral("\"\n"));
     EXPECT_FALSE(QFile::exists(QDir::homePath() + QStringLiteral("/.zshrc")));
 
-    // A key of blanks is a key.
+    // Blanks alone are no key; around a pasted key they are dropped, inside one it is refused.
     open(InstallationStep::apiKey, CLITool::geminiCLI);
     typeKey(QStringLiteral("   "));
-    EXPECT_TRUE(button("saveButton")->isEnabled());
+    EXPECT_FALSE(button("saveButton")->isEnabled());
+    keyField()->setText(QStringLiteral(" gm-key gm-key "));
+    click("saveButton");
+    ASSERT_TRUE(QTest::qWaitFor([this] { return shows(test::child(screen(), QStringLiteral("saveError"))); }));
+    EXPECT_EQ(text("saveError"), QStringLiteral("The API key contains a space. Copy only the key and paste it again."));
+    keyField()->setText(QStringLiteral(" \tgm-key\n"));
     saveAndWait();
     EXPECT_EQ(state.currentStep(), InstallationStep::completion);
-    EXPECT_EQ(qgetenv("GEMINI_API_KEY"), QByteArray("   "));
+    EXPECT_EQ(state.apiKey(), QStringLiteral("gm-key"));
+    EXPECT_EQ(qgetenv("GEMINI_API_KEY"), QByteArray("gm-key"));
 
     // A tcsh user: the caption names ~/.tcshrc and the key goes there in tcsh's words.
     platform.terminalShell = QStringLiteral("/usr/bin/tcsh");

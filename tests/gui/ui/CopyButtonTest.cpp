@@ -1,5 +1,6 @@
 #include "CopyButton.h"
 #include "TestSupport.h"
+#include "Theme.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -42,7 +43,9 @@ TEST(CopyButton, StylesDifferInSizeAndChrome)
     CopyButton regular(QStringLiteral("x"), Style::regular);
     CopyButton small(QStringLiteral("x"), Style::small);
     CopyButton bordered(QStringLiteral("x"), Style::bordered);
-    EXPECT_LT(CopyButton::symbolSize(Style::small), CopyButton::symbolSize(Style::regular));
+    // The glyph is as large as the caption text beside it (caption 2 for the small style).
+    EXPECT_EQ(CopyButton::symbolSize(Style::regular), Theme::caption().pixelSize());
+    EXPECT_EQ(CopyButton::symbolSize(Style::small), Theme::caption2().pixelSize());
     // A smaller glyph, never a smaller target.
     for (CopyButton* button : {&regular, &small, &bordered}) {
         EXPECT_GE(button->sizeHint().width(), ui::Button::minimumTarget);

@@ -544,13 +544,22 @@ TEST(LogFolders, TheFileManagerIsAskedToShowTheFile)
     // One item: the file's address, its blank encoded and its comma kept from splitting it.
     EXPECT_EQ(expected[7], q("array:string:file:///home/ada/logs/2026-11-25%2015-20-03%20Install%20a%2Cb.log"));
 
-    LinuxPlatform().revealFile(file);
+    std::optional<bool> shown;
+    LinuxPlatform().revealFile(file, [&shown](bool answer) { shown = answer; });
     const auto read = [&argsFile] {
         QFile recorded(argsFile);
         return recorded.open(QIODevice::ReadOnly) ? QString::fromUtf8(recorded.readAll()) : QString();
     };
-    ASSERT_TRUE(QTest::qWaitFor([&] { return read().endsWith(q("string:\n")); }, 20000));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return shown.has_value(); }, 20000));
+    EXPECT_EQ(shown, true);
     EXPECT_EQ(read(), expected.mid(1).join(QLatin1Char('\n')) + QLatin1Char('\n'));
+
+    // No file manager on the bus and nothing to open the folder with: the caller hears so.
+    ASSERT_TRUE(qf::test::writeExecutable(bin + q("/dbus-send"), "#!/bin/sh\nexit 1\n"));
+    shown.reset();
+    LinuxPlatform().revealFile(file, [&shown](bool answer) { shown = answer; });
+    ASSERT_TRUE(QTest::qWaitFor([&] { return shown.has_value(); }, 20000));
+    EXPECT_EQ(shown, false);
 }
 
 // --- The main window's frame ----------------------------------------------------------------

@@ -100,10 +100,11 @@ TEST(ProfileWriter, ExportLines)
     for (const char* key : {"", "a b", "a$b", "a\"b", "ключ", "a`b`"})
         EXPECT_FALSE(shellExport::isPlainKey(QString::fromUtf8(key))) << key;
 
-    for (const QString& broken : QStringList{QStringLiteral("one\ntwo"), QStringLiteral("one\rtwo"),
-                                             QStringLiteral("one") + QChar(u'\0') + QStringLiteral("two")})
+    for (const QString& broken :
+         QStringList{QStringLiteral("one\ntwo"), QStringLiteral("one\rtwo"), QStringLiteral("one two"),
+                     QStringLiteral("one\ttwo"), QStringLiteral("one") + QChar(u'\0') + QStringLiteral("two")})
         EXPECT_TRUE(ProfileWriter::rejectionReason(broken).has_value());
-    EXPECT_FALSE(ProfileWriter::rejectionReason(QStringLiteral("   ")).has_value());
+    EXPECT_FALSE(ProfileWriter::rejectionReason(QStringLiteral("sk-one_two.3")).has_value());
 }
 
 TEST(ProfileWriter, OnlyAPlainLiteralValueIsEditedAndOnlyThatValue)
@@ -192,8 +193,7 @@ TEST_F(APIKeyStoreTest, FishAndTcshUsersGetTheKeyInTheStartUpFileTheirShellReads
         platform.terminalShell = shell;
         sandbox.setEnv("XDG_CONFIG_HOME", "");
         // A key of every character a shell might act on comes back exactly.
-        for (const QString& key :
-             {QStringLiteral("sk-proj-AB_c.9"), QStringLiteral("it's $HOME `id` !1 \\ \"q\" * (x) ~")}) {
+        for (const QString& key : {QStringLiteral("sk-proj-AB_c.9"), QStringLiteral("it's$HOME`id`!1\\\"q\"*(x)~")}) {
             const Result<QString> saved = save(key, CLITool::codex);
             ASSERT_TRUE(saved.ok()) << saved.error().errorDescription().toStdString();
             EXPECT_EQ(saved.value(), QString());
@@ -276,13 +276,13 @@ TEST_F(APIKeyStoreTest, HostileKeysStayData)
     const QString canary = sandbox.path(QStringLiteral("pwned"));
     const QStringList keys = {
         QStringLiteral("it's"),
-        QStringLiteral("$(touch %1)").arg(canary),
-        QStringLiteral("`touch %1`").arg(canary),
+        // No blanks inside (a key with one is refused): the shell's own separator stands in.
+        QStringLiteral("$(touch${IFS}%1)").arg(canary),
+        QStringLiteral("`touch${IFS}%1`").arg(canary),
         QStringLiteral("a\\nb\\c\\\\d"),
-        QStringLiteral("bang!!x !$"),
-        QStringLiteral("  spaced  out  "),
-        QStringLiteral("\"; touch %1; echo \"").arg(canary),
-        QStringLiteral("'; touch %1; echo '").arg(canary),
+        QStringLiteral("bang!!x!$"),
+        QStringLiteral("\";touch${IFS}%1;echo\"").arg(canary),
+        QStringLiteral("';touch${IFS}%1;echo'").arg(canary),
         QStringLiteral("${HOME}*?[a]"),
         QString::fromUtf8("clé-ключ"),
     };
@@ -316,8 +316,12 @@ TEST_F(APIKeyStoreTest, RefusedSavesTouchNothing)
     EXPECT_TRUE(huge.contains(QStringLiteral("4,096"))) << huge.toStdString();
     EXPECT_EQ(profile(), QByteArray("export GEMINI_API_KEY=\"old\"\n"));
     EXPECT_FALSE(qEnvironmentVariableIsSet("GEMINI_API_KEY"));
+    const QString space = refusal(QStringLiteral("sk-1 sk-1"), CLITool::geminiCLI);
+    EXPECT_TRUE(space.contains(QStringLiteral("contains a space"))) << space.toStdString();
+    EXPECT_EQ(profile(), QByteArray("export GEMINI_API_KEY=\"old\"\n"));
+    // What surrounds a pasted key is no part of it.
     const QString longest(4096, QLatin1Char('k'));
-    ASSERT_TRUE(save(longest, CLITool::geminiCLI).ok());
+    ASSERT_TRUE(save(QStringLiteral(" \t") + longest + QStringLiteral("\r\n"), CLITool::geminiCLI).ok());
     EXPECT_EQ(qgetenv("GEMINI_API_KEY"), longest.toUtf8());
 
     // ~/.zshrc is a folder: no profile exists as a file, and appending to that path fails.
