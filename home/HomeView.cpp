@@ -77,7 +77,7 @@ HomeView::HomeView(InstallationState& state, Services& services, QWidget* parent
     m_scroll->setAccessibleName(tr("Your AI Coding Assistants"));
     vstack(backdrop, 0)->addWidget(m_scroll);
     // The content keeps to a centred column; the backdrop spans the window.
-    auto* column = centredColumn(m_scroll->content(), this, 32, kContentPadding);
+    auto* column = m_column = centredColumn(m_scroll->content(), this, 32, kContentPadding);
 
     // Header: the logo and name, and what this screen is.
     auto* header = vstack(8, sides(spacing::dashboardSide, 20));
@@ -169,6 +169,14 @@ HomeView::HomeView(InstallationState& state, Services& services, QWidget* parent
         aiCards->addWidget(card);
         m_aiCards << card;
     }
+    // The column grows with the window until every tool's description shows whole beside its
+    // actions, and no further: labels stay near what they label.
+    int widest = 0;
+    for (const AIToolCard* card : std::as_const(m_aiCards))
+        widest = std::max(widest, card->widthShowingAll());
+    const int needed = widest + 2 * spacing::dashboardSide + kContentPadding.left() + kContentPadding.right();
+    // An even width centres without a half point to round either way.
+    m_column->setMaximumWidth(std::max(ui::maximumContentWidth, (needed + 1) / 2 * 2));
     m_sectionHeaders << new SectionHeader(tr("AI Assistants"), QStringLiteral("sparkles"), Tint(Role::purple));
     // Beside the header, at its end: what a check for updates found, and the way to check now.
     auto* updateRow = hstack(10);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CLITool.h"
+#include "Layout.h"
 #include "SystemToolAction.h"
 #include "ToolUpdateInfo.h"
 
@@ -46,6 +47,8 @@ public:
     void loadData();
 
     bool isLoading() const { return m_isLoading; }
+    // The most the content column spans: wide enough for every tool's description whole.
+    int contentWidth() const { return m_column->maximumWidth(); }
     bool isFirstTimeUser() const { return m_isFirstTimeUser; }
     const QList<CLITool>& installedTools() const { return m_installedTools; }
     const QList<SystemTool>& systemTools() const { return m_systemTools; }
@@ -113,6 +116,7 @@ private:
     int m_loadGeneration = 0;
 
     ui::ScrollView* m_scroll;
+    ui::CentredColumn* m_column;
     QWidget* m_loadingRow;
     FirstTimeWelcomeCard* m_welcome;
     QList<SystemToolCard*> m_systemCards;

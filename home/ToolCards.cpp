@@ -7,7 +7,10 @@
 #include "Surface.h"
 
 #include <QApplication>
+#include <QBoxLayout>
 #include <QEnterEvent>
+#include <QFontMetricsF>
+#include <QtMath>
 
 namespace qf {
 
@@ -184,7 +187,7 @@ AIToolCard::AIToolCard(CLITool tool, std::function<void()> onOpen, std::function
     m_updateBadge = new StatusBadge(QString(), Tint(Role::accent));
     m_updateBadge->setObjectName(QStringLiteral("updateBadge"));
     second->addWidget(m_updateBadge, 0, Qt::AlignVCenter);
-    auto* description = new Label(tool.toolDescription(), Theme::font(12), Tint(Role::secondary));
+    auto* description = m_description = new Label(tool.toolDescription(), Theme::font(12), Tint(Role::secondary));
     description->setObjectName(QStringLiteral("toolDescription"));
     description->setWrapping(true, 1);
     second->addWidget(description, 1);
@@ -200,7 +203,7 @@ AIToolCard::AIToolCard(CLITool tool, std::function<void()> onOpen, std::function
                               std::move(onOpen));
     m_open->setObjectName(QStringLiteral("openButton"));
     m_open->setAccessibleName(tr("Open %1").arg(tool.displayName()));
-    ui::Button* remove = makeRemoveButton(tool.displayName(), std::move(onUninstall));
+    ui::Button* remove = m_remove = makeRemoveButton(tool.displayName(), std::move(onUninstall));
     m_install = new ActionButton(tr("Install"), QStringLiteral("arrow.down.circle"), Tint(Role::accent), false, false,
                                  std::move(onInstall));
     m_install->setObjectName(QStringLiteral("installButton"));
@@ -265,6 +268,20 @@ void AIToolCard::renderHover(qreal progress)
     else
         setStroke(Tint(Role::clear), 0);
     setChildShadow(m_logo, ShadowStyle{Tint(brand, 0.3), 4 + 4 * progress, {0, 2}}, Shape::rounded(10));
+}
+
+int AIToolCard::widthShowingAll() const
+{
+    const auto* row = qobject_cast<const QBoxLayout*>(layout());
+    const auto* buttons = row ? qobject_cast<const QBoxLayout*>(row->itemAt(row->count() - 1)->layout()) : nullptr;
+    if (!row || !buttons)
+        return 0;
+    const QMargins margins = row->contentsMargins();
+    const int text = qCeil(QFontMetricsF(m_description->font()).horizontalAdvance(m_description->text()));
+    const int actions = m_updateButton->sizeHint().width() + m_open->sizeHint().width() + m_remove->sizeHint().width() +
+                        2 * buttons->spacing();
+    return margins.left() + m_logo->sizeHint().width() + row->spacing() + text + row->spacing() + actions +
+           margins.right();
 }
 
 // MARK: SystemToolCard

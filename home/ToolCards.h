@@ -108,6 +108,9 @@ public:
     // known); both only shown while the tool is installed.
     void setVersions(const std::optional<QString>& installed, const std::optional<QString>& update);
     const std::optional<QString>& availableUpdate() const { return m_update; }
+    // How wide the card must be for its description to show whole beside the most actions it
+    // ever shows (update, open, remove), measured from the texts in their fonts.
+    int widthShowingAll() const;
 
 protected:
     bool canRemove() const override { return m_installed; }
@@ -124,6 +127,8 @@ private:
     StatusBadge* m_badge;
     StatusBadge* m_versionBadge;
     StatusBadge* m_updateBadge;
+    ui::Label* m_description;
+    ui::Button* m_remove;
     ActionButton* m_updateButton;
     ActionButton* m_open;
     ActionButton* m_install;

@@ -60,6 +60,13 @@ public:
     {
     }
 
+    int maximumWidth() const { return m_maximumWidth; }
+    void setMaximumWidth(int maximumWidth)
+    {
+        m_maximumWidth = maximumWidth;
+        this->invalidate();
+    }
+
     void setGeometry(const QRect& room) override { Box::setGeometry(centredSpan(room, m_maximumWidth, centre(room))); }
     int heightForWidth(int width) const override { return Box::heightForWidth(std::min(width, m_maximumWidth)); }
     int minimumHeightForWidth(int width) const override

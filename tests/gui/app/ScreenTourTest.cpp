@@ -312,7 +312,9 @@ protected:
     void expectTheColumn() const
     {
         if (size() == kLarge) {
-            const int width = ui::maximumContentWidth;
+            // The dashboard's column is as wide as its longest description needs.
+            const auto* home = qobject_cast<const HomeView*>(screen());
+            const int width = home ? home->contentWidth() : ui::maximumContentWidth;
             const QRect column((size().width() - width) / 2, 0, width, size().height());
             const Content found = expectWithin(column);
             // As far from the column's left edge as from its right one, and filling it, bar and all.

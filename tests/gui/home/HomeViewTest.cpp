@@ -9,6 +9,7 @@
 
 #include "Badge.h"
 #include "IconTile.h"
+#include "Label.h"
 
 #include <QAbstractButton>
 #include <QDir>
@@ -269,6 +270,25 @@ TEST_F(HomeTest, RemoveButtonsShowWhileHoveredOrFocusedAndMoveNothing)
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     EXPECT_EQ(QApplication::focusWidget(), part(homebrew, "removeButton"));
     EXPECT_TRUE(shows(homebrew->removeButton()));
+}
+
+TEST_F(HomeTest, InAWideWindowEveryDescriptionShowsWholeInAColumnNearItsActions)
+{
+    sandbox.installFakes({"gemini"});
+    auto view = showHome();
+    for (const int width : {1280, 1440}) {
+        view->resize(width, 900);
+        test::settle();
+        for (CLITool tool : CLITool::allCases()) {
+            const auto* description = test::child<ui::Label>(card(*view, tool), QStringLiteral("toolDescription"));
+            EXPECT_GE(description->width(), QFontMetrics(description->font()).horizontalAdvance(description->text()))
+                << tool.rawValue().toStdString() << " at " << width;
+        }
+    }
+    // Wider than the other screens' column only as far as the descriptions need.
+    EXPECT_GT(view->contentWidth(), ui::maximumContentWidth);
+    EXPECT_LT(view->contentWidth(), 1280 - 2 * 11);
+    EXPECT_LE(test::child(view.get(), QStringLiteral("aiToolCard.codex"))->width(), view->contentWidth());
 }
 
 TEST_F(HomeTest, WithoutHomebrewInTheSetupTheStepsAreNumberedWithoutIt)
