@@ -182,16 +182,14 @@ AIToolCard::AIToolCard(CLITool tool, std::function<void()> onOpen, std::function
     title->addWidget(m_versionBadge, 0, Qt::AlignVCenter);
     title->addStretch(1);
     text->addLayout(title);
-    // A newer version is told first on the line below, where the description gives way to it.
-    auto* second = hstack(8);
-    m_updateBadge = new StatusBadge(QString(), Tint(Role::accent));
-    m_updateBadge->setObjectName(QStringLiteral("updateBadge"));
-    second->addWidget(m_updateBadge, 0, Qt::AlignVCenter);
     auto* description = m_description = new Label(tool.toolDescription(), Theme::font(12), Tint(Role::secondary));
     description->setObjectName(QStringLiteral("toolDescription"));
     description->setWrapping(true, 1);
-    second->addWidget(description, 1);
-    text->addLayout(second);
+    text->addWidget(description);
+    // A newer version is told on a line of its own, so that the description keeps its room.
+    m_updateBadge = new StatusBadge(QString(), Tint(Role::accent));
+    m_updateBadge->setObjectName(QStringLiteral("updateBadge"));
+    text->addWidget(m_updateBadge, 0, Qt::AlignLeft);
     row->addLayout(text, 1);
 
     auto* buttons = hstack(8);

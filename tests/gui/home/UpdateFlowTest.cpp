@@ -94,6 +94,11 @@ TEST_F(UpdateFlowTest, ANewerVersionIsOfferedOnTheCardAndUpdatedWhereTheToolWasI
     EXPECT_EQ(text(card, "updateBadge"), QStringLiteral("Update available: 0.61.0"));
     EXPECT_EQ(test::child(card, QStringLiteral("updateButton"))->accessibleName(), QStringLiteral("Update Gemini CLI"));
     EXPECT_TRUE(card->accessibleDescription().contains(QStringLiteral("Update available: 0.61.0")));
+    // The news has a line of its own: in a wide window the description still shows whole.
+    view->resize(1280, 900);
+    test::settle();
+    const auto* description = test::child<ui::Label>(card, QStringLiteral("toolDescription"));
+    EXPECT_GE(description->width(), QFontMetrics(description->font()).horizontalAdvance(description->text()));
     // A tool that is not installed has nothing to update.
     const auto* claude = test::child<AIToolCard>(view.get(), QStringLiteral("aiToolCard.claudeCode"));
     EXPECT_FALSE(shown(claude, "updateButton"));
