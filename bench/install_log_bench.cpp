@@ -157,7 +157,7 @@ public:
                                    {qf::SetupStepType::installTool}};
         co_return steps;
     }
-    QCoro::Task<qf::Result<void>> runSetup(qf::CLITool, StepUpdate update, Output output) override
+    QCoro::Task<qf::Result<void>> runSetup(qf::CLITool, StepUpdate update, Output output, qf::Cancellation) override
     {
         update(qf::SetupStepType::installTool, qf::SetupStepStatus::inProgress, std::nullopt);
         co_await pour(m_chunks, output, m_samples);

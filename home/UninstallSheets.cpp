@@ -86,7 +86,12 @@ RemovalSheet::RemovalSheet(const QString& name, const LogBook& logs, std::functi
     auto* buttons = hstack(12, sides(spacing::sheetSide));
     buttons->addStretch(1);
     m_cancel = sheetButton(tr("Cancel"), Button::Style::bordered, "cancelButton");
-    connect(m_cancel, &QAbstractButton::clicked, this, [this] { QDialog::reject(); });
+    connect(m_cancel, &QAbstractButton::clicked, this, [this] {
+        if (stopsOnCancel())
+            m_run->cancel();
+        else
+            QDialog::reject();
+    });
     m_uninstall = sheetButton(tr("Uninstall"), Button::Style::prominent, "uninstallButton");
     m_uninstall->setTint(Tint(Role::red));
     connect(m_uninstall, &QAbstractButton::clicked, this, [this] { start(); });
@@ -121,10 +126,12 @@ void RemovalSheet::setDetailsShown(bool shown)
 
 void RemovalSheet::reject()
 {
-    // Escape and the window's close button act as "Cancel", and only while it is offered.
-    if (m_cancel->isVisibleTo(this))
+    // Escape and the window's close button act as "Cancel", and only while it closes the sheet.
+    if (m_cancel->isVisibleTo(this) && !stopsOnCancel())
         QDialog::reject();
 }
+
+bool RemovalSheet::stopsOnCancel() const { return isUninstalling() && !canLeaveWhileRunning(); }
 
 void RemovalSheet::completeAndClose()
 {
@@ -198,7 +205,6 @@ void RemovalSheet::render()
     m_errorRow->setVisible(errorMessage.has_value());
     m_error->setText(errorMessage.value_or(QString()));
 
-    m_cancel->setVisible(!uninstalling || canLeaveWhileRunning());
     m_uninstall->setVisible(hasCommand() && confirming);
     m_done->setVisible(complete);
     // "OK" acknowledges a note; with nothing to say there is nothing to acknowledge.
@@ -225,7 +231,10 @@ UninstallSheet::UninstallSheet(CLITool tool, ToolRemover& remover, const LogBook
     render();
 }
 
-void UninstallSheet::performUninstall() { run()->follow(m_remover.uninstall(m_tool, run()->sink())); }
+void UninstallSheet::performUninstall()
+{
+    run()->follow(m_remover.uninstall(m_tool, run()->sink(), run()->cancellation()));
+}
 
 // MARK: SystemToolUninstallSheet
 

@@ -28,10 +28,11 @@ class SymbolView;
 // icon (a spinner while the removal runs, a check when it is done, a bin before), a title and
 // a description, the log, the error row and the buttons. The states:
 //   confirm       "Cancel" and "Uninstall" (or "OK" for an item that has only a note)
-//   uninstalling  the spinner; no button, except where the removal may be left to run
+//   uninstalling  the spinner and "Cancel": it stops the removal, or, where the removal may be
+//                 left to run, closes the sheet
 //   complete      "Uninstall Complete", "Cancel" and "Done" (which reloads the dashboard)
 //   failed        the error row, "Cancel" and "Uninstall" again
-// Escape acts as "Cancel" whenever "Cancel" is shown, and does nothing otherwise. The removal
+// Escape acts as "Cancel" whenever "Cancel" closes the sheet, and does nothing otherwise. The removal
 // itself is an OperationRun; the log on the sheet keeps the newest part of a long one, and each
 // removal's whole log goes to a file.
 class RemovalSheet : public QDialog {
@@ -44,7 +45,7 @@ public:
     QString output() const;
     // The button of the state the sheet is in, which has the focus as the state begins:
     // "Uninstall" (or "OK", or "Uninstall" again after a failure), "Done" once complete,
-    // "Cancel" while a removal that may be left runs.
+    // "Cancel" while a removal runs.
     ui::Button* mainButton() const;
 
     void reject() override;
@@ -58,7 +59,8 @@ protected:
     virtual void performUninstall() = 0;
     virtual QString description() const = 0;
     virtual bool hasCommand() const { return true; }
-    // whether "Cancel" stays while the removal runs (the removal then goes on without the sheet);
+    // whether "Cancel" closes the sheet while the removal runs (the removal then goes on without
+    // the sheet) rather than stopping the removal (through `run()->cancellation()`);
     virtual bool canLeaveWhileRunning() const { return false; }
     // whether the log is a disclosure ("Details") or always open.
     virtual bool isLogCollapsible() const { return true; }
@@ -70,6 +72,8 @@ protected:
 
 private:
     void start();
+    // Whether "Cancel" now stops the removal rather than closing the sheet.
+    bool stopsOnCancel() const;
     void setDetailsShown(bool shown);
     // "Done": the dashboard reloads, and the sheet closes.
     void completeAndClose();

@@ -63,11 +63,22 @@ UpdateSheet::UpdateSheet(CLITool tool, std::optional<QString> currentVersion, QS
     m_description = header.description;
     column->addLayout(header.layout);
 
-    // The live log, with a way to copy all of it.
+    // The live log behind "Details", with a way to copy all of it.
     m_logSection = new QWidget;
     m_logSection->setObjectName(QStringLiteral("logSection"));
     auto* logColumn = vstack(m_logSection, 6);
     auto* logHeader = hstack(8);
+    m_details = new Button(tr("Details"), Button::Style::plain);
+    m_details->setObjectName(QStringLiteral("detailsButton"));
+    m_details->setTitleFont(Theme::font(13, QFont::DemiBold));
+    m_details->setSpacing(6);
+    connect(m_details, &QAbstractButton::clicked, this, [this] {
+        m_showLog = !m_showLog;
+        render();
+        if (m_showLog)
+            m_log->scrollToEnd();
+    });
+    logHeader->addWidget(m_details, 0, Qt::AlignVCenter);
     logHeader->addStretch(1);
     Button* copyLog = CopyButton::makeCopyLogButton();
     connect(copyLog, &QAbstractButton::clicked, this, [this] { QGuiApplication::clipboard()->setText(m_output); });
@@ -90,7 +101,13 @@ UpdateSheet::UpdateSheet(CLITool tool, std::optional<QString> currentVersion, QS
     auto* buttons = hstack(12, sides(spacing::sheetSide));
     buttons->addStretch(1);
     m_cancel = sheetButton(tr("Cancel"), Button::Style::bordered, "cancelButton");
-    connect(m_cancel, &QAbstractButton::clicked, this, [this] { QDialog::reject(); });
+    connect(m_cancel, &QAbstractButton::clicked, this, [this] {
+        // While the update runs, "Cancel" stops it; otherwise it closes the sheet.
+        if (m_run->isRunning())
+            m_run->cancel();
+        else
+            QDialog::reject();
+    });
     m_update = sheetButton(tr("Update"), Button::Style::prominent, "updateButton");
     connect(m_update, &QAbstractButton::clicked, this, [this] { start(false); });
     m_retry = sheetButton(tr("Try Again"), Button::Style::prominent, "tryAgainButton");
@@ -125,8 +142,8 @@ Button* UpdateSheet::mainButton() const
 
 void UpdateSheet::reject()
 {
-    // Escape and the window's close button act as "Cancel", and only while it is offered.
-    if (m_cancel->isVisibleTo(this))
+    // Escape and the window's close button act as "Cancel", and only while it closes the sheet.
+    if (m_cancel->isVisibleTo(this) && !m_run->isRunning())
         QDialog::reject();
 }
 
@@ -143,8 +160,8 @@ void UpdateSheet::start(bool installNodeFirst)
     m_run->begin(tr("Update %1").arg(m_tool.displayName()));
     // The update may outlive the sheet (the window closes): its output then goes to the log
     // file only.
-    auto task = installNodeFirst ? m_updater.installNodeThenUpdate(m_tool, m_run->sink())
-                                 : m_updater.update(m_tool, m_run->sink());
+    auto task = installNodeFirst ? m_updater.installNodeThenUpdate(m_tool, m_run->sink(), m_run->cancellation())
+                                 : m_updater.update(m_tool, m_run->sink(), m_run->cancellation());
     m_run->follow<UpdateOutcome>(std::move(task),
                                  [this](const UpdateOutcome& outcome) { m_verified = outcome.newVersion; });
 }
@@ -162,7 +179,7 @@ void UpdateSheet::render()
 {
     const QString name = m_tool.displayName();
     const QWidget* focused = focusWidget();
-    const bool focusOnButton = !focused || qobject_cast<const Button*>(focused) != nullptr;
+    const bool focusOnButton = !focused || (qobject_cast<const Button*>(focused) != nullptr && focused != m_details);
 
     const Phase phase = m_run->phase();
     const bool complete = phase == Phase::complete;
@@ -212,7 +229,9 @@ void UpdateSheet::render()
         break;
     case Phase::failed:
         // An older Node.js is not a failure of the update, only what has to come first.
-        m_title->setText(needsNode ? tr("A Newer Node.js Is Needed") : tr("Update Failed"));
+        m_title->setText(needsNode                                         ? tr("A Newer Node.js Is Needed")
+                         : m_run->error() && m_run->error()->isCancelled() ? tr("Update Stopped")
+                                                                           : tr("Update Failed"));
         break;
     }
     m_description->setVisible(!failed);
@@ -220,10 +239,14 @@ void UpdateSheet::render()
     // An update refused for an older Node.js ran nothing: its log would only repeat the
     // sentence the sheet shows.
     m_logSection->setVisible(m_run->hasOutput() && phase != Phase::ready && !(failed && needsNode));
+    m_details->setLeadingSymbol(m_showLog ? QStringLiteral("chevron.down") : QStringLiteral("chevron.right"), 10,
+                                SymbolWeight::bold);
+    m_details->setAccessibleDescription(m_showLog ? tr("Shown") : tr("Hidden"));
+    m_log->setVisible(m_showLog);
     m_errorRow->setVisible(errorMessage.has_value());
     m_error->setText(errorMessage.value_or(QString()));
 
-    m_cancel->setVisible(!updating && !complete);
+    m_cancel->setVisible(!complete);
     m_update->setVisible(phase == Phase::ready);
     m_retry->setVisible(failed && !needsNode);
     m_installNode->setVisible(failed && needsNode);

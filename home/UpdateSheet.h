@@ -25,16 +25,16 @@ class SymbolView;
 // Confirms and follows the update of one AI tool, a window-modal sheet of the main window like
 // the removal sheets. The states:
 //   confirm   "Update <tool>?", the current and the new version, "Cancel" and "Update"
-//   updating  the spinner and the live log with "Copy Log"; nothing to press, the update
-//             runs to its end
+//   updating  the spinner, the live log behind "Details" with "Copy Log", and "Cancel", which
+//             stops the update
 //   complete  "Update Complete" with the version the tool now reports, and "Done" (which
 //             reloads the dashboard)
-//   failed    "Update Failed", the reason (and whether the version before still works), the
-//             log, "Cancel" and "Try Again"; when a newer Node.js is what is missing, "Install
-//             Node.js and Update" instead, the installer's way to Node.js
+//   failed    "Update Failed" (or "Update Stopped"), the reason (and whether the version before
+//             still works), the log, "Cancel" and "Try Again"; when a newer Node.js is what is
+//             missing, "Install Node.js and Update" instead, the installer's way to Node.js
 // A cancelled password dialog goes back to the confirmation. Escape acts as "Cancel" whenever
-// "Cancel" is shown. The update itself is an OperationRun (the confirmation is its `ready`);
-// each run's whole log also goes to a file of the log book.
+// "Cancel" closes the sheet; it never stops an update. The update itself is an OperationRun
+// (the confirmation is its `ready`); each run's whole log also goes to a file of the log book.
 class UpdateSheet : public QDialog {
     Q_OBJECT
 
@@ -51,6 +51,8 @@ public:
     // Whether the failure is a Node.js too old for the new version.
     bool needsNewerNode() const;
     QString output() const { return m_output; }
+    // Whether the log is open below "Details".
+    bool showsLog() const { return m_showLog; }
     // The button of the state the sheet is in, which has the focus as the state begins.
     ui::Button* mainButton() const;
 
@@ -71,6 +73,7 @@ private:
     QString m_verified;
     // The whole log of the newest run, for "Copy Log".
     QString m_output;
+    bool m_showLog = false;
 
     ui::IconTile* m_icon;
     ui::ActivityIndicator* m_spinner;
@@ -78,6 +81,7 @@ private:
     ui::Label* m_title;
     ui::Label* m_description;
     QWidget* m_logSection;
+    ui::Button* m_details;
     ui::LogView* m_log;
     QWidget* m_errorRow;
     ui::Label* m_error;

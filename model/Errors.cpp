@@ -143,7 +143,7 @@ ServiceError::ServiceError(InstallationError error, const SystemWording& wording
 
 QString ServiceError::plainDescription() const
 {
-    if (const ShellError* shell = shellError())
+    if (const ShellError* shell = shellError(); shell && !m_plain)
         return shell->plainDescription();
     return m_description;
 }
@@ -180,6 +180,15 @@ ServiceError ServiceError::needsNewerNode(const QString& text, int requiredMajor
     ServiceError error;
     error.m_description = text;
     error.m_requiredNodeMajor = requiredMajor;
+    return error;
+}
+
+ServiceError ServiceError::stopped(const QString& text)
+{
+    ServiceError error;
+    error.m_cause = ShellError::cancellation();
+    error.m_description = text;
+    error.m_plain = true;
     return error;
 }
 

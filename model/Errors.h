@@ -88,6 +88,8 @@ public:
     // An update that needs Node.js `requiredMajor` or newer, which this computer does not have
     // yet; `text` says so. Nothing was run.
     static ServiceError needsNewerNode(const QString& text, int requiredMajor);
+    // The user stopped the operation; `text` says so and what of it stays.
+    static ServiceError stopped(const QString& text);
 
     const QString& errorDescription() const { return m_description; }
     // What a person reads: for a failed command, one plain sentence of what happened and what
@@ -99,6 +101,12 @@ public:
         if (const auto* error = std::get_if<InstallationError>(&m_cause))
             return *error;
         return std::nullopt;
+    }
+    // Whether whoever started the operation stopped it (a command cancelled, or `stopped`).
+    bool isCancelled() const
+    {
+        const ShellError* error = shellError();
+        return error && error->kind() == ShellError::cancelled;
     }
     // Whether the user said no: nothing failed, nothing happened.
     bool isDeclined() const { return m_declined; }
@@ -114,6 +122,8 @@ private:
     std::variant<std::monostate, ShellError, InstallationError> m_cause;
     QString m_description;
     bool m_declined = false;
+    // The description is what a person reads (a stop, in the operation's own words).
+    bool m_plain = false;
     int m_requiredNodeMajor = 0;
 };
 

@@ -21,6 +21,8 @@ QCoro::Task<> InstallationController::startInstallation()
     // as long as the window; should it go first, its attempts end at their next step.
     const QPointer<InstallationController> self(this);
     const int attempt = ++m_attempt;
+    const Cancellation cancellation;
+    m_cancellation = cancellation;
     m_run.detach();
     const std::optional<CLITool> tool = m_state.selectedTool();
     if (!tool) {
@@ -51,7 +53,7 @@ QCoro::Task<> InstallationController::startInstallation()
         co_return;
     }
     m_state.setSetupSteps(steps);
-    m_run.begin(QStringLiteral("Install ") + tool->displayName());
+    m_run.begin(QStringLiteral("Install ") + tool->displayName(), cancellation);
 
     // The callbacks are named before the run: GCC 12 destroys some temporaries of a co_await
     // expression twice. The file gets the whole run, also once a newer attempt has taken over
@@ -62,7 +64,7 @@ QCoro::Task<> InstallationController::startInstallation()
             self->updateStep(type, status, details);
     };
     const SetupService::Output onOutput = m_run.sink();
-    const Result<void> result = co_await m_installer.runSetup(*tool, onStepUpdate, onOutput);
+    const Result<void> result = co_await m_installer.runSetup(*tool, onStepUpdate, onOutput, cancellation);
     if (!self)
         co_return;
     if (isCurrent(attempt)) {
@@ -72,7 +74,7 @@ QCoro::Task<> InstallationController::startInstallation()
             m_state.setCaveats(m_installer.caveats());
             setComplete(true);
         } else {
-            markUnfinishedStepsFailed();
+            markUnfinishedStepsFailed(result.error().isCancelled());
             m_run.fail(result.error());
             m_state.setErrorMessage(m_run.errorMessage());
         }
@@ -100,13 +102,20 @@ void InstallationController::updateStep(SetupStepType type, const SetupStepStatu
     m_state.setSetupSteps(steps);
 }
 
-void InstallationController::markUnfinishedStepsFailed()
+void InstallationController::markUnfinishedStepsFailed(bool stopped)
 {
     const QList<SetupStep> steps = m_state.setupSteps();
+    const SetupStepStatus status = SetupStepStatus::failure(stopped ? tr("Stopped") : tr("Failed"));
     for (const SetupStep& step : steps) {
         if (step.status.kind() == SetupStepStatus::inProgress)
-            updateStep(step.type, SetupStepStatus::failure(tr("Failed")), std::nullopt);
+            updateStep(step.type, status, std::nullopt);
     }
+}
+
+void InstallationController::cancelInstallation()
+{
+    if (m_isInstalling)
+        m_cancellation.cancel();
 }
 
 void InstallationController::setInstalling(bool installing)

@@ -29,7 +29,11 @@ public:
 
     virtual ~SetupService() = default;
     virtual QCoro::Task<QList<SetupStep>> setupSteps(CLITool tool) = 0;
-    virtual QCoro::Task<Result<void>> runSetup(CLITool tool, StepUpdate onStepUpdate, Output onOutput) = 0;
+    // Once `cancellation` is cancelled, the command running stops, no later step starts and
+    // what an unfinished step began is undone; the run then fails with a ServiceError that
+    // isCancelled() and says what of it stays.
+    virtual QCoro::Task<Result<void>> runSetup(CLITool tool, StepUpdate onStepUpdate, Output onOutput,
+                                               Cancellation cancellation) = 0;
     // What the last run that succeeded left for the user to know (nothing by default).
     virtual QStringList caveats() const { return {}; }
 
@@ -66,6 +70,11 @@ public:
     // fails: a failure becomes the state's error message.
     QCoro::Task<> startInstallation();
 
+    // The user stops the current attempt's run (its "Cancel"): it fails, saying what stays.
+    void cancelInstallation();
+    // The current attempt ended because the user stopped it.
+    bool wasCancelled() const { return m_run.error() && m_run.error()->isCancelled(); }
+
     // Sets the status of the step of `type`, and its details when some are given. A type that
     // is not in the list changes nothing.
     void updateStep(SetupStepType type, const SetupStepStatus& status, const std::optional<QString>& details);
@@ -82,14 +91,17 @@ private:
     void setInstalling(bool installing);
     void setComplete(bool complete);
     bool isCurrent(int attempt) const { return attempt == m_attempt; }
-    // The installer leaves a step that failed inside a command in progress; it failed.
-    void markUnfinishedStepsFailed();
+    // The installer leaves a step that failed inside a command in progress; it failed, or
+    // was stopped.
+    void markUnfinishedStepsFailed(bool stopped);
 
     InstallationState& m_state;
     SetupService& m_installer;
     // The current attempt's run: its log file, and its output and failure on their way to the
     // state.
     OperationRun m_run;
+    // What stops the current attempt.
+    Cancellation m_cancellation;
     int m_attempt = 0;
     bool m_running = false;
     bool m_isInstalling = false;

@@ -18,9 +18,10 @@ std::optional<QString> OperationRun::errorMessage() const
     return m_error->plainDescription();
 }
 
-void OperationRun::begin(const QString& title)
+void OperationRun::begin(const QString& title, Cancellation cancellation)
 {
     ++m_generation;
+    m_cancellation = std::move(cancellation);
     m_error.reset();
     m_hasOutput = false;
     m_logFile = m_logs.start(title);
@@ -57,10 +58,18 @@ void OperationRun::fail(const ServiceError& error)
         return;
     }
     // The screen says it plainly; the log keeps the command's own words.
-    if (error.errorDescription() != error.plainDescription())
+    if (error.isCancelled())
+        sink()(QStringLiteral("\nCancelled by the user\n"));
+    else if (error.errorDescription() != error.plainDescription())
         sink()(QStringLiteral("\nError: ") + error.errorDescription() + QLatin1Char('\n'));
     m_error = error;
     setPhase(Phase::failed);
+}
+
+void OperationRun::cancel()
+{
+    if (isRunning())
+        m_cancellation.cancel();
 }
 
 void OperationRun::detach()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Cancellation.h"
 #include "Errors.h"
 
 #include <QCoro/QCoroTask>
@@ -44,13 +45,19 @@ public:
 
     // A new run, with a new log file for `title` ("Update Gemini CLI"): the error and the
     // output of the one before go, and whatever it still says goes to its own file only.
-    void begin(const QString& title);
+    // `cancellation` is what stops it (a new one unless given).
+    void begin(const QString& title, Cancellation cancellation = Cancellation());
+    // What stops the newest run: hand it to the operation.
+    Cancellation cancellation() const { return m_cancellation; }
+    // The user stops the newest run: the operation stops and ends, failing with
+    // ServiceError::isCancelled().
+    void cancel();
     // Where the output of the newest run goes from a command that may outlive this object: the
     // run's file always, and `outputAppended` while it is still the newest run.
     Output sink();
     void succeed();
     // The run failed with `error`: the log gets the whole description when the plain sentence
-    // leaves something out.
+    // leaves something out, and a run the user stopped ends with saying so.
     void fail(const ServiceError& error);
     // Nothing runs for the screen any more (an attempt that has no run yet): back to ready with
     // no log; a run still going on writes its own file only.
@@ -92,6 +99,7 @@ private:
     std::shared_ptr<LogFile> m_logFile;
     // Counts the runs, so that an earlier one's output stays in its file.
     int m_generation = 0;
+    Cancellation m_cancellation;
 };
 
 } // namespace qf

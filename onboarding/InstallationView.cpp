@@ -212,8 +212,9 @@ InstallationView::InstallationView(InstallationState& state, InstallationControl
     auto* errorColumn = vstack(m_errorCard, 12, around(20));
     errorColumn->addWidget(new SymbolView(QStringLiteral("exclamationmark.triangle.fill"), 22, Tint(Role::red)), 0,
                            Qt::AlignHCenter);
-    auto* errorTitle = flow::centredText(tr("Installation Failed"), Theme::headline());
-    errorColumn->addWidget(errorTitle);
+    m_errorTitle = flow::centredText(tr("Installation Failed"), Theme::headline());
+    m_errorTitle->setObjectName(QStringLiteral("errorTitle"));
+    errorColumn->addWidget(m_errorTitle);
     m_errorText = flow::centredText(QString(), Theme::caption());
     m_errorText->setObjectName(QStringLiteral("errorMessage"));
     m_errorText->setTextInteractionFlags(Qt::TextSelectableByMouse);
@@ -233,6 +234,11 @@ InstallationView::InstallationView(InstallationState& state, InstallationControl
             m_platform.revealFile(path, {});
     });
     bottomBar()->addWidget(m_showLogFile);
+    // Stops the run going on, with every command it started.
+    m_cancel = new Button(tr("Cancel"), Button::Style::bordered, Button::Size::large);
+    m_cancel->setObjectName(QStringLiteral("cancelButton"));
+    connect(m_cancel, &QAbstractButton::clicked, this, [this] { m_controller.cancelInstallation(); });
+    bottomBar()->addWidget(m_cancel);
     m_main = flow::mainButton(QString(), QStringLiteral("mainButton"));
     connect(m_main, &QAbstractButton::clicked, this, [this] {
         if (m_controller.installationComplete())
@@ -269,6 +275,11 @@ void InstallationView::start()
 {
     // The run belongs to the controller; this screen only watches it.
     QCoro::connect(m_controller.startInstallation(), this, [] {});
+}
+
+QWidget* InstallationView::mainControl() const
+{
+    return m_controller.isInstalling() ? m_cancel : FlowScreen::mainControl();
 }
 
 void InstallationView::render()
@@ -314,11 +325,19 @@ void InstallationView::render()
             scrollView()->ensureWidgetVisible(appearing, 0, 24);
         });
     }
+    const bool stopped = m_controller.wasCancelled();
+    m_errorTitle->setText(stopped ? tr("Installation Stopped") : tr("Installation Failed"));
+    m_errorCard->setAccessibleName(m_errorTitle->text());
     m_errorText->setText(error.value_or(QString()));
     m_errorCard->setAccessibleDescription(error.value_or(QString()));
 
     m_back->setVisible(!installing);
     m_showLogFile->setVisible(error.has_value() && !installing && !logFilePath().isEmpty());
+    // "Cancel" hands the focus back to the screen before it goes, so that it moves on to the
+    // main button rather than to the next control in line.
+    if (!installing && window()->focusWidget() == m_cancel)
+        setFocus(Qt::OtherFocusReason);
+    m_cancel->setVisible(installing);
     m_main->setVisible(complete || error.has_value());
     m_main->setTitle(complete ? tr("Continue") : tr("Try Again"));
     focusMainControl();

@@ -52,7 +52,8 @@ public:
 // with their live status, the log behind "Details" (with "Copy Log", which copies the whole
 // log even when only its newest part is shown), and at the end either "Installation Complete!"
 // with "Continue" (and what the run left to know) or the error with "Try Again" and "Show Log File". The run itself
-// belongs to the controller, so leaving the screen never stops it.
+// belongs to the controller, so leaving the screen never stops it; "Cancel", which has the focus while the run goes
+// on, does: the screen then says what of the run stays, with "Try Again".
 class InstallationView : public FlowScreen {
     Q_OBJECT
 
@@ -67,6 +68,7 @@ public:
 
 protected:
     void appeared() override { start(); }
+    QWidget* mainControl() const override;
 
 private:
     void start();
@@ -97,11 +99,13 @@ private:
     ui::SymbolView* m_detailsChevron;
     ui::LogView* m_log;
     ui::RoundedCard* m_errorCard;
+    ui::Label* m_errorTitle;
     ui::Label* m_errorText;
     QVBoxLayout* m_caveatRow;
     QWidget* m_caveats = nullptr;
     ui::Button* m_back;
     ui::Button* m_showLogFile;
+    ui::Button* m_cancel;
     ui::Button* m_main;
     ui::CopiedToastPresenter* m_toast;
 };

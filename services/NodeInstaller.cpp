@@ -20,7 +20,7 @@ NodeInstaller::NodeInstaller(ShellRunner& shell, SystemDetector& detector, const
 {
 }
 
-QCoro::Task<Result<void>> NodeInstaller::install(Output onOutput)
+QCoro::Task<Result<void>> NodeInstaller::install(Output onOutput, Cancellation cancellation)
 {
     const Result<QString> brew = co_await m_shell.findProgram(QStringLiteral("brew"));
     Result<QString> installed = QString();
@@ -28,7 +28,7 @@ QCoro::Task<Result<void>> NodeInstaller::install(Output onOutput)
         onOutput(QStringLiteral("Installing Node.js via Homebrew...\n"));
         const QString activity = tr("The installation of Node.js through Homebrew");
         const Result<void> ran = co_await m_shell.runWithStreaming(QStringLiteral("brew install node"), onOutput,
-                                                                   nullptr, activity);
+                                                                   nullptr, activity, cancellation);
         if (!ran) {
             m_shell.invalidateEnvironment(); // it may have got part of the way
             co_return ran.error();
@@ -36,7 +36,7 @@ QCoro::Task<Result<void>> NodeInstaller::install(Output onOutput)
         installed = co_await m_shell.run(QStringLiteral("\"$(brew --prefix)/bin/node\" --version"));
     } else {
         onOutput(QStringLiteral("Installing Node.js via official installer...\n"));
-        installed = co_await installRelease(onOutput);
+        installed = co_await installRelease(onOutput, cancellation);
         if (!installed)
             co_return installed.error();
     }
@@ -61,7 +61,7 @@ QCoro::Task<Result<void>> NodeInstaller::install(Output onOutput)
     co_return Result<void>();
 }
 
-QCoro::Task<Result<QString>> NodeInstaller::installRelease(Output log)
+QCoro::Task<Result<QString>> NodeInstaller::installRelease(Output log, Cancellation cancellation)
 {
     const std::optional<NodeReleaseTarget> target = m_platform.nodeReleaseTarget();
     if (!target) {
@@ -72,7 +72,8 @@ QCoro::Task<Result<QString>> NodeInstaller::installRelease(Output log)
 
     // The newest long-term support release, as the release index says today.
     const QString indexURL = base + QStringLiteral("/index.json");
-    const Result<QString> index = co_await m_shell.run(QStringLiteral("curl -fsSL ") + shellQuote(indexURL));
+    const Result<QString> index = co_await m_shell.run(QStringLiteral("curl -fsSL ") + shellQuote(indexURL),
+                                                       ShellRunner::defaultTimeoutSeconds, cancellation);
     if (!index) {
         co_return ServiceError::message(
             tr("Could not download the list of Node.js releases. %1").arg(index.error().plainDescription()));
@@ -96,15 +97,16 @@ QCoro::Task<Result<QString>> NodeInstaller::installRelease(Output log)
     const QString download = QStringLiteral("curl -fsSL -o ") + shellQuote(archive) + QLatin1Char(' ') +
                              shellQuote(folder + release->archiveName);
     const QString downloading = tr("The download of %1").arg(release->archiveName);
-    const Result<void> fetched = co_await m_shell.runWithStreaming(download, log, nullptr, downloading);
+    const Result<void> fetched = co_await m_shell.runWithStreaming(download, log, nullptr, downloading, cancellation);
     if (!fetched) {
         co_return ServiceError::message(
             tr("Could not download %1. %2").arg(release->archiveName, fetched.error().plainDescription()));
     }
 
     // Nothing is unpacked unless the archive is byte for byte the one nodejs.org published.
-    const Result<QString> sums =
-        co_await m_shell.run(QStringLiteral("curl -fsSL ") + shellQuote(folder + QStringLiteral("SHASUMS256.txt")));
+    const Result<QString> sums = co_await m_shell.run(
+        QStringLiteral("curl -fsSL ") + shellQuote(folder + QStringLiteral("SHASUMS256.txt")),
+        ShellRunner::defaultTimeoutSeconds, cancellation);
     if (!sums) {
         co_return ServiceError::message(tr("Could not download the checksums of Node.js %1. %2")
                                             .arg(release->version, sums.error().plainDescription()));
@@ -123,6 +125,8 @@ QCoro::Task<Result<QString>> NodeInstaller::installRelease(Output log)
                                            "was installed. Please try again."));
     }
     log(QStringLiteral("SHA-256 checksum verified\n"));
+    if (cancellation.isCancelled())
+        co_return ShellError::cancellation();
 
     // The archive is unpacked into a hidden folder inside ~/.local, on the same volume, and its
     // files are moved into place only once all of it is there: a full disk or a broken archive
@@ -152,10 +156,13 @@ QCoro::Task<Result<QString>> NodeInstaller::installRelease(Output log)
         log(text);
     };
     const QString unpacking = tr("Unpacking Node.js %1").arg(release->version);
-    const Result<void> unpacked = co_await m_shell.runWithStreaming(unpack, unpackOutput, nullptr, unpacking);
-    if (!unpacked) {
+    const Result<void> unpacked = co_await m_shell.runWithStreaming(unpack, unpackOutput, nullptr, unpacking,
+                                                                    cancellation);
+    if (!unpacked || cancellation.isCancelled()) {
         QFuture<void> abandoning = QtConcurrent::run(stagedInstall::abandon, staging.value());
         co_await abandoning;
+        if (unpacked)
+            co_return ShellError::cancellation();
         const ShellError* error = unpacked.error().shellError();
         if (!error || error->kind() != ShellError::commandFailed || tarOutput.trimmed().isEmpty())
             co_return unpacked.error();

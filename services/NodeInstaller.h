@@ -28,12 +28,14 @@ public:
 
     // Through Homebrew when it is there, otherwise from the official Node.js release. The log
     // says what was installed, and which Node.js commands find first when that is another one.
-    QCoro::Task<Result<void>> install(Output onOutput);
+    // Once `cancellation` is cancelled the command running stops and nothing more starts: a
+    // release unpacked half-way is removed, and ~/.local stays as it was.
+    QCoro::Task<Result<void>> install(Output onOutput, Cancellation cancellation = Cancellation());
     // The newest long-term support release of Node.js for this computer, from the release
     // archive, into ~/.local: no administrator rights needed. The archive's checksum is
     // checked against the release's published list before anything is unpacked. The version
     // installed comes back.
-    QCoro::Task<Result<QString>> installRelease(Output onOutput);
+    QCoro::Task<Result<QString>> installRelease(Output onOutput, Cancellation cancellation = Cancellation());
     // Where Node.js releases are fetched from (tests point it at a folder of their own).
     void setDistribution(const QString& baseAddress) { m_distribution = baseAddress; }
 

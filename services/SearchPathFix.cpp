@@ -19,7 +19,7 @@ SearchPathFix::SearchPathFix(ShellRunner& shell, SystemDetector& detector, const
 {
 }
 
-QCoro::Task<bool> SearchPathFix::newTerminalSearches(QString folder)
+QCoro::Task<bool> SearchPathFix::newTerminalSearches(QString folder, Cancellation cancellation)
 {
     // The line runs as a new terminal window's shell would run it: the user's shell, reading
     // its start-up files, from the search path the application was started with. It writes
@@ -36,7 +36,7 @@ QCoro::Task<bool> SearchPathFix::newTerminalSearches(QString folder)
     for (const QString& word :
          m_platform.terminalShellInvocation(QStringLiteral("printf '%s' \"$PATH\" > \"$QUILLFORGE_PATH_FILE\"")))
         line += QLatin1Char(' ') + shellQuote(word);
-    const Result<QString> ran = co_await m_shell.run(line, 30);
+    const Result<QString> ran = co_await m_shell.run(line, 30, cancellation);
     QFile written(file);
     if (!ran || !written.open(QIODevice::ReadOnly))
         co_return false;
@@ -53,11 +53,11 @@ QCoro::Task<bool> SearchPathFix::newTerminalSearches(QString folder)
     co_return false;
 }
 
-QCoro::Task<std::optional<QString>> SearchPathFix::addLocalPrograms(CLITool tool, Output log)
+QCoro::Task<std::optional<QString>> SearchPathFix::addLocalPrograms(CLITool tool, Output log, Cancellation cancellation)
 {
     const QString folder = QDir::homePath() + QStringLiteral("/.local/bin");
-    const bool searched = co_await newTerminalSearches(folder);
-    if (searched)
+    const bool searched = co_await newTerminalSearches(folder, cancellation);
+    if (searched || cancellation.isCancelled())
         co_return std::nullopt;
     // The start-up file of the user's own shell, in that shell's words: a fish or tcsh user
     // never reads ~/.zshrc.
@@ -75,7 +75,9 @@ QCoro::Task<std::optional<QString>> SearchPathFix::addLocalPrograms(CLITool tool
                 .arg(tool.displayName(), shown, line));
         co_return terminalCaveat(tool, shown, line);
     }
-    const bool found = co_await newTerminalSearches(folder);
+    const bool found = co_await newTerminalSearches(folder, cancellation);
+    if (cancellation.isCancelled())
+        co_return std::nullopt;
     if (found && added.value())
         log(QStringLiteral("Added ~/.local/bin to the search path in %1, so new terminal windows find %2.\n")
                 .arg(shown, tool.displayName()));

@@ -27,12 +27,14 @@ public:
     SearchPathFix& operator=(const SearchPathFix&) = delete;
 
     // Whether the shell of a new terminal window has `folder` on its search path.
-    QCoro::Task<bool> newTerminalSearches(QString folder);
+    QCoro::Task<bool> newTerminalSearches(QString folder, Cancellation cancellation = Cancellation());
 
     // Adds the block that puts ~/.local/bin on the search path to the shell profile when a new
     // terminal window would not find `tool` there, and says what it did in the log. When a new
-    // window still will not find it, the caveat that says what to do comes back.
-    QCoro::Task<std::optional<QString>> addLocalPrograms(CLITool tool, Output log);
+    // window still will not find it, the caveat that says what to do comes back. Once
+    // `cancellation` is cancelled nothing more is asked or written.
+    QCoro::Task<std::optional<QString>> addLocalPrograms(CLITool tool, Output log,
+                                                         Cancellation cancellation = Cancellation());
 
     // The caveat for a tool that a new terminal window will not find.
     static QString terminalCaveat(CLITool tool, const QString& profile, const QString& line);

@@ -132,25 +132,6 @@ ShellRunner::~ShellRunner() { shutDown(); }
 
 void ShellRunner::shutDown() { m_runs.close(); }
 
-Cancellation::Cancellation() : m_state(std::make_shared<State>()) {}
-
-Cancellation::Cancellation(QObject* context) : Cancellation()
-{
-    if (context)
-        QObject::connect(context, &QObject::destroyed, [state = m_state] { cancel(*state); });
-}
-
-void Cancellation::cancel() const { cancel(*m_state); }
-
-void Cancellation::cancel(State& state)
-{
-    state.cancelled = true;
-    for (const QPointer<ProcessRun>& run : std::exchange(state.runs, {})) {
-        if (run)
-            run->cancel();
-    }
-}
-
 QString ShellRunner::searchPath(const QString& home, QStringList nvmVersionNames, const QStringList& fixedDirectories,
                                 const std::optional<QString>& inheritedPath)
 {
@@ -326,9 +307,7 @@ QCoro::Task<ProcessOutcome> ShellRunner::runProcess(ProcessRun::Options options,
         cancelled.kind = ProcessOutcome::cancelled;
         co_return cancelled;
     }
-    std::vector<QPointer<ProcessRun>>& running = cancellation.m_state->runs;
-    std::erase_if(running, [](const QPointer<ProcessRun>& run) { return run.isNull(); });
-    running.emplace_back(process);
+    cancellation.whileAlive(process, [process] { process->cancel(); });
     ProcessOutcome outcome = co_await process->outcome();
     co_return outcome;
 }

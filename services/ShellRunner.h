@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Cancellation.h"
 #include "Errors.h"
 #include "LoginEnvironment.h"
 #include "ProcessRun.h"
@@ -18,28 +19,6 @@
 namespace qf {
 
 class Platform;
-
-// A handle on the commands started with it, for whoever may want them stopped (a screen's
-// Cancel): `cancel()` stops the one running, with its whole process group, and a command
-// started with it later never starts; their callers get ShellError::cancelled. Copies share
-// one state. Tied to a context object, it is cancelled when the context goes.
-class Cancellation {
-public:
-    Cancellation();
-    explicit Cancellation(QObject* context);
-
-    void cancel() const;
-    bool isCancelled() const { return m_state->cancelled; }
-
-private:
-    friend class ShellRunner;
-    struct State {
-        bool cancelled = false;
-        std::vector<QPointer<ProcessRun>> runs;
-    };
-    static void cancel(State& state);
-    std::shared_ptr<State> m_state;
-};
 
 // Runs one shell command line at a time as a child process, in the user's home folder, with
 // the environment of the user's terminal and a search path that also covers Node.js versions

@@ -67,13 +67,44 @@ QCoro::Task<ToolInstaller::GitCheck> ToolInstaller::checkGit(Output onOutput)
     co_return GitCheck{true, version};
 }
 
-QCoro::Task<Result<void>> ToolInstaller::runSetup(CLITool tool, StepUpdate report, Output log)
+QCoro::Task<Result<void>> ToolInstaller::runSetup(CLITool tool, StepUpdate report, Output log,
+                                                  Cancellation cancellation)
 {
     m_caveats.clear();
+    m_madeDeveloperFolder = false;
+    m_installedNode = false;
+    m_installedTool = false;
+    const Result<void> result = co_await runSteps(tool, report, log, cancellation);
+    // A run that ended anyway (the last step was done) stands; a stopped one says what stays.
+    if (result || !cancellation.isCancelled())
+        co_return result;
+    if (m_madeDeveloperFolder) {
+        // Made by this run moments ago; only an empty folder is taken back.
+        QDir().rmdir(developerFolderPath());
+    }
+    co_return ServiceError::stopped(stoppedMessage(tool));
+}
+
+QString ToolInstaller::stoppedMessage(CLITool tool) const
+{
+    if (m_installedTool && m_installedNode) {
+        return tr("The installation was stopped. Node.js and %1, installed before that, stay.").arg(tool.displayName());
+    }
+    if (m_installedTool)
+        return tr("The installation was stopped. %1, installed before that, stays.").arg(tool.displayName());
+    if (m_installedNode)
+        return tr("The installation was stopped. Node.js, installed before that, stays.");
+    return tr("The installation was stopped. Nothing was changed.");
+}
+
+QCoro::Task<Result<void>> ToolInstaller::runSteps(CLITool tool, StepUpdate report, Output log,
+                                                  Cancellation cancellation)
+{
     // 1. The projects folder. A folder that cannot be created is reported and setup goes on.
     report(SetupStepType::createDeveloperFolder, SetupStepStatus::inProgress, std::nullopt);
     switch (prepareDeveloperFolder(log)) {
     case FolderCreation::created:
+        m_madeDeveloperFolder = true;
         report(SetupStepType::createDeveloperFolder, SetupStepStatus::completed, QStringLiteral("Created"));
         break;
     case FolderCreation::alreadyThere:
@@ -88,6 +119,8 @@ QCoro::Task<Result<void>> ToolInstaller::runSetup(CLITool tool, StepUpdate repor
     // 2. git.
     report(SetupStepType::checkGit, SetupStepStatus::inProgress, std::nullopt);
     const GitCheck git = co_await checkGit(log);
+    if (cancellation.isCancelled())
+        co_return ShellError::cancellation();
     if (!git.found) {
         report(SetupStepType::checkGit, SetupStepStatus::failure(QStringLiteral("Not found")), std::nullopt);
         co_return failure(InstallationError::gitNotFound);
@@ -98,13 +131,18 @@ QCoro::Task<Result<void>> ToolInstaller::runSetup(CLITool tool, StepUpdate repor
     if (tool.requiresNodeJS()) {
         const int minimum = co_await m_detector.requiredNodeMajor(tool);
         const NodeCheck before = co_await m_detector.checkNodeJS(minimum);
+        if (cancellation.isCancelled())
+            co_return ShellError::cancellation();
         if (before.isInstalled && before.meetsRequirement) {
             report(SetupStepType::installNode, SetupStepStatus::skipped, before.version);
         } else {
             report(SetupStepType::installNode, SetupStepStatus::inProgress, std::nullopt);
-            const Result<void> node = co_await m_node.install(log);
+            const Result<void> node = co_await m_node.install(log, cancellation);
             if (!node)
                 co_return node;
+            m_installedNode = true;
+            if (cancellation.isCancelled())
+                co_return ShellError::cancellation();
             // The Node.js that commands find now must be new enough: an older one that still
             // comes first on the search path would run the tool and fail.
             const NodeCheck after = co_await m_detector.checkNodeJS(minimum);
@@ -138,7 +176,8 @@ QCoro::Task<Result<void>> ToolInstaller::runSetup(CLITool tool, StepUpdate repor
         // Without write access to npm's global folder the install would need administrator
         // rights; the user's own ~/.local needs none. Only this one command is told so: the
         // user's npm settings stay as they are.
-        const Result<QString> prefix = co_await m_shell.run(QStringLiteral("npm prefix -g"));
+        const Result<QString> prefix = co_await m_shell.run(QStringLiteral("npm prefix -g"),
+                                                            ShellRunner::defaultTimeoutSeconds, cancellation);
         if (prefix && !prefix.value().isEmpty() && !isWritableNpmPrefix(prefix.value())) {
             log(QStringLiteral("npm's global folder %1 is not writable for your user, so %2 goes into ~/.local "
                                "instead (for this installation only; your npm settings stay as they are).\n")
@@ -152,7 +191,8 @@ QCoro::Task<Result<void>> ToolInstaller::runSetup(CLITool tool, StepUpdate repor
         // The tools run without their install scripts (ignore-scripts is harmless), and npm's own
         // lines about scripts it was not told to allow stay in the log. Only npm set to refuse
         // such scripts can break an installation.
-        const Result<QString> strict = co_await m_shell.run(QStringLiteral("npm config get strict-allow-scripts"));
+        const Result<QString> strict = co_await m_shell.run(QStringLiteral("npm config get strict-allow-scripts"),
+                                                            ShellRunner::defaultTimeoutSeconds, cancellation);
         if (strict && strict.value().trimmed() == QLatin1String("true")) {
             m_caveats << tr("npm is set to refuse install scripts it was not told to allow (strict-allow-scripts), "
                             "so parts of %1 may be missing. If it does not start, run \"npm config delete "
@@ -161,13 +201,19 @@ QCoro::Task<Result<void>> ToolInstaller::runSetup(CLITool tool, StepUpdate repor
         }
     }
     const QString activity = tr("The installation of %1").arg(tool.displayName());
-    const Result<void> installed = co_await m_shell.runWithStreaming(installCommand, log, nullptr, activity);
+    const Result<void> installed = co_await m_shell.runWithStreaming(installCommand, log, nullptr, activity,
+                                                                     cancellation);
     if (!installed)
         co_return installed;
+    m_installedTool = true;
+    if (cancellation.isCancelled())
+        co_return ShellError::cancellation();
 
     // 5. Verification.
     log(QStringLiteral("\nVerifying installation...\n"));
     const std::optional<QString> found = co_await m_detector.findTool(tool);
+    if (cancellation.isCancelled())
+        co_return ShellError::cancellation();
     if (!found) {
         report(SetupStepType::installTool, SetupStepStatus::failure(QStringLiteral("Verification failed")),
                std::nullopt);
@@ -181,7 +227,9 @@ QCoro::Task<Result<void>> ToolInstaller::runSetup(CLITool tool, StepUpdate repor
         local = node && node.value().startsWith(localPrograms);
     }
     if (local) {
-        const std::optional<QString> caveat = co_await m_searchPath.addLocalPrograms(tool, log);
+        const std::optional<QString> caveat = co_await m_searchPath.addLocalPrograms(tool, log, cancellation);
+        if (cancellation.isCancelled())
+            co_return ShellError::cancellation();
         if (caveat)
             m_caveats << *caveat;
     }

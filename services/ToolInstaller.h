@@ -35,7 +35,11 @@ public:
     ToolInstaller& operator=(const ToolInstaller&) = delete;
 
     QCoro::Task<QList<SetupStep>> setupSteps(CLITool tool) override;
-    QCoro::Task<Result<void>> runSetup(CLITool tool, StepUpdate onStepUpdate, Output onOutput) override;
+    // A run that is cancelled takes back the ~/Developer folder it made while it is still empty
+    // (Node.js unpacked half-way never reaches ~/.local) and says what stays: Node.js, or the
+    // tool, once installed.
+    QCoro::Task<Result<void>> runSetup(CLITool tool, StepUpdate onStepUpdate, Output onOutput,
+                                       Cancellation cancellation) override;
     // A new terminal window that will not find the tool, an older Node.js found first, npm
     // set to skip install scripts: each in words, with what to do.
     QStringList caveats() const override { return m_caveats; }
@@ -48,6 +52,10 @@ public:
     static bool isWritableNpmPrefix(const QString& prefix);
 
 private:
+    // The steps of `runSetup`, each started only while `cancellation` is not cancelled.
+    QCoro::Task<Result<void>> runSteps(CLITool tool, StepUpdate report, Output log, Cancellation cancellation);
+    // What a stopped run says: what of it stays.
+    QString stoppedMessage(CLITool tool) const;
     // Makes ~/Developer unless something is there, and says which in the log.
     FolderCreation::Outcome prepareDeveloperFolder(const Output& onOutput);
     ServiceError failure(InstallationError error) const { return {error, m_platform.wording()}; }
@@ -58,6 +66,10 @@ private:
     NodeInstaller& m_node;
     SearchPathFix& m_searchPath;
     QStringList m_caveats;
+    // What the run going on has done that stays should it be stopped.
+    bool m_madeDeveloperFolder = false;
+    bool m_installedNode = false;
+    bool m_installedTool = false;
 };
 
 } // namespace qf

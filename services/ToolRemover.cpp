@@ -9,14 +9,32 @@ namespace qf {
 
 ToolRemover::ToolRemover(ShellRunner& shell, const Platform& platform) : m_shell(shell), m_platform(platform) {}
 
-QCoro::Task<Result<void>> ToolRemover::uninstall(CLITool tool, Output log)
+QCoro::Task<Result<void>> ToolRemover::uninstall(CLITool tool, Output log, Cancellation cancellation)
+{
+    const Result<void> removed = co_await remove(tool, log, cancellation);
+    if (removed || !cancellation.isCancelled())
+        co_return removed;
+    // Stopped on its way: whatever it removed is gone, and the search says whether the tool is.
+    const Result<QString> found = co_await m_shell.findProgram(tool.commandName());
+    if (found) {
+        co_return ServiceError::stopped(
+            tr("The removal was stopped, and %1 is still found. Uninstall again to remove what is left of it.")
+                .arg(tool.displayName()));
+    }
+    co_return ServiceError::stopped(tr("The removal was stopped, but %1 was already removed.").arg(tool.displayName()));
+}
+
+QCoro::Task<Result<void>> ToolRemover::remove(CLITool tool, Output log, Cancellation cancellation)
 {
     log(QStringLiteral("Uninstalling ") + tool.displayName() + QStringLiteral("...\n"));
     // The removal line walks nvm's versions with a glob. In zsh a glob that matches nothing
     // aborts the whole line, so without nvm nothing after the loop would run (for Claude Code:
     // neither removal of its folders); with NOMATCH off the loop is simply skipped, as in sh.
-    const Result<QString> removal = co_await m_shell.run(QStringLiteral("setopt nonomatch; ") +
-                                                         tool.uninstallCommand(m_platform.globalNpmPrograms()));
+    const Result<QString> removal = co_await m_shell.run(
+        QStringLiteral("setopt nonomatch; ") + tool.uninstallCommand(m_platform.globalNpmPrograms()),
+        ShellRunner::defaultTimeoutSeconds, cancellation);
+    if (cancellation.isCancelled())
+        co_return ShellError::cancellation();
     if (removal) {
         if (!removal.value().isEmpty())
             log(removal.value() + QLatin1Char('\n'));
@@ -47,7 +65,9 @@ QCoro::Task<Result<void>> ToolRemover::uninstall(CLITool tool, Output log)
             }
             const QString command = m_platform.administratorCommand(line);
             const QString activity = tr("The removal of %1").arg(tool.displayName());
-            const Result<void> ran = co_await m_shell.runWithStreaming(command, log, nullptr, activity);
+            const Result<void> ran = co_await m_shell.runWithStreaming(command, log, nullptr, activity, cancellation);
+            if (cancellation.isCancelled())
+                co_return ShellError::cancellation();
             const Result<void> removed = administratorRemovalResult(ran, tool.displayName());
             if (!removed) {
                 if (removed.error().isDeclined())

@@ -27,10 +27,14 @@ public:
 
     // What the removal did is told in the log, leftovers included. It fails only when the user
     // cancelled the password dialog, or when the search for the tool afterwards could not run,
-    // so that nobody is told a tool is gone without looking.
-    QCoro::Task<Result<void>> uninstall(CLITool tool, Output onOutput);
+    // so that nobody is told a tool is gone without looking. Once `cancellation` is cancelled,
+    // the command running stops and nothing more starts: the removal fails with a ServiceError
+    // that isCancelled() and says whether the tool is still found.
+    QCoro::Task<Result<void>> uninstall(CLITool tool, Output onOutput, Cancellation cancellation = Cancellation());
 
 private:
+    QCoro::Task<Result<void>> remove(CLITool tool, Output log, Cancellation cancellation);
+
     ShellRunner& m_shell;
     const Platform& m_platform;
 };

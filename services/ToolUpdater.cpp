@@ -90,7 +90,40 @@ QCoro::Task<QString> ToolUpdater::updateCommand(CLITool tool, UpdateRoute route,
     co_return m_platform.administratorCommand(line);
 }
 
-QCoro::Task<Result<UpdateOutcome>> ToolUpdater::update(CLITool tool, Output log)
+QCoro::Task<Result<UpdateOutcome>> ToolUpdater::update(CLITool tool, Output log, Cancellation cancellation)
+{
+    const auto progress = std::make_shared<Progress>();
+    Result<UpdateOutcome> updated = co_await bringUpToDate(tool, log, cancellation, progress);
+    if (updated || !cancellation.isCancelled())
+        co_return updated;
+    ServiceError stopped = co_await stoppedUpdate(tool, progress);
+    co_return stopped;
+}
+
+QCoro::Task<ServiceError> ToolUpdater::stoppedUpdate(CLITool tool, std::shared_ptr<Progress> progress)
+{
+    const QString name = tool.displayName();
+    if (progress->commandStarted) {
+        // The update's command was stopped on its way: the tool is asked how it is now.
+        const std::optional<QString> now = co_await m_checker.installedVersion(tool);
+        if (!now) {
+            co_return ServiceError::stopped(
+                tr("The update was stopped, and %1 no longer starts. Install it again from the dashboard.").arg(name));
+        }
+        if (*now != progress->before) {
+            m_checker.forget(tool);
+            m_shell.invalidateEnvironment();
+            co_return ServiceError::stopped(
+                tr("The update was stopped, but %1 %2 was already in place and starts.").arg(name, *now));
+        }
+    }
+    if (progress->nodeInstalled)
+        co_return ServiceError::stopped(tr("The update was stopped. Node.js, installed before that, stays."));
+    co_return ServiceError::stopped(tr("The update was stopped. Nothing was changed."));
+}
+
+QCoro::Task<Result<UpdateOutcome>> ToolUpdater::bringUpToDate(CLITool tool, Output log, Cancellation cancellation,
+                                                              std::shared_ptr<Progress> progress)
 {
     const QString name = tool.displayName();
     const UpdateRoute where = co_await route(tool);
@@ -106,6 +139,7 @@ QCoro::Task<Result<UpdateOutcome>> ToolUpdater::update(CLITool tool, Output log)
         co_return ServiceError::message(
             tr("%1 does not start, so it cannot be updated. Install it again from the dashboard.").arg(name));
     }
+    progress->before = *before;
     log(QStringLiteral("Updating %1 %2 (%3)...\n").arg(name, *before, where.command));
 
     // The newest version as the registry says it now: the one whose Node.js requirement counts.
@@ -139,8 +173,13 @@ QCoro::Task<Result<UpdateOutcome>> ToolUpdater::update(CLITool tool, Output log)
         log(QStringLiteral("Updating %1 in %2 needs administrator rights.\n").arg(name, where.prefix));
     const QString command = co_await updateCommand(tool, where, latest->version);
     const QString activity = tr("The update of %1").arg(name);
-    const Result<void> ran = co_await m_shell.runWithStreaming(command, log, nullptr, activity);
+    if (cancellation.isCancelled())
+        co_return ShellError::cancellation();
+    progress->commandStarted = true;
+    const Result<void> ran = co_await m_shell.runWithStreaming(command, log, nullptr, activity, cancellation);
     const Result<void> updated = where.kind == UpdateRoute::npmAsAdmin ? administratorUpdateResult(ran, name) : ran;
+    if (cancellation.isCancelled())
+        co_return ShellError::cancellation();
     if (!updated) {
         if (updated.error().isDeclined())
             co_return updated.error();
@@ -181,12 +220,23 @@ QCoro::Task<ServiceError> ToolUpdater::failedUpdate(CLITool tool, ServiceError f
                                         .arg(name, failure.plainDescription(), previous));
 }
 
-QCoro::Task<Result<UpdateOutcome>> ToolUpdater::installNodeThenUpdate(CLITool tool, Output log)
+QCoro::Task<Result<UpdateOutcome>> ToolUpdater::installNodeThenUpdate(CLITool tool, Output log,
+                                                                      Cancellation cancellation)
 {
-    const Result<void> node = co_await m_node.install(log);
+    const auto progress = std::make_shared<Progress>();
+    const Result<void> node = co_await m_node.install(log, cancellation);
+    if (!node && cancellation.isCancelled()) {
+        ServiceError stopped = co_await stoppedUpdate(tool, progress);
+        co_return stopped;
+    }
     if (!node)
         co_return node.error();
-    Result<UpdateOutcome> updated = co_await update(tool, log);
+    progress->nodeInstalled = true;
+    Result<UpdateOutcome> updated = co_await bringUpToDate(tool, log, cancellation, progress);
+    if (!updated && cancellation.isCancelled()) {
+        ServiceError stopped = co_await stoppedUpdate(tool, progress);
+        co_return stopped;
+    }
     if (!updated && updated.error().requiredNodeMajor() > 0) {
         // Installed, yet an older Node.js comes first: installing again would not help.
         const QList<NodeInstall> installs = co_await m_detector.findNodeInstalls();

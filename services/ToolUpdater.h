@@ -13,6 +13,7 @@
 #include <QString>
 
 #include <functional>
+#include <memory>
 
 namespace qf {
 
@@ -81,15 +82,30 @@ public:
     // message a person can read, when the tool is not there or not from npm or its maker's
     // installer, when the newest version cannot be learned, when it needs a newer Node.js
     // (requiredNodeMajor() says which), when the password dialog was cancelled (isDeclined()),
-    // or when the update failed or the tool does not report a newer version afterwards.
-    QCoro::Task<Result<UpdateOutcome>> update(CLITool tool, Output onOutput);
+    // or when the update failed or the tool does not report a newer version afterwards. Once
+    // `cancellation` is cancelled, the command running stops and nothing more starts: the
+    // update fails with a ServiceError that isCancelled() and says what stays.
+    QCoro::Task<Result<UpdateOutcome>> update(CLITool tool, Output onOutput,
+                                              Cancellation cancellation = Cancellation());
     // Installs the newest long-term Node.js as the installer would (NodeInstaller::install),
     // then updates `tool`: the way on after `update` asked for a newer Node.js.
-    QCoro::Task<Result<UpdateOutcome>> installNodeThenUpdate(CLITool tool, Output onOutput);
+    QCoro::Task<Result<UpdateOutcome>> installNodeThenUpdate(CLITool tool, Output onOutput,
+                                                             Cancellation cancellation = Cancellation());
     // How `tool` would be updated now.
     QCoro::Task<UpdateRoute> route(CLITool tool);
 
 private:
+    // How far an update got, for what a stopped one says.
+    struct Progress {
+        QString before;
+        bool commandStarted = false;
+        bool nodeInstalled = false;
+    };
+    // `update`, telling `progress` how far it got.
+    QCoro::Task<Result<UpdateOutcome>> bringUpToDate(CLITool tool, Output log, Cancellation cancellation,
+                                                     std::shared_ptr<Progress> progress);
+    // What an update stopped after `progress` says of `tool`.
+    QCoro::Task<ServiceError> stoppedUpdate(CLITool tool, std::shared_ptr<Progress> progress);
     // The line that updates `tool` to `version` along `route`.
     QCoro::Task<QString> updateCommand(CLITool tool, UpdateRoute route, QString version);
     // The error of an update that failed with `failure`, saying whether the version before

@@ -48,7 +48,7 @@ TEST(GeminiEndToEnd, InstalledWithoutAdministratorRightsFoundByTheTerminalAndRem
                         .arg(type.rawValue(), status.label(),
                              details ? QStringLiteral(" (") + *details + u')' : QString()));
             },
-            output),
+            output, Cancellation()),
         kInstallLimitMs);
     ASSERT_TRUE(installed.has_value());
     ASSERT_TRUE(installed->ok()) << installed->error().errorDescription().toStdString();

@@ -11,6 +11,8 @@
 #include <QFileInfo>
 #include <QPalette>
 
+#include <csignal>
+
 #include <unistd.h>
 
 namespace qf::test {
@@ -93,6 +95,15 @@ bool hasVisiblePixels(const QImage& image)
         }
     }
     return false;
+}
+
+bool processEnded(long long pid)
+{
+    QFile stat(QStringLiteral("/proc/%1/stat").arg(pid));
+    if (!stat.open(QIODevice::ReadOnly))
+        return ::kill(pid_t(pid), 0) != 0;
+    const QByteArray line = stat.readAll();
+    return line.mid(line.lastIndexOf(')') + 2, 1) == "Z";
 }
 
 } // namespace qf::test

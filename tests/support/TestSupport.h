@@ -49,4 +49,7 @@ QList<QWidget*> focusableControls(const QWidget* root);
 // True when some pixel of `image` is not fully transparent.
 bool hasVisiblePixels(const QImage& image);
 
+// Whether the process `pid` is gone, or only a zombie waiting for whoever adopted it.
+bool processEnded(long long pid);
+
 } // namespace qf::test

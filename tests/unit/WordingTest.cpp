@@ -90,7 +90,7 @@ TEST(Wording, ASetupWithoutGitOnLinuxSaysWhatToInstall)
     QString log;
     const auto result = test::await(machine.services.installer.runSetup(
         CLITool::claudeCode, [](SetupStepType, const SetupStepStatus&, const std::optional<QString>&) {},
-        [&](const QString& text) { log += text; }));
+        [&](const QString& text) { log += text; }, Cancellation()));
     ASSERT_TRUE(result.has_value());
     ASSERT_FALSE(result->ok());
     EXPECT_EQ(result->error().installationError(), InstallationError::gitNotFound);

@@ -2,6 +2,7 @@
 // in a sheet: the badge, the controls' names, the quiet check offline, and the sheet's states.
 #include "HomeView.h"
 #include "InstallationState.h"
+#include "LogFile.h"
 #include "TestMachine.h"
 #include "TestSupport.h"
 #include "ToolCards.h"
@@ -130,7 +131,6 @@ TEST_F(UpdateFlowTest, ANewerVersionIsOfferedOnTheCardAndUpdatedWhereTheToolWasI
     press(sheet, "tryAgainButton");
     EXPECT_FALSE(sheet->errorMessage().has_value());
     EXPECT_EQ(sheet->phase(), UpdateSheet::Phase::running);
-    EXPECT_FALSE(shown(sheet, "cancelButton")); // it runs to its end
     waitForPhaseChange(*sheet);
     ASSERT_EQ(sheet->phase(), UpdateSheet::Phase::complete) << sheet->errorMessage().value_or(QString()).toStdString();
     EXPECT_EQ(text(sheet, "sheetTitle"), QStringLiteral("Update Complete"));
@@ -189,4 +189,41 @@ TEST_F(UpdateFlowTest, AnUpdateNeedingANewerNodeOffersTheNodeRouteInsteadOfTryin
     EXPECT_FALSE(shown(sheet, "logSection")); // it would say the same sentence again
     EXPECT_EQ(sheet->mainButton()->objectName(), QStringLiteral("installNodeButton"));
     EXPECT_FALSE(shown(sheet, "tryAgainButton"));
+}
+
+TEST_F(UpdateFlowTest, CancelStopsTheUpdateWithItsCommandAndTryAgainUpdates)
+{
+    sandbox.setEnv("FAKE_NPM_SCRIPT", "echo $$ > \"$FAKE_STATE/npm.pid\"; exec sleep 600");
+    auto view = showHome();
+    press(geminiCard(*view), "updateButton");
+    UpdateSheet* sheet = view->updateSheet();
+    ASSERT_NE(sheet, nullptr);
+    press(sheet, "updateButton");
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !sandbox.readState("npm.pid").isEmpty(); }, 20000));
+    const long long npm = sandbox.readState("npm.pid").trimmed().toLongLong();
+    // The log waits behind "Details"; "Cancel" is the button of the running update.
+    EXPECT_TRUE(shown(sheet, "logSection"));
+    EXPECT_FALSE(shown(sheet, "logView"));
+    EXPECT_EQ(sheet->mainButton()->objectName(), QStringLiteral("cancelButton"));
+    EXPECT_EQ(sheet->focusWidget(), sheet->mainButton());
+    press(sheet, "detailsButton");
+    EXPECT_TRUE(shown(sheet, "logView"));
+
+    press(sheet, "cancelButton");
+    waitForPhaseChange(*sheet);
+    EXPECT_TRUE(QTest::qWaitFor([npm] { return test::processEnded(npm); }, 5000)) << "npm outlived the cancel";
+    ASSERT_EQ(sheet->phase(), UpdateSheet::Phase::failed);
+    EXPECT_EQ(text(sheet, "sheetTitle"), QStringLiteral("Update Stopped"));
+    EXPECT_EQ(sheet->errorMessage(), QStringLiteral("The update was stopped. Nothing was changed."));
+    EXPECT_TRUE(sheet->output().endsWith(QStringLiteral("\nCancelled by the user\n")));
+    const QStringList files = LogBook::logFiles(platform.logs);
+    ASSERT_EQ(files.size(), 1);
+    QFile file(platform.logs + QLatin1Char('/') + files.first());
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(file.readAll().endsWith("\nCancelled by the user\n"));
+
+    sandbox.setEnv("FAKE_NPM_SCRIPT", "");
+    press(sheet, "tryAgainButton");
+    waitForPhaseChange(*sheet);
+    EXPECT_EQ(sheet->phase(), UpdateSheet::Phase::complete) << sheet->errorMessage().value_or(QString()).toStdString();
 }

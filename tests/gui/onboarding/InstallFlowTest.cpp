@@ -289,6 +289,42 @@ TEST_F(InstallFlowTest, LeavingDuringARunAndComingBackIsSafe)
     EXPECT_EQ(state.installationOutput().count(QStringLiteral("Installing Codex")), 1);
 }
 
+TEST_F(InstallFlowTest, CancelStopsTheRunWithItsCommandsAndTryAgainInstalls)
+{
+    // npm hangs in a process of its own, which says who it is.
+    sandbox.installFakes({"git", "npm", "node"});
+    sandbox.setEnv("FAKE_NPM_SCRIPT", "echo $$ > \"$FAKE_STATE/npm.pid\"; exec sleep 600");
+    open(InstallationStep::installation, CLITool::codex);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !sandbox.readState("npm.pid").isEmpty(); }, 20000));
+    const long long npm = sandbox.readState("npm.pid").trimmed().toLongLong();
+    ASSERT_TRUE(sandbox.exists(QStringLiteral("Developer")));
+    // While it runs, "Cancel" is the one button, and it has the focus.
+    EXPECT_FALSE(shows(button("backButton")));
+    EXPECT_FALSE(shows(button("mainButton")));
+    EXPECT_EQ(screen()->window()->focusWidget(), button("cancelButton"));
+
+    click("cancelButton");
+    waitForInstallation();
+    EXPECT_TRUE(QTest::qWaitFor([npm] { return test::processEnded(npm); }, 5000)) << "npm outlived the cancel";
+    EXPECT_EQ(text("errorTitle"), QStringLiteral("Installation Stopped"));
+    EXPECT_EQ(text("errorMessage"), QStringLiteral("The installation was stopped. Nothing was changed."));
+    EXPECT_EQ(step(SetupStepType::installTool).status, SetupStepStatus::failure(QStringLiteral("Stopped")));
+    EXPECT_TRUE(state.installationOutput().endsWith(QStringLiteral("\nCancelled by the user\n")));
+    QFile file(controller().logFile()->path());
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(file.readAll().endsWith("\nCancelled by the user\n"));
+    // Nothing of the run stays: not the tool, not the ~/Developer folder it had just made.
+    EXPECT_FALSE(sandbox.exists(QStringLiteral("Developer")));
+    EXPECT_FALSE(QFileInfo::exists(sandbox.binDirectory() + QStringLiteral("/codex")));
+    EXPECT_FALSE(shows(button("cancelButton")));
+
+    sandbox.setEnv("FAKE_NPM_SCRIPT", "");
+    click("mainButton");
+    waitForInstallation();
+    EXPECT_TRUE(controller().installationComplete());
+    EXPECT_FALSE(state.installationOutput().contains(QStringLiteral("Cancelled")));
+}
+
 TEST_F(InstallFlowTest, TheLogShowsEveryByteAndIsCopiedEvenWithoutALogFile)
 {
     sandbox.installFakes({"git", "npm", "node"});

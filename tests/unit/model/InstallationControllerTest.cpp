@@ -34,7 +34,7 @@ public:
         co_return copy;
     }
 
-    QCoro::Task<Result<void>> runSetup(CLITool, StepUpdate update, Output output) override
+    QCoro::Task<Result<void>> runSetup(CLITool, StepUpdate update, Output output, Cancellation) override
     {
         ++runsStarted;
         const bool held = hold;

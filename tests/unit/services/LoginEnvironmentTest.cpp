@@ -421,7 +421,7 @@ TEST_F(LoginEnvironmentTest, AnInstallationWhosePrerequisitesAreMetReadsTheStart
     QString log;
     const auto finished = await(services.installer.runSetup(
         CLITool::codex, [](SetupStepType, const SetupStepStatus&, const std::optional<QString>&) {},
-        [&log](const QString& text) { log += text; }));
+        [&log](const QString& text) { log += text; }, Cancellation()));
     ASSERT_TRUE(finished && finished->ok()) << log.toStdString();
     EXPECT_LE(startupReads(), 2) << log.toStdString();
     EXPECT_GE(startupReads(), 1);

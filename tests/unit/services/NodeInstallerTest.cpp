@@ -1,9 +1,12 @@
+#include "CoroTest.h"
 #include "NodeInstaller.h"
 #include "NodeReleaseFixture.h"
 #include "SetupTest.h"
+#include "TestSupport.h"
 
 #include <QCryptographicHash>
 #include <QProcess>
+#include <QTest>
 
 using namespace qf;
 using qf::test::kDone;
@@ -48,6 +51,39 @@ TEST_F(NodeInstallerTest, WithoutHomebrewNodeComesFromTheNewestLTSRelease)
     EXPECT_EQ(QDir(sandbox.path(QStringLiteral(".local"))).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
               (QStringList{QStringLiteral("bin"), QStringLiteral("lib")}));
     EXPECT_TRUE(sandbox.exists(QStringLiteral(".local/lib/node_modules/npm/package.json")));
+}
+
+TEST_F(NodeInstallerTest, ACancelStopsTheUnpackingAndLeavesNothingOfIt)
+{
+    // tar (in the sandbox's folder of real utilities, which commands search first) writes part
+    // of Node.js into the staging folder, then hangs.
+    sandbox.installFakes({"git", "npm", "curl"});
+    publishNodeRelease(QStringLiteral("v22.11.0"));
+    const QString tools = QFileInfo(sandbox.binDirectory()).dir().filePath(QStringLiteral("tools"));
+    QFile::remove(tools + QStringLiteral("/tar"));
+    ASSERT_TRUE(test::writeExecutable(tools + QStringLiteral("/tar"),
+                                      "#!/bin/sh\n"
+                                      "while [ $# -gt 0 ]; do [ \"$1\" = -C ] && into=$2; shift; done\n"
+                                      "mkdir -p \"$into/bin\" && echo half > \"$into/bin/node\"\n"
+                                      "echo $$ > \"$FAKE_STATE/tar.pid\"\n"
+                                      "exec sleep 600\n"));
+    const Cancellation cancellation;
+    QString log;
+    QCoro::Task<Result<void>> installing = nodeInstaller.install([&log](const QString& text) { log += text; },
+                                                                 cancellation);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !sandbox.readState("tar.pid").isEmpty(); }, 20000))
+        << log.toStdString();
+    const long long tar = sandbox.readState("tar.pid").trimmed().toLongLong();
+    ASSERT_TRUE(sandbox.exists(QStringLiteral(".local")));
+
+    cancellation.cancel();
+    const std::optional<Result<void>> result = test::await(std::move(installing));
+    ASSERT_TRUE(result.has_value());
+    ASSERT_FALSE(result->ok());
+    EXPECT_TRUE(result->error().isCancelled());
+    EXPECT_TRUE(QTest::qWaitFor([tar] { return test::processEnded(tar); }, 5000)) << "tar outlived the cancel";
+    // The staging folder and the ~/.local made for it are gone.
+    EXPECT_FALSE(sandbox.exists(QStringLiteral(".local")));
 }
 
 TEST_F(NodeInstallerTest, ATamperedNodeArchiveIsRefusedWithNothingUnpacked)

@@ -61,7 +61,7 @@ protected:
             [&](SetupStepType type, const SetupStepStatus& status, const std::optional<QString>& details) {
                 run.reports.append({type, status, details});
             },
-            [&](const QString& text) { run.log += text; }));
+            [&](const QString& text) { run.log += text; }, Cancellation()));
         if (result)
             run.result = *result;
         return run;

@@ -2,6 +2,7 @@
 #include "ShellRunner.h"
 #include "ShellSandbox.h"
 #include "TestMachine.h"
+#include "TestSupport.h"
 
 #include <QDir>
 #include <QFile>
@@ -33,16 +34,6 @@ bool isCancellation(const std::optional<Result<T>>& result)
 {
     return result && !result->ok() && result->error().shellError() &&
            result->error().shellError()->kind() == ShellError::cancelled;
-}
-
-// Gone, or only a zombie waiting for whoever adopted it.
-bool processEnded(pid_t pid)
-{
-    QFile stat(QStringLiteral("/proc/%1/stat").arg(pid));
-    if (!stat.open(QIODevice::ReadOnly))
-        return ::kill(pid, 0) != 0;
-    const QByteArray line = stat.readAll();
-    return line.mid(line.lastIndexOf(')') + 2, 1) == "Z";
 }
 
 class ShellRunnerTest : public ::testing::Test, protected test::TestMachine {
@@ -263,7 +254,7 @@ TEST_F(ShellRunnerTest, AfterATimeOutNothingOfTheGroupSurvives)
         EXPECT_FALSE(result.error().errorDescription().isEmpty());
         const pid_t child = sandbox.readFile(QStringLiteral("child.pid")).trimmed().toInt();
         ASSERT_GT(child, 0);
-        EXPECT_TRUE(QTest::qWaitFor([child] { return processEnded(child); }, 3000)) << "outlived its time-out";
+        EXPECT_TRUE(QTest::qWaitFor([child] { return test::processEnded(child); }, 3000)) << "outlived its time-out";
     }
 }
 
@@ -389,7 +380,7 @@ TEST_F(ShellRunnerTest, CancellingStopsTheGroupAndTheCallerResumesWithACancellat
         const pid_t child = sandbox.readFile(QStringLiteral("child.pid")).trimmed().toInt();
         cancellation.cancel();
         EXPECT_TRUE(isCancellation(await(std::move(running))));
-        EXPECT_TRUE(QTest::qWaitFor([child] { return processEnded(child); }, 3000));
+        EXPECT_TRUE(QTest::qWaitFor([child] { return test::processEnded(child); }, 3000));
 
         const QString later = sandbox.path(QStringLiteral("later"));
         EXPECT_TRUE(isCancellation(await(runner->run(QStringLiteral("touch '%1'").arg(later), 0, cancellation))));
@@ -427,7 +418,7 @@ TEST_F(ShellRunnerTest, ARunnerThatGoesTakesItsCommandsAlong)
         EXPECT_TRUE(isCancellation(streamed));
         for (const char* file : {"first.pid", "second.pid"}) {
             const pid_t child = sandbox.readFile(QLatin1String(file)).trimmed().toInt();
-            EXPECT_TRUE(QTest::qWaitFor([child] { return processEnded(child); }, 3000)) << file;
+            EXPECT_TRUE(QTest::qWaitFor([child] { return test::processEnded(child); }, 3000)) << file;
         }
     }
 }
@@ -449,7 +440,7 @@ TEST(ShellRunnerQuit, NothingACommandStartedOutlivesTheApplication)
         ASSERT_TRUE(file.open(QIODevice::ReadOnly));
         const pid_t child = file.readAll().trimmed().toInt();
         ASSERT_GT(child, 0);
-        const bool ended = QTest::qWaitFor([child] { return processEnded(child); }, 5000);
+        const bool ended = QTest::qWaitFor([child] { return test::processEnded(child); }, 5000);
         if (!ended)
             ::kill(child, SIGKILL);
         EXPECT_TRUE(ended) << "the command's child outlived the application";
