@@ -143,6 +143,8 @@ ServiceError::ServiceError(InstallationError error, const SystemWording& wording
 
 QString ServiceError::plainDescription() const
 {
+    if (!m_sentence.isEmpty())
+        return m_sentence;
     if (const ShellError* shell = shellError())
         return shell->plainDescription();
     return m_description;
@@ -181,6 +183,13 @@ ServiceError ServiceError::needsNewerNode(const QString& text, int requiredMajor
     error.m_description = text;
     error.m_requiredNodeMajor = requiredMajor;
     return error;
+}
+
+ServiceError ServiceError::explained(ShellError error, const QString& sentence)
+{
+    ServiceError explained(std::move(error));
+    explained.m_sentence = sentence;
+    return explained;
 }
 
 Result<void> administratorRemovalResult(Result<void> result, const QString& name)

@@ -46,11 +46,19 @@ public:
 
     // Whether a global npm install into `prefix` needs no more rights than the user has.
     static bool isWritableNpmPrefix(const QString& prefix);
+    // The assignment that points one npm command at Quillforge's private npm cache, with the
+    // space that ends it.
+    static QString privateNpmCache(const Platform& platform);
 
 private:
     // Makes ~/Developer unless something is there, and says which in the log.
     FolderCreation::Outcome prepareDeveloperFolder(const Output& onOutput);
     ServiceError failure(InstallationError error) const { return {error, m_platform.wording()}; }
+    // An npm install of `tool` into `prefix` failed with `error`. When npm could not write to
+    // its folders and there is something left to try, the next installation tries it (a
+    // private npm cache, then ~/.local when npm's folder in `prefix` is what it could not
+    // change) and the error says so.
+    ServiceError afterNpmFailure(CLITool tool, const ServiceError& error, const QString& prefix);
 
     ShellRunner& m_shell;
     SystemDetector& m_detector;
@@ -58,6 +66,10 @@ private:
     NodeInstaller& m_node;
     SearchPathFix& m_searchPath;
     QStringList m_caveats;
+    // npm could not write to its own cache: installations use a private one from then on.
+    bool m_privateNpmCache = false;
+    // The tools npm could not install into its global folder, which go into ~/.local instead.
+    QList<CLITool::Case> m_toOwnFolder;
 };
 
 } // namespace qf
