@@ -2,6 +2,7 @@
 
 #include <QRegularExpression>
 #include <QStringList>
+#include <QUrl>
 
 #include <algorithm>
 #include <array>
@@ -147,6 +148,43 @@ QString failureSentence(FailureCause cause)
     return {};
 }
 
+QString missingNpmPackage(const QString& output)
+{
+    // "npm ERR! 404  '@google/gemini-cli@*' is not in this registry.", or else the address of
+    // "npm ERR! 404 Not Found - GET https://registry.npmjs.org/@google%2fgemini-cli - Not found".
+    static const QRegularExpression notInRegistry(
+        QStringLiteral("'(@?[^@'\\s]+)(?:@[^'\\s]*)?' is not in this registry"));
+    if (const QRegularExpressionMatch match = notInRegistry.match(output); match.hasMatch())
+        return match.captured(1);
+    static const QRegularExpression notFound(QStringLiteral("404 Not Found - GET https?://[^/\\s]+/(\\S+)"));
+    if (const QRegularExpressionMatch match = notFound.match(output); match.hasMatch())
+        return QUrl::fromPercentEncoding(match.captured(1).toUtf8());
+    return {};
+}
+
+QString npmErrorPath(const QString& output)
+{
+    static const QRegularExpression pathLine(QStringLiteral("^npm (?:ERR!|error) path (.+)$"),
+                                             QRegularExpression::MultilineOption);
+    QString path;
+    for (QRegularExpressionMatchIterator it = pathLine.globalMatch(output); it.hasNext();)
+        path = it.next().captured(1).trimmed();
+    return path;
+}
+
+QString npmPermissionRetrySentence(const QString& tool, bool ownFolder)
+{
+    if (ownFolder) {
+        return DiagnosisText::tr(
+                   "npm could not write to its folders, which usually happens after an earlier \u201csudo npm\u201d. "
+                   "Try Again uses a private npm cache for Quillforge and installs %1 into your own ~/.local folder.")
+            .arg(tool);
+    }
+    return DiagnosisText::tr(
+        "npm could not write to its folders, which usually happens after an earlier \u201csudo npm\u201d. "
+        "Try Again uses a private npm cache for Quillforge.");
+}
+
 QString lastMeaningfulLine(const QString& output)
 {
     static const QRegularExpression marker(QStringLiteral("^(?:npm (?:ERR!|error|warn|WARN)|>+|[-=*#]+)\\s*$"));
@@ -162,8 +200,15 @@ QString lastMeaningfulLine(const QString& output)
 
 QString plainFailure(const QString& output)
 {
-    if (const std::optional<FailureCause> cause = recogniseFailure(output))
+    if (const std::optional<FailureCause> cause = recogniseFailure(output)) {
+        const QString package = cause == FailureCause::notFound ? missingNpmPackage(output) : QString();
+        if (!package.isEmpty()) {
+            return DiagnosisText::tr("%1 was not found on the npm registry. Its maker may have moved it; the log has "
+                                     "the details.")
+                .arg(package);
+        }
         return failureSentence(*cause);
+    }
     const QString line = lastMeaningfulLine(output);
     if (line.isEmpty() || line == QLatin1String("Command failed"))
         return DiagnosisText::tr("Something went wrong. The log has the details.");

@@ -28,12 +28,24 @@ std::optional<FailureCause> recogniseFailure(const QString& output);
 // One plain sentence: what happened and what to do.
 QString failureSentence(FailureCause cause);
 
+// The package that npm's registry said it does not have ("@google/gemini-cli"); empty when
+// the output names none.
+QString missingNpmPackage(const QString& output);
+// The file or folder that npm's error names ("npm ERR! path /usr/local/lib/node_modules"), the
+// last one; empty when there is none.
+QString npmErrorPath(const QString& output);
+
+// What a person reads when npm could not write to its own folders, saying what "Try Again"
+// will do: use a private npm cache and, when `ownFolder`, install `tool` into ~/.local.
+QString npmPermissionRetrySentence(const QString& tool, bool ownFolder);
+
 // The last line of `output` that says something: not blank, not a bare marker such as
 // "npm ERR!", not a line of a stack trace. Trimmed; empty when there is none.
 QString lastMeaningfulLine(const QString& output);
 
-// The sentence a person reads for a command that failed with `output`: the recognised cause,
-// or a general sentence with the last meaningful line.
+// The sentence a person reads for a command that failed with `output`: the recognised cause
+// (a package the registry does not have by its name), or a general sentence with the last
+// meaningful line.
 QString plainFailure(const QString& output);
 
 } // namespace qf

@@ -143,6 +143,8 @@ ServiceError::ServiceError(InstallationError error, const SystemWording& wording
 
 QString ServiceError::plainDescription() const
 {
+    if (!m_sentence.isEmpty())
+        return m_sentence;
     if (const ShellError* shell = shellError(); shell && !m_plain)
         return shell->plainDescription();
     return m_description;
@@ -190,6 +192,13 @@ ServiceError ServiceError::stopped(const QString& text)
     error.m_description = text;
     error.m_plain = true;
     return error;
+}
+
+ServiceError ServiceError::explained(ShellError error, const QString& sentence)
+{
+    ServiceError explained(std::move(error));
+    explained.m_sentence = sentence;
+    return explained;
 }
 
 Result<void> administratorRemovalResult(Result<void> result, const QString& name)

@@ -44,6 +44,8 @@ public:
     // whose password dialog the user cancelled.
     bool isAdministratorDeclined() const { return m_kind == commandFailed && m_exitCode == kAdministratorDeclined; }
     const QString& output() const { return m_text; }
+    // What the command said last: the end of a streamed command's output, or its output.
+    const QString& lastOutput() const { return m_recent.isEmpty() ? m_text : m_recent; }
     // The message in full: the command's status and what it said. The log keeps it.
     QString errorDescription() const;
     // What a person reads: one plain sentence of what happened and what to do.
@@ -90,6 +92,9 @@ public:
     static ServiceError needsNewerNode(const QString& text, int requiredMajor);
     // The user stopped the operation; `text` says so and what of it stays.
     static ServiceError stopped(const QString& text);
+    // A command that failed with `error`, of which a person reads `sentence` instead of what its
+    // output suggests (what trying again will do differently); the log still gets all of it.
+    static ServiceError explained(ShellError error, const QString& sentence);
 
     const QString& errorDescription() const { return m_description; }
     // What a person reads: for a failed command, one plain sentence of what happened and what
@@ -121,6 +126,7 @@ private:
 
     std::variant<std::monostate, ShellError, InstallationError> m_cause;
     QString m_description;
+    QString m_sentence;
     bool m_declined = false;
     // The description is what a person reads (a stop, in the operation's own words).
     bool m_plain = false;

@@ -428,6 +428,17 @@ QString LinuxPlatform::logFolderIn(const QString& stateHome, const QString& home
     return QDir::cleanPath(base + QStringLiteral("/quillforge/logs"));
 }
 
+QString LinuxPlatform::cacheFolder() const
+{
+    return cacheFolderIn(qEnvironmentVariable("XDG_CACHE_HOME"), QDir::homePath());
+}
+
+QString LinuxPlatform::cacheFolderIn(const QString& cacheHome, const QString& home)
+{
+    const QString base = QDir::isAbsolutePath(cacheHome) ? cacheHome : home + QStringLiteral("/.cache");
+    return QDir::cleanPath(base + QStringLiteral("/quillforge"));
+}
+
 QStringList LinuxPlatform::showItemsCommandLine(const QString& path)
 {
     // dbus-send splits an array at its commas, so a comma in the path goes in escaped.

@@ -312,6 +312,10 @@ QString MacPlatform::logFolder() const { return logFolderIn(QDir::homePath()); }
 
 QString MacPlatform::logFolderIn(const QString& home) { return home + QStringLiteral("/Library/Logs/Quillforge"); }
 
+QString MacPlatform::cacheFolder() const { return cacheFolderIn(QDir::homePath()); }
+
+QString MacPlatform::cacheFolderIn(const QString& home) { return home + QStringLiteral("/Library/Caches/Quillforge"); }
+
 QStringList MacPlatform::revealCommandLine(const QString& path) { return {kOpen, QStringLiteral("-R"), path}; }
 
 bool MacPlatform::revealFolder(const QString& path)

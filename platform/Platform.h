@@ -210,6 +210,9 @@ public:
     // Where the whole logs of installations and removals are kept (the folder may not exist
     // yet): on macOS ~/Library/Logs/Quillforge, elsewhere under the user's state folder.
     virtual QString logFolder() const = 0;
+    // Quillforge's own cache folder, for what may be thrown away at any time (the folder may not
+    // exist yet): on macOS ~/Library/Caches/Quillforge, elsewhere under the user's cache folder.
+    virtual QString cacheFolder() const = 0;
     // Opens a web page in the user's browser.
     virtual void openURL(const QUrl& url);
 

@@ -51,6 +51,7 @@ public:
     // The default browser (`open`).
     void openURL(const QUrl& url) override;
     QString logFolder() const override;
+    QString cacheFolder() const override;
 
     // The texts of a Mac: the ones the whole application was designed with.
     static const SystemWording& standardWording();
@@ -70,6 +71,8 @@ public:
     static std::optional<NodeReleaseTarget> nodeReleaseTargetFor(const QString& cpuArchitecture);
     // The log folder of the user whose home is `home`: ~/Library/Logs/Quillforge.
     static QString logFolderIn(const QString& home);
+    // The cache folder of the user whose home is `home`: ~/Library/Caches/Quillforge.
+    static QString cacheFolderIn(const QString& home);
     // The program and arguments that show `path` selected in Finder.
     static QStringList revealCommandLine(const QString& path);
 
@@ -109,6 +112,7 @@ public:
     // The file manager's ShowItems over D-Bus (through dbus-send); its folder when that fails.
     void revealFile(const QString& path, RevealAnswer answer) override;
     QString logFolder() const override;
+    QString cacheFolder() const override;
 
     // The texts of a Linux system whose os-release says `osRelease`.
     static SystemWording wordingFor(const QMap<QString, QString>& osRelease);
@@ -151,6 +155,9 @@ public:
     // The log folder: "quillforge/logs" in the state folder `stateHome` (XDG_STATE_HOME), or in
     // ~/.local/state when that is unset or not an absolute path.
     static QString logFolderIn(const QString& stateHome, const QString& home);
+    // The cache folder: "quillforge" in `cacheHome` (XDG_CACHE_HOME), or in ~/.cache when that
+    // is unset or not an absolute path.
+    static QString cacheFolderIn(const QString& cacheHome, const QString& home);
     // The dbus-send command line that asks the file manager to show `path` selected.
     static QStringList showItemsCommandLine(const QString& path);
 

@@ -1,5 +1,6 @@
 #include "ToolInstaller.h"
 
+#include "Diagnosis.h"
 #include "GitPresence.h"
 #include "ShellQuote.h"
 
@@ -172,19 +173,35 @@ QCoro::Task<Result<void>> ToolInstaller::runSteps(CLITool tool, StepUpdate repor
     report(SetupStepType::installTool, SetupStepStatus::inProgress, tool.displayName());
     log(QStringLiteral("\nInstalling ") + tool.displayName() + QStringLiteral("...\n"));
     QString installCommand = tool.installCommand();
+    // Where npm puts the tool.
+    QString npmPrefix;
     if (tool.installsThroughNpm()) {
         // Without write access to npm's global folder the install would need administrator
         // rights; the user's own ~/.local needs none. Only this one command is told so: the
         // user's npm settings stay as they are.
         const Result<QString> prefix = co_await m_shell.run(QStringLiteral("npm prefix -g"),
                                                             ShellRunner::defaultTimeoutSeconds, cancellation);
-        if (prefix && !prefix.value().isEmpty() && !isWritableNpmPrefix(prefix.value())) {
+        const QString ownFolder = QDir::homePath() + QStringLiteral("/.local");
+        npmPrefix = prefix ? prefix.value() : QString();
+        if (!npmPrefix.isEmpty() && !isWritableNpmPrefix(npmPrefix)) {
             log(QStringLiteral("npm's global folder %1 is not writable for your user, so %2 goes into ~/.local "
                                "instead (for this installation only; your npm settings stay as they are).\n")
-                    .arg(prefix.value(), tool.displayName()));
-            installCommand = QStringLiteral("npm_config_prefix=") +
-                             shellQuote(QDir::homePath() + QStringLiteral("/.local")) + QLatin1Char(' ') +
+                    .arg(npmPrefix, tool.displayName()));
+            npmPrefix = ownFolder;
+        } else if (m_toOwnFolder.contains(tool)) {
+            log(QStringLiteral("npm could not write to its global folder %1 before, so %2 goes into ~/.local "
+                               "instead (your npm settings stay as they are).\n")
+                    .arg(npmPrefix, tool.displayName()));
+            npmPrefix = ownFolder;
+        }
+        if (npmPrefix == ownFolder)
+            installCommand = QStringLiteral("npm_config_prefix=") + shellQuote(ownFolder) + QLatin1Char(' ') +
                              installCommand;
+        if (m_privateNpmCache) {
+            log(QStringLiteral("npm could not write to its folders before, so it uses a cache of Quillforge's own in "
+                               "%1 (your npm settings stay as they are).\n")
+                    .arg(m_platform.cacheFolder() + QStringLiteral("/npm")));
+            installCommand = privateNpmCache(m_platform) + installCommand;
         }
     }
     if (tool.installsThroughNpm()) {
@@ -204,7 +221,7 @@ QCoro::Task<Result<void>> ToolInstaller::runSteps(CLITool tool, StepUpdate repor
     const Result<void> installed = co_await m_shell.runWithStreaming(installCommand, log, nullptr, activity,
                                                                      cancellation);
     if (!installed)
-        co_return installed;
+        co_return tool.installsThroughNpm() ? afterNpmFailure(tool, installed.error(), npmPrefix) : installed.error();
     m_installedTool = true;
     if (cancellation.isCancelled())
         co_return ShellError::cancellation();
@@ -242,6 +259,48 @@ QCoro::Task<Result<void>> ToolInstaller::runSteps(CLITool tool, StepUpdate repor
     else
         log(QStringLiteral("\n") + tool.displayName() + QStringLiteral(" installed successfully!\n"));
     co_return Result<void>();
+}
+
+ServiceError ToolInstaller::afterNpmFailure(CLITool tool, const ServiceError& error, const QString& prefix)
+{
+    const ShellError* shell = error.shellError();
+    if (!shell || recogniseFailure(shell->lastOutput()) != FailureCause::permissionDenied)
+        return error;
+    // Most often an earlier "sudo npm" left npm's cache or its global folder to the
+    // administrator. What npm names decides: a path among the global folder's packages,
+    // commands or manual pages sends the tool to ~/.local; anything else (its cache, or nothing
+    // named) is worked around with a cache of Quillforge's own.
+    const QString path = QDir::cleanPath(npmErrorPath(shell->lastOutput()));
+    const QString ownFolder = QDir::homePath() + QStringLiteral("/.local");
+    const auto inside = [&path](const QString& folder) {
+        if (folder.isEmpty())
+            return false;
+        for (const char* part : {"/lib", "/bin", "/share"}) {
+            const QString written = QDir::cleanPath(folder + QLatin1String(part));
+            if (path == written || path.startsWith(written + QLatin1Char('/')))
+                return true;
+        }
+        return false;
+    };
+    const bool inPrefix = !path.isEmpty() && (inside(prefix) || inside(QFileInfo(prefix).canonicalFilePath()));
+    bool retry = false;
+    if (inPrefix && prefix != ownFolder && !m_toOwnFolder.contains(tool)) {
+        m_toOwnFolder << tool;
+        retry = true;
+    }
+    if (!inPrefix && !m_privateNpmCache)
+        retry = true;
+    if (!retry)
+        return error;
+    m_privateNpmCache = true;
+    return ServiceError::explained(*shell,
+                                   npmPermissionRetrySentence(tool.displayName(), m_toOwnFolder.contains(tool)));
+}
+
+QString ToolInstaller::privateNpmCache(const Platform& platform)
+{
+    return QStringLiteral("npm_config_cache=") + shellQuote(platform.cacheFolder() + QStringLiteral("/npm")) +
+           QLatin1Char(' ');
 }
 
 bool ToolInstaller::isWritableNpmPrefix(const QString& prefix)

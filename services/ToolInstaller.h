@@ -50,6 +50,9 @@ public:
 
     // Whether a global npm install into `prefix` needs no more rights than the user has.
     static bool isWritableNpmPrefix(const QString& prefix);
+    // The assignment that points one npm command at Quillforge's private npm cache, with the
+    // space that ends it.
+    static QString privateNpmCache(const Platform& platform);
 
 private:
     // The steps of `runSetup`, each started only while `cancellation` is not cancelled.
@@ -59,6 +62,11 @@ private:
     // Makes ~/Developer unless something is there, and says which in the log.
     FolderCreation::Outcome prepareDeveloperFolder(const Output& onOutput);
     ServiceError failure(InstallationError error) const { return {error, m_platform.wording()}; }
+    // An npm install of `tool` into `prefix` failed with `error`. When npm could not write to
+    // its folders and there is something left to try, the next installation tries it (a
+    // private npm cache, then ~/.local when npm's folder in `prefix` is what it could not
+    // change) and the error says so.
+    ServiceError afterNpmFailure(CLITool tool, const ServiceError& error, const QString& prefix);
 
     ShellRunner& m_shell;
     SystemDetector& m_detector;
@@ -70,6 +78,10 @@ private:
     bool m_madeDeveloperFolder = false;
     bool m_installedNode = false;
     bool m_installedTool = false;
+    // npm could not write to its own cache: installations use a private one from then on.
+    bool m_privateNpmCache = false;
+    // The tools npm could not install into its global folder, which go into ~/.local instead.
+    QList<CLITool::Case> m_toOwnFolder;
 };
 
 } // namespace qf

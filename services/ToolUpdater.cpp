@@ -1,5 +1,6 @@
 #include "ToolUpdater.h"
 
+#include "Diagnosis.h"
 #include "ShellQuote.h"
 #include "ToolInstaller.h"
 #include "ToolVersion.h"
@@ -72,7 +73,8 @@ QCoro::Task<QString> ToolUpdater::updateCommand(CLITool tool, UpdateRoute route,
     // Only this command is pointed at the prefix: the user's npm settings stay as they are.
     const QString prefix = QStringLiteral("npm_config_prefix=") + shellQuote(route.prefix) + QLatin1Char(' ');
     if (route.kind == UpdateRoute::npm) {
-        const QString line = QStringLiteral("npm install -g ") + package;
+        const QString cache = m_privateNpmCache ? ToolInstaller::privateNpmCache(m_platform) : QString();
+        const QString line = cache + QStringLiteral("npm install -g ") + package;
         co_return route.npmsOwnPrefix ? line : prefix + line;
     }
     // The administrator's shell searches only the system's folders (on macOS
@@ -184,7 +186,8 @@ QCoro::Task<Result<UpdateOutcome>> ToolUpdater::bringUpToDate(CLITool tool, Outp
         if (updated.error().isDeclined())
             co_return updated.error();
         log(QStringLiteral("Note: ") + updated.error().errorDescription() + QLatin1Char('\n'));
-        ServiceError failure = co_await failedUpdate(tool, updated.error(), *before);
+        const ServiceError explained = afterNpmFailure(tool, where, updated.error());
+        ServiceError failure = co_await failedUpdate(tool, explained, *before);
         co_return failure;
     }
 
@@ -204,6 +207,22 @@ QCoro::Task<Result<UpdateOutcome>> ToolUpdater::bringUpToDate(CLITool tool, Outp
     m_shell.invalidateEnvironment();
     log(QStringLiteral("\n%1 updated from %2 to %3.\n").arg(name, *before, *after));
     co_return UpdateOutcome{tool, *before, *after};
+}
+
+ServiceError ToolUpdater::afterNpmFailure(CLITool tool, const UpdateRoute& route, const ServiceError& error)
+{
+    const ShellError* shell = error.shellError();
+    if (route.kind != UpdateRoute::npm || m_privateNpmCache || !shell ||
+        recogniseFailure(shell->lastOutput()) != FailureCause::permissionDenied)
+        return error;
+    // A folder of the tool's own that the user may not change is not worked around: the update
+    // stays where the tool is. Anything else is most often npm's cache, left to the
+    // administrator by an earlier "sudo npm".
+    const QString path = QDir::cleanPath(npmErrorPath(shell->lastOutput()));
+    if (!path.isEmpty() && path.startsWith(QDir::cleanPath(route.prefix) + QLatin1Char('/')))
+        return error;
+    m_privateNpmCache = true;
+    return ServiceError::explained(*shell, npmPermissionRetrySentence(tool.displayName(), false));
 }
 
 QCoro::Task<ServiceError> ToolUpdater::failedUpdate(CLITool tool, ServiceError failure, QString previous)

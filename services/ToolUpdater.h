@@ -111,12 +111,17 @@ private:
     // The error of an update that failed with `failure`, saying whether the version before
     // still works.
     QCoro::Task<ServiceError> failedUpdate(CLITool tool, ServiceError failure, QString previous);
+    // An npm update along `route` failed with `error`. When npm could not write to its cache,
+    // the next update uses a private one and the error says so.
+    ServiceError afterNpmFailure(CLITool tool, const UpdateRoute& route, const ServiceError& error);
 
     ShellRunner& m_shell;
     SystemDetector& m_detector;
     const Platform& m_platform;
     UpdateChecker& m_checker;
     NodeInstaller& m_node;
+    // npm could not write to its own cache: updates use a private one from then on.
+    bool m_privateNpmCache = false;
 };
 
 } // namespace qf

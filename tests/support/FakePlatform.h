@@ -67,6 +67,7 @@ public:
             answer(fileManagerAnswers);
     }
     QString logFolder() const override { return logs; }
+    QString cacheFolder() const override { return cache; }
     void openURL(const QUrl& url) override { openedURLs.append(url); }
     DeveloperToolsItem developerToolsItem() const override { return developerTools; }
     void startDeveloperToolsInstaller(TerminalOutcome outcome) override
@@ -132,6 +133,8 @@ public:
     bool applicationMenu = false;
     // Where logs are kept: a Mac's folder in the home of the moment, which is a test's own.
     QString logs = MacPlatform::logFolderIn(QDir::homePath());
+    // Quillforge's cache, likewise.
+    QString cache = MacPlatform::cacheFolderIn(QDir::homePath());
 
     // How often the app shaped a main window (asked how to shape it).
     mutable int windowsShaped = 0;

@@ -18,6 +18,7 @@
 #include "CoroTest.h"
 
 #include <QClipboard>
+#include <QDir>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QPlainTextEdit>
@@ -422,7 +423,9 @@ TEST_F(InstallFlowTest, FailingCommandsEndInTheErrorCardWithTheirLogFile)
     // The command's own words are in the log; the card says that it failed, and is scrolled
     // into view.
     EXPECT_TRUE(state.installationOutput().contains(QStringLiteral("404 Not Found")));
-    EXPECT_EQ(text("errorMessage"), failureSentence(FailureCause::notFound));
+    EXPECT_TRUE(
+        text("errorMessage").startsWith(QStringLiteral("@google/gemini-cli was not found on the npm registry.")))
+        << text("errorMessage").toStdString();
     const QWidget* viewport = screenAs<InstallationView>()->scrollView()->viewport();
     const QWidget* sentence = test::child(screen(), QStringLiteral("errorMessage"));
     EXPECT_TRUE(QTest::qWaitFor([viewport, sentence] {
@@ -454,4 +457,24 @@ TEST_F(InstallFlowTest, FailingCommandsEndInTheErrorCardWithTheirLogFile)
     EXPECT_TRUE(controller().installationComplete());
     EXPECT_FALSE(shows(button("showLogFileButton")));
     EXPECT_EQ(platform.revealedFiles.size(), 1);
+}
+
+TEST_F(InstallFlowTest, TryAgainWorksAroundAnNpmCacheLeftToTheAdministrator)
+{
+    sandbox.installFakes({"git", "npm", "node"});
+    const QString cache = sandbox.path(QStringLiteral(".npm"));
+    ASSERT_TRUE(QDir().mkpath(cache));
+    ASSERT_TRUE(QFile::setPermissions(cache, QFileDevice::ReadOwner | QFileDevice::ExeOwner));
+    open(InstallationStep::installation, CLITool::geminiCLI);
+    waitForInstallation();
+    // The card says what Try Again will do.
+    EXPECT_EQ(text("errorMessage"), npmPermissionRetrySentence(QStringLiteral("Gemini CLI"), false));
+    EXPECT_EQ(button("mainButton")->title(), QStringLiteral("Try Again"));
+    EXPECT_TRUE(shows(button("showLogFileButton")));
+
+    click("mainButton");
+    waitForInstallation();
+    EXPECT_TRUE(controller().installationComplete());
+    EXPECT_TRUE(state.installationOutput().contains(platform.cache + QStringLiteral("/npm")));
+    EXPECT_TRUE(QFile::exists(sandbox.binDirectory() + QStringLiteral("/gemini")));
 }

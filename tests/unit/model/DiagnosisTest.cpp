@@ -86,6 +86,27 @@ TEST(Diagnosis, TheScreenGetsOneSentenceAndTheLogEverything)
               QStringLiteral("Plain already."));
 }
 
+// npm names the package its registry does not have, and the folder it could not write to.
+TEST(Diagnosis, NpmSaysWhatItMissedAndWhereItWasRefused)
+{
+    const QString head = QStringLiteral("npm ERR! code E404\nnpm ERR! 404 Not Found - GET "
+                                        "https://registry.npmjs.org/@google%2fgemini-clii - Not found\n");
+    const QString missing = head + QStringLiteral("npm ERR! 404\nnpm ERR! 404  '@google/gemini-clii@*' is not in this "
+                                                  "registry.\n");
+    for (const QString& output : {missing, head})
+        EXPECT_EQ(missingNpmPackage(output), QStringLiteral("@google/gemini-clii")) << output.toStdString();
+    EXPECT_EQ(plainFailure(missing), QStringLiteral("@google/gemini-clii was not found on the npm registry. Its maker "
+                                                    "may have moved it; the log has the details."));
+    // A file that is not a package keeps the general sentence.
+    const QString download = QStringLiteral("curl: (22) The requested URL returned error: 404\n");
+    EXPECT_EQ(plainFailure(download), failureSentence(FailureCause::notFound));
+
+    EXPECT_EQ(npmErrorPath(QStringLiteral("npm ERR! code EACCES\nnpm ERR! syscall mkdir\nnpm ERR! path "
+                                          "/usr/lib/node_modules/@google\nnpm ERR! errno -13\n")),
+              QStringLiteral("/usr/lib/node_modules/@google"));
+    EXPECT_EQ(npmErrorPath(QStringLiteral("npm ERR! code EACCES\n")), QString());
+}
+
 // A cancelled password dialog is the user's answer, not a failure of the command.
 TEST(Diagnosis, ACancelledPasswordDialogIsADeclinedRemoval)
 {

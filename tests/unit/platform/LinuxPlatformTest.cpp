@@ -508,7 +508,7 @@ TEST(NodeReleaseTargets, OneArchivePerSystemAndProcessor)
 
 // --- Logs -----------------------------------------------------------------------------------
 
-TEST(LogFolders, EachSystemKeepsLogsWhereItsUsersLook)
+TEST(LogFolders, EachSystemKeepsLogsAndCachesWhereItsUsersLook)
 {
     EXPECT_EQ(qf::MacPlatform::logFolderIn(q("/Users/ada")), q("/Users/ada/Library/Logs/Quillforge"));
     EXPECT_EQ(LinuxPlatform::logFolderIn(q("/home/ada/.state"), q("/home/ada")), q("/home/ada/.state/quillforge/logs"));
@@ -520,6 +520,11 @@ TEST(LogFolders, EachSystemKeepsLogsWhereItsUsersLook)
     qf::test::ScopedEnv stateHome("XDG_STATE_HOME", "/srv/ada-state");
     EXPECT_EQ(LinuxPlatform().logFolder(), q("/srv/ada-state/quillforge/logs"));
     EXPECT_EQ(qf::MacPlatform().logFolder(), QDir::homePath() + q("/Library/Logs/Quillforge"));
+
+    // The cache, likewise.
+    EXPECT_EQ(qf::MacPlatform::cacheFolderIn(q("/Users/ada")), q("/Users/ada/Library/Caches/Quillforge"));
+    EXPECT_EQ(LinuxPlatform::cacheFolderIn(q("/srv/cache"), q("/home/ada")), q("/srv/cache/quillforge"));
+    EXPECT_EQ(LinuxPlatform::cacheFolderIn(q("cache"), q("/home/ada")), q("/home/ada/.cache/quillforge"));
 }
 
 // The file manager is asked over the session bus; a fake dbus-send records what it was given.

@@ -102,6 +102,7 @@ TEST_F(ToolInstallerTest, DownloadInstallAndVerificationFailures)
     sandbox.setEnv("FAKE_NPM_FAIL", "1");
     const SetupRun failed = runSetup(CLITool::codex);
     EXPECT_EQ(failed.error(), QStringLiteral("Command failed with exit code 1: Command failed"));
+    EXPECT_TRUE(failed.result->error().plainDescription().startsWith(QStringLiteral("@openai/codex was not found")));
     EXPECT_EQ(failed.last(SetupStepType::installTool), kInProgress);
     EXPECT_TRUE(failed.log.contains(QStringLiteral("npm ERR! 404 Not Found")));
     EXPECT_FALSE(failed.log.contains(QStringLiteral("Verifying")));
@@ -184,4 +185,44 @@ TEST_F(ToolInstallerTest, WhatASuccessfulInstallLeavesToKnowIsSaid)
     EXPECT_EQ(installer.caveats(),
               QStringList{SearchPathFix::terminalCaveat(CLITool::codex, QStringLiteral("~/.zshrc"),
                                                         QStringLiteral("export PATH=\"$HOME/.local/bin:$PATH\""))});
+}
+
+TEST_F(ToolInstallerTest, NpmFoldersLeftToTheAdministratorAreWorkedAroundOnTryAgain)
+{
+    sandbox.installFakes({"git", "node", "npm"});
+    const auto makeReadOnly = [this](const QString& relative) {
+        const QString path = sandbox.path(relative);
+        return QDir().mkpath(path) && QFile::setPermissions(path, QFileDevice::ReadOwner | QFileDevice::ExeOwner);
+    };
+
+    // npm's own cache may not be written: Try Again uses a cache of Quillforge's own.
+    ASSERT_TRUE(makeReadOnly(QStringLiteral(".npm")));
+    const SetupRun denied = runSetup(CLITool::geminiCLI);
+    ASSERT_TRUE(denied.result && !denied.result->ok());
+    EXPECT_EQ(denied.result->error().plainDescription(),
+              npmPermissionRetrySentence(QStringLiteral("Gemini CLI"), false));
+    EXPECT_TRUE(denied.log.contains(QStringLiteral("npm ERR! code EACCES")));
+    const SetupRun retried = runSetup(CLITool::geminiCLI);
+    ASSERT_TRUE(retried.result && retried.result->ok()) << retried.error().toStdString() << retried.log.toStdString();
+    EXPECT_TRUE(QFileInfo(platform.cache + QStringLiteral("/npm")).isDir());
+    EXPECT_TRUE(QFile::exists(sandbox.binDirectory() + QStringLiteral("/gemini")));
+
+    // The package's folder in npm's global folder may not be written: Try Again installs into
+    // ~/.local.
+    const QString prefix = sandbox.path(QStringLiteral("npm-global"));
+    ASSERT_TRUE(QDir().mkpath(prefix + QStringLiteral("/bin")));
+    ASSERT_TRUE(makeReadOnly(QStringLiteral("npm-global/lib/node_modules/@openai/codex")));
+    sandbox.setEnv("FAKE_NPM_PREFIX", prefix.toUtf8());
+    const SetupRun refused = runSetup(CLITool::codex);
+    ASSERT_TRUE(refused.result && !refused.result->ok());
+    EXPECT_EQ(refused.result->error().plainDescription(), npmPermissionRetrySentence(QStringLiteral("Codex"), true));
+    const SetupRun local = runSetup(CLITool::codex);
+    ASSERT_TRUE(local.result && local.result->ok()) << local.error().toStdString() << local.log.toStdString();
+    EXPECT_TRUE(sandbox.exists(QStringLiteral(".local/bin/codex")));
+
+    // Nothing left to try: the sentence says which folder to look at.
+    ASSERT_TRUE(makeReadOnly(QStringLiteral(".local/lib/node_modules/@openai/codex")));
+    const SetupRun stuck = runSetup(CLITool::codex);
+    ASSERT_TRUE(stuck.result && !stuck.result->ok());
+    EXPECT_EQ(stuck.result->error().plainDescription(), failureSentence(FailureCause::permissionDenied));
 }

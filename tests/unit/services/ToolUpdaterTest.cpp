@@ -1,4 +1,5 @@
 #include "CoroTest.h"
+#include "Diagnosis.h"
 #include "Preferences.h"
 #include "TestMachine.h"
 #include "TestSupport.h"
@@ -191,4 +192,22 @@ TEST_F(ToolUpdaterTest, AFailedUpdateSaysWhetherTheVersionBeforeStillWorks)
     EXPECT_TRUE(run.error().endsWith(
         QStringLiteral(" Gemini CLI 0.60.0 no longer starts: install it again from the dashboard.")))
         << run.error().toStdString();
+}
+
+TEST_F(ToolUpdaterTest, TryAgainUsesAPrivateNpmCacheWhenNpmsOwnMayNotBeWritten)
+{
+    // An earlier "sudo npm" left npm's cache to the administrator.
+    installGeminiInLocal();
+    const QString cache = sandbox.path(QStringLiteral(".npm"));
+    ASSERT_TRUE(QDir().mkpath(cache));
+    ASSERT_TRUE(QFile::setPermissions(cache, QFileDevice::ReadOwner | QFileDevice::ExeOwner));
+    const UpdateRun refused = update(CLITool::geminiCLI);
+    ASSERT_TRUE(refused.result && !refused.ok());
+    EXPECT_TRUE(refused.error().contains(npmPermissionRetrySentence(QStringLiteral("Gemini CLI"), false)))
+        << refused.error().toStdString();
+
+    const UpdateRun retried = update(CLITool::geminiCLI);
+    ASSERT_TRUE(retried.ok()) << retried.error().toStdString() << retried.log.toStdString();
+    EXPECT_EQ(retried.result->value().newVersion, QStringLiteral("0.61.0"));
+    EXPECT_TRUE(QFileInfo(platform.cache + QStringLiteral("/npm")).isDir());
 }
