@@ -10,6 +10,7 @@
 #include "ImageView.h"
 #include "Label.h"
 #include "Layout.h"
+#include "WindowChrome.h"
 
 #include <QLayout>
 #include <QUrl>
@@ -26,11 +27,12 @@ constexpr QMargins kPadding(32, 28, 32, 24);
 } // namespace
 
 AboutDialog::AboutDialog(Platform& platform, QWidget* parent)
-    : QDialog(parent, platform.sheetWindowFlags()),
+    : QDialog(parent, ui::sheetWindowFlags(platform)),
       m_details(QStringLiteral("%1, %2").arg(qf::versionDetails(), platform.checkOperatingSystem().details))
 {
     setObjectName(QStringLiteral("aboutDialog"));
     setWindowModality(Qt::WindowModal);
+    ui::attachSheet(this, platform);
     setWindowTitle(tr("About Quillforge"));
     setFixedWidth(380);
     ui::FocusRing::attach(this);

@@ -20,6 +20,7 @@
 #include "RoundedCard.h"
 #include "Surface.h"
 #include "TerminalFallbackRow.h"
+#include "WindowChrome.h"
 
 #include <QCoro/QCoroTask>
 
@@ -405,9 +406,10 @@ void HomeView::renderSheets()
             else
                 returnFocus();
         });
+        ui::attachSheet(sheet, m_services.platform);
         sheet->open();
     };
-    const Qt::WindowFlags flags = m_services.platform.sheetWindowFlags();
+    const Qt::WindowFlags flags = ui::sheetWindowFlags(m_services.platform);
     // "Done" reloads the dashboard, if it is still there.
     const auto reload = [self = QPointer<HomeView>(this)] {
         if (self)

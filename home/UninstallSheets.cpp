@@ -118,6 +118,8 @@ ui::Button* RemovalSheet::mainButton() const
     return nullptr;
 }
 
+ui::Button* RemovalSheet::defaultButton() const { return m_uninstall->isVisibleTo(this) ? m_cancel : mainButton(); }
+
 void RemovalSheet::setDetailsShown(bool shown)
 {
     m_showOutput = shown;
@@ -163,8 +165,8 @@ void RemovalSheet::render()
     const bool complete = uninstallComplete();
     const bool confirming = !uninstalling && !complete;
     const std::optional<QString> errorMessage = m_run->errorMessage();
-    // The focus moves on with the main button of each state, unless it is on the log or its
-    // "Details".
+    // The focus moves on with the default button of each state, unless it is on the log or
+    // its "Details".
     const QWidget* focused = focusWidget();
     const bool focusOnMain = !focused || focused == m_uninstall || focused == m_done || focused == m_ok ||
                              focused == m_cancel;
@@ -209,8 +211,8 @@ void RemovalSheet::render()
     m_done->setVisible(complete);
     // "OK" acknowledges a note; with nothing to say there is nothing to acknowledge.
     m_ok->setVisible(!hasCommand() && confirming && !description().isEmpty());
-    if (Button* main = mainButton(); main && (focusOnMain || !focusWidget() || !focusWidget()->isVisibleTo(this)))
-        main->setFocus(Qt::OtherFocusReason);
+    if (Button* first = defaultButton(); first && (focusOnMain || !focusWidget() || !focusWidget()->isVisibleTo(this)))
+        first->setFocus(Qt::OtherFocusReason);
 
     // The sheet keeps its size unless its content needs more room; nothing is ever cut off.
     layout()->activate();

@@ -32,7 +32,9 @@ class SymbolView;
 //                 left to run, closes the sheet
 //   complete      "Uninstall Complete", "Cancel" and "Done" (which reloads the dashboard)
 //   failed        the error row, "Cancel" and "Uninstall" again
-// Escape acts as "Cancel" whenever "Cancel" closes the sheet, and does nothing otherwise. The removal
+// Removing is never the default: while "Uninstall" is offered, "Cancel" has the focus, so
+// Return or Space on the opened sheet removes nothing. Escape acts as "Cancel" whenever
+// "Cancel" closes the sheet, and does nothing otherwise. The removal
 // itself is an OperationRun; the log on the sheet keeps the newest part of a long one, and each
 // removal's whole log goes to a file.
 class RemovalSheet : public QDialog {
@@ -43,10 +45,12 @@ public:
     bool uninstallComplete() const { return m_run->phase() == OperationRun::Phase::complete; }
     std::optional<QString> errorMessage() const { return m_run->errorMessage(); }
     QString output() const;
-    // The button of the state the sheet is in, which has the focus as the state begins:
-    // "Uninstall" (or "OK", or "Uninstall" again after a failure), "Done" once complete,
-    // "Cancel" while a removal runs.
+    // The button of the state the sheet is in: "Uninstall" (or "OK", or "Uninstall" again
+    // after a failure), "Done" once complete, "Cancel" while a removal runs.
     ui::Button* mainButton() const;
+    // The button that has the focus as the state begins: "Cancel" while "Uninstall" is
+    // offered, the main button otherwise.
+    ui::Button* defaultButton() const;
 
     void reject() override;
 

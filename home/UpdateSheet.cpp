@@ -140,6 +140,8 @@ Button* UpdateSheet::mainButton() const
     return nullptr;
 }
 
+Button* UpdateSheet::defaultButton() const { return m_cancel->isVisibleTo(this) ? m_cancel : mainButton(); }
+
 void UpdateSheet::reject()
 {
     // Escape and the window's close button act as "Cancel", and only while it closes the sheet.
@@ -251,8 +253,8 @@ void UpdateSheet::render()
     m_retry->setVisible(failed && !needsNode);
     m_installNode->setVisible(failed && needsNode);
     m_done->setVisible(complete);
-    if (Button* main = mainButton(); main && (focusOnButton || !focusWidget()->isVisibleTo(this)))
-        main->setFocus(Qt::OtherFocusReason);
+    if (Button* first = defaultButton(); first && (focusOnButton || !focusWidget()->isVisibleTo(this)))
+        first->setFocus(Qt::OtherFocusReason);
 
     // The sheet keeps its size unless its content needs more room; nothing is ever cut off.
     layout()->activate();

@@ -32,9 +32,12 @@ class SymbolView;
 //   failed    "Update Failed" (or "Update Stopped"), the reason (and whether the version before
 //             still works), the log, "Cancel" and "Try Again"; when a newer Node.js is what is
 //             missing, "Install Node.js and Update" instead, the installer's way to Node.js
-// A cancelled password dialog goes back to the confirmation. Escape acts as "Cancel" whenever
-// "Cancel" closes the sheet; it never stops an update. The update itself is an OperationRun
-// (the confirmation is its `ready`); each run's whole log also goes to a file of the log book.
+// A cancelled password dialog goes back to the confirmation. Replacing the tool is never the
+// default: while "Update", "Try Again" or "Install Node.js and Update" is offered, "Cancel"
+// has the focus, so Return or Space on the opened sheet changes nothing. Escape acts as
+// "Cancel" whenever "Cancel" closes the sheet; it never stops an update. The update itself is
+// an OperationRun (the confirmation is its `ready`); each run's whole log also goes to a file
+// of the log book.
 class UpdateSheet : public QDialog {
     Q_OBJECT
 
@@ -53,8 +56,11 @@ public:
     QString output() const { return m_output; }
     // Whether the log is open below "Details".
     bool showsLog() const { return m_showLog; }
-    // The button of the state the sheet is in, which has the focus as the state begins.
+    // The button of the state the sheet is in.
     ui::Button* mainButton() const;
+    // The button that has the focus as the state begins: "Cancel" wherever it is offered
+    // (beside a button that replaces the tool), "Done" once complete.
+    ui::Button* defaultButton() const;
 
     void reject() override;
 

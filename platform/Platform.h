@@ -4,7 +4,6 @@
 #include <QString>
 #include <QStringList>
 #include <QUrl>
-#include <qnamespace.h>
 
 #include <functional>
 #include <memory>
@@ -157,9 +156,10 @@ public:
     // its first size leaves room for so that the whole window fits the usable area of the
     // screen.
     virtual WindowFrame mainWindowFrame(const WindowFacts& window) const = 0;
-    // How a sheet of the main window is made: on macOS a real sheet, elsewhere a dialog
-    // window in front of the main window. Either way it is window-modal.
-    virtual Qt::WindowFlags sheetWindowFlags() const { return Qt::Dialog; }
+    // Whether the system has sheets of its own: a window-modal dialog that the system attaches
+    // to its window and moves with it, as macOS does. Elsewhere the widgets keep a window-modal
+    // dialog centred over the main window themselves (`ui::attachSheet`).
+    virtual bool hasSheets() const { return false; }
     // Whether the system shows the application's own menu (with "About Quillforge") outside the
     // window, as macOS does; elsewhere the window offers the about information itself.
     virtual bool hasApplicationMenu() const { return false; }

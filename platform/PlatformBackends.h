@@ -27,7 +27,7 @@ public:
     WindowStyle mainWindowStyle() const override { return WindowStyle::fullSizeContent; }
     // As AppKit frames it: known as soon as the window exists.
     WindowFrame mainWindowFrame(const WindowFacts& window) const override;
-    Qt::WindowFlags sheetWindowFlags() const override { return Qt::Sheet; }
+    bool hasSheets() const override { return true; }
     bool hasApplicationMenu() const override { return true; }
     OperatingSystemCheck checkOperatingSystem() const override;
     // As Finder shows it, purgeable space included.

@@ -2,6 +2,8 @@
 
 #include "UninstallSheets.h"
 
+#include "Button.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QProcess>
@@ -82,6 +84,8 @@ TEST_F(AfterInstallOnAMac, RemovingTheCommandLineToolsAsksForThePassword)
     waitForDashboard();
     RemovalSheet* sheet = openRemoval("xcode");
     ASSERT_NE(sheet, nullptr);
+    EXPECT_EQ(sheet->windowType(), Qt::Sheet); // a Mac's own sheet
+    EXPECT_EQ(sheet->defaultButton(), test::child(sheet, QStringLiteral("cancelButton")));
 
     mac.answer("password", "cancelled");
     uninstall(sheet);

@@ -55,6 +55,7 @@ public:
     }
     QString terminalDescription() const override { return QStringLiteral("fake terminal"); }
     bool hasApplicationMenu() const override { return applicationMenu; }
+    bool hasSheets() const override { return sheets; }
     bool revealFolder(const QString& path) override
     {
         revealed.append(path);
@@ -131,6 +132,8 @@ public:
     bool holdTerminalOutcomes = false;
     // Whether "About Quillforge" lives in a menu of the system's, as on macOS.
     bool applicationMenu = false;
+    // Whether the system attaches sheets to their window itself, as macOS does.
+    bool sheets = false;
     // Where logs are kept: a Mac's folder in the home of the moment, which is a test's own.
     QString logs = MacPlatform::logFolderIn(QDir::homePath());
     // Quillforge's cache, likewise.

@@ -444,9 +444,9 @@ using KeyboardTest = test::FlowWindowTest;
 
 } // namespace
 
-// The dashboard while it looks stands out; its removal sheet, opened by keyboard, starts on its
-// main button, is walked like a screen, stands out asking and done, and gives the focus back.
-TEST_F(KeyboardTest, ARemovalSheetStartsOnItsMainButtonStandsOutAndGivesTheFocusBack)
+// The dashboard while it looks stands out; its removal sheet, opened by keyboard, starts on
+// "Cancel", is walked like a screen, stands out asking and done, and gives the focus back.
+TEST_F(KeyboardTest, ARemovalSheetStartsOnCancelStandsOutAndGivesTheFocusBack)
 {
     sandbox.installFakes({"gemini", "npm"});
     platform.npmPrograms = {sandbox.binDirectory() + QStringLiteral("/npm")};
@@ -490,12 +490,12 @@ TEST_F(KeyboardTest, ARemovalSheetStartsOnItsMainButtonStandsOutAndGivesTheFocus
         return home->sheet();
     };
 
-    // Space opens the sheet on "Uninstall", showing where the focus is before any Tab; Tab
-    // reads it like a screen. Escape closes it, nothing reloads, and the focus is back on the
-    // button that opened it.
+    // Space opens the sheet on "Cancel" (removing is never the default), showing where the
+    // focus is before any Tab; Tab reads it like a screen. Escape closes it, nothing reloads,
+    // and the focus is back on the button that opened it.
     RemovalSheet* sheet = openSheet();
     ASSERT_NE(sheet, nullptr);
-    EXPECT_EQ(QApplication::focusWidget(), test::child<QWidget>(sheet, QStringLiteral("uninstallButton")));
+    EXPECT_EQ(QApplication::focusWidget(), test::child<QWidget>(sheet, QStringLiteral("cancelButton")));
     EXPECT_TRUE(ui::showsFocusRing(QApplication::focusWidget()));
     EXPECT_FALSE(test::child(sheet, QStringLiteral("detailsButton"))->isVisible()); // no output yet
     sweep(sheet);
@@ -508,11 +508,24 @@ TEST_F(KeyboardTest, ARemovalSheetStartsOnItsMainButtonStandsOutAndGivesTheFocus
     EXPECT_FALSE(home->isLoading());
     EXPECT_EQ(QApplication::focusWidget(), remove);
 
-    // Through to the end by keyboard: "Done" has the focus once the removal is complete, and
-    // the sheet with its log (behind "Details") stands out; the dashboard reloads without Gemini CLI, and the
-    // focus lands on its card's "Install".
+    // Return on the opened sheet presses "Cancel" too: nothing is removed.
     sheet = openSheet();
     ASSERT_NE(sheet, nullptr);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    ASSERT_TRUE(QTest::qWaitFor([home] { return !home->sheet(); }, 5000));
+    QApplication::setActiveWindow(window.get());
+    test::settle();
+    EXPECT_FALSE(home->isLoading());
+    EXPECT_TRUE(home->installedTools().contains(CLITool::geminiCLI));
+    EXPECT_EQ(QApplication::focusWidget(), remove);
+
+    // Through to the end by keyboard: Tab to "Uninstall" and Return; "Done" has the focus once
+    // the removal is complete, and the sheet with its log (behind "Details") stands out; the
+    // dashboard reloads without Gemini CLI, and the focus lands on its card's "Install".
+    sheet = openSheet();
+    ASSERT_NE(sheet, nullptr);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    ASSERT_EQ(QApplication::focusWidget(), test::child<QWidget>(sheet, QStringLiteral("uninstallButton")));
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
     ASSERT_TRUE(QTest::qWaitFor([sheet] { return sheet->uninstallComplete(); }, 20000));
     auto* done = test::child<QWidget>(sheet, QStringLiteral("doneButton"));

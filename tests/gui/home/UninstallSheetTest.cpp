@@ -1,4 +1,5 @@
 #include "BoundedLog.h"
+#include "Button.h"
 #include "CoroTest.h"
 #include "Diagnosis.h"
 #include "LogFile.h"
@@ -85,6 +86,7 @@ TEST_F(SheetTest, AIToolSheetFailsClearlyAndRetriesAfresh)
     EXPECT_TRUE(offered(&sheet, "cancelButton"));
     EXPECT_TRUE(offered(&sheet, "uninstallButton"));
     EXPECT_FALSE(offered(&sheet, "doneButton"));
+    EXPECT_EQ(sheet.focusWidget(), button(&sheet, "cancelButton"));
 
     button(&sheet, "uninstallButton")->click();
     EXPECT_TRUE(sheet.isUninstalling());
@@ -100,6 +102,7 @@ TEST_F(SheetTest, AIToolSheetFailsClearlyAndRetriesAfresh)
     EXPECT_TRUE(shows(&sheet, "errorRow"));
     EXPECT_TRUE(shows(&sheet, "logView"));
     EXPECT_TRUE(offered(&sheet, "uninstallButton"));
+    EXPECT_EQ(sheet.defaultButton(), button(&sheet, "cancelButton")); // trying again is no default either
     EXPECT_FALSE(sheet.uninstallComplete());
     EXPECT_GE(sheet.height(), 360); // grown if it must, never cut off
 
@@ -139,6 +142,28 @@ TEST_F(SheetTest, SystemToolSheetRunsTheItemsCommand)
     EXPECT_EQ(reloads, 1);
     test::settle();
     EXPECT_TRUE(guard.isNull());
+}
+
+// Removing is never the default: each removal opens on "Cancel", and Return there closes the
+// sheet and removes nothing.
+TEST_F(SheetTest, ReturnOnAnOpenedRemovalSheetRemovesNothing)
+{
+    sandbox.installFakes({"brew", "node"});
+    UninstallSheet aiSheet(
+        CLITool::codex, services.remover, services.logs, [this] { ++reloads; }, Qt::Dialog, nullptr);
+    aiSheet.open();
+    RemovalSheet* itemSheet = systemSheet(detected(SystemToolID::node));
+    for (RemovalSheet* sheet : std::initializer_list<RemovalSheet*>{&aiSheet, itemSheet}) {
+        SCOPED_TRACE(sheet->objectName().toStdString());
+        const QPointer<RemovalSheet> guard(sheet);
+        ASSERT_EQ(sheet->focusWidget(), button(sheet, "cancelButton"));
+        QTest::keyClick(sheet->focusWidget(), Qt::Key_Return);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !guard || !guard->isVisible(); }, 5000));
+        EXPECT_TRUE(!guard || !(guard->isUninstalling() || guard->uninstallComplete()));
+    }
+    test::settle();
+    EXPECT_TRUE(LogBook::logFiles(platform.logs).isEmpty()); // no removal began
+    EXPECT_EQ(reloads, 0);
 }
 
 TEST_F(SheetTest, ACancelledDialogAndAFailureEachSayWhatHappened)
@@ -181,6 +206,7 @@ TEST_F(SheetTest, AnItemWithOnlyANoteOffersOK)
     EXPECT_TRUE(offered(sheet, "okButton"));
     EXPECT_TRUE(offered(sheet, "cancelButton"));
     EXPECT_FALSE(offered(sheet, "uninstallButton"));
+    EXPECT_EQ(sheet->defaultButton(), button(sheet, "okButton")); // a note removes nothing
     // Information, not a removal: no trash can in red.
     EXPECT_EQ(test::child<ui::SymbolView>(sheet, QStringLiteral("sheetSymbol"))->name(), QStringLiteral("info.circle"));
     button(sheet, "okButton")->click();

@@ -14,6 +14,7 @@
 #include <QDir>
 #include <QFile>
 #include <QTest>
+#include <QWindow>
 
 #include <memory>
 
@@ -125,6 +126,7 @@ TEST_F(UpdateFlowTest, ANewerVersionIsOfferedOnTheCardAndUpdatedWhereTheToolWasI
     EXPECT_TRUE(shown(sheet, "logSection"));
     EXPECT_EQ(sheet->mainButton()->objectName(), QStringLiteral("tryAgainButton"));
     EXPECT_TRUE(shown(sheet, "cancelButton"));
+    EXPECT_EQ(sheet->defaultButton()->objectName(), QStringLiteral("cancelButton"));
 
     // The update runs in ~/.local, where the tool is, and is checked by running the tool.
     sandbox.setEnv("FAKE_NPM_FAIL", "");
@@ -226,4 +228,44 @@ TEST_F(UpdateFlowTest, CancelStopsTheUpdateWithItsCommandAndTryAgainUpdates)
     press(sheet, "tryAgainButton");
     waitForPhaseChange(*sheet);
     EXPECT_EQ(sheet->phase(), UpdateSheet::Phase::complete) << sheet->errorMessage().value_or(QString()).toStdString();
+}
+
+// A sheet of the window that the system does not attach itself is a window-modal dialog in
+// front of it, with nothing to minimise or maximise, kept centred over it as it moves or
+// resizes. It opens on "Cancel", so Return updates nothing; Escape closes it.
+TEST_F(UpdateFlowTest, ASheetOpensOnCancelAndStaysCentredOverItsWindow)
+{
+    auto view = showHome();
+    AIToolCard* card = geminiCard(*view);
+    press(card, "updateButton");
+    UpdateSheet* sheet = view->updateSheet();
+    ASSERT_NE(sheet, nullptr);
+    test::settle();
+    // The window manager is told which buttons it has rather than left to give it its own.
+    const Qt::WindowFlags flags = sheet->windowFlags();
+    EXPECT_EQ(sheet->windowType(), Qt::Dialog);
+    EXPECT_TRUE(flags.testFlags(Qt::CustomizeWindowHint | Qt::WindowCloseButtonHint));
+    EXPECT_FALSE(flags & (Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint));
+    EXPECT_EQ(sheet->windowModality(), Qt::WindowModal);
+    ASSERT_NE(sheet->windowHandle(), nullptr);
+    EXPECT_EQ(sheet->windowHandle()->transientParent(), view->windowHandle());
+    const auto centred = [&] { return sheet->geometry().center() == view->geometry().center(); };
+    EXPECT_TRUE(centred());
+    view->move(view->pos() + QPoint(120, 80));
+    test::settle();
+    EXPECT_TRUE(centred());
+    view->resize(1000, 1200);
+    test::settle();
+    EXPECT_TRUE(centred());
+
+    EXPECT_EQ(sheet->focusWidget(), test::child<QWidget>(sheet, QStringLiteral("cancelButton")));
+    QTest::keyClick(sheet->focusWidget(), Qt::Key_Return);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !view->updateSheet(); }, 5000));
+    EXPECT_FALSE(npmCalls().contains(QStringLiteral("install -g")));
+
+    press(card, "updateButton");
+    ASSERT_NE(view->updateSheet(), nullptr);
+    QTest::keyClick(view->updateSheet(), Qt::Key_Escape);
+    test::settle();
+    EXPECT_EQ(view->updateSheet(), nullptr);
 }
