@@ -12,11 +12,13 @@
 #include "Layout.h"
 #include "LogView.h"
 #include "Symbol.h"
+#include "TerminalFallbackRow.h"
 
 #include <QClipboard>
 #include <QCoro/QCoroTask>
 #include <QGuiApplication>
 #include <QLayout>
+#include <QPointer>
 #include <QTimer>
 
 namespace qf {
@@ -222,6 +224,8 @@ InstallationView::InstallationView(InstallationState& state, InstallationControl
     auto* errorRow = vstack(0, sides(spacing::screenSide));
     errorRow->addWidget(m_errorCard);
     column->addLayout(errorRow);
+    m_logPathRow = vstack(0, sides(spacing::screenSide));
+    column->addLayout(m_logPathRow);
     m_caveatRow = vstack(0, sides(spacing::screenSide));
     column->addLayout(m_caveatRow);
     column->addStretch(1);
@@ -231,7 +235,10 @@ InstallationView::InstallationView(InstallationState& state, InstallationControl
     m_showLogFile->setObjectName(QStringLiteral("showLogFileButton"));
     connect(m_showLogFile, &QAbstractButton::clicked, this, [this] {
         if (const QString path = logFilePath(); !path.isEmpty())
-            m_platform.revealFile(path, {});
+            m_platform.revealFile(path, [self = QPointer(this), path](bool shown) {
+                if (self && !shown)
+                    self->showLogPath(path);
+            });
     });
     bottomBar()->addWidget(m_showLogFile);
     // Stops the run going on, with every command it started.
@@ -333,6 +340,8 @@ void InstallationView::render()
 
     m_back->setVisible(!installing);
     m_showLogFile->setVisible(error.has_value() && !installing && !logFilePath().isEmpty());
+    if (m_logPath)
+        m_logPath->setVisible(m_showLogFile->isVisibleTo(this));
     // "Cancel" hands the focus back to the screen before it goes, so that it moves on to the
     // main button rather than to the next control in line.
     if (!installing && window()->focusWidget() == m_cancel)
@@ -400,6 +409,22 @@ void InstallationView::copyText(const QString& text)
     clipboard->clear();
     clipboard->setText(text);
     m_toast->present();
+}
+
+void InstallationView::showLogPath(const QString& path)
+{
+    delete m_logPath;
+    m_logPath = new TerminalFallbackRow(tr("The log file could not be shown"),
+                                        tr("No file manager answered. The log file is here:"), path,
+                                        [this] { m_toast->present(); });
+    m_logPath->setObjectName(QStringLiteral("logFilePath"));
+    m_logPathRow->addWidget(m_logPath);
+    render();
+    QTimer::singleShot(0, m_logPath, [this] {
+        if (QLayout* layout = scrollView()->content()->layout())
+            layout->activate();
+        scrollView()->ensureWidgetVisible(m_logPath, 0, 24);
+    });
 }
 
 } // namespace qf

@@ -103,11 +103,16 @@ private:
     ui::Label* m_errorText;
     QVBoxLayout* m_caveatRow;
     QWidget* m_caveats = nullptr;
+    // Where no file manager answered "Show Log File": the file's path, to copy.
+    QVBoxLayout* m_logPathRow;
+    QWidget* m_logPath = nullptr;
     ui::Button* m_back;
     ui::Button* m_showLogFile;
     ui::Button* m_cancel;
     ui::Button* m_main;
     ui::CopiedToastPresenter* m_toast;
+
+    void showLogPath(const QString& path);
 };
 
 } // namespace qf

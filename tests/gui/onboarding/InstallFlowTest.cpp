@@ -438,6 +438,15 @@ TEST_F(InstallFlowTest, FailingCommandsEndInTheErrorCardWithTheirLogFile)
     EXPECT_TRUE(QFileInfo(path).fileName().endsWith(QStringLiteral(" Install Gemini CLI.log")));
     click("showLogFileButton");
     EXPECT_EQ(platform.revealedFiles, QStringList{path});
+    EXPECT_EQ(screen()->findChild<QWidget*>(QStringLiteral("logFilePath")), nullptr);
+    // Where no file manager answers, the path shows, to copy.
+    platform.fileManagerAnswers = false;
+    click("showLogFileButton");
+    ASSERT_TRUE(showsChild("logFilePath"));
+    bool namesThePath = false;
+    for (const QLabel* label : test::child(screen(), QStringLiteral("logFilePath"))->findChildren<QLabel*>())
+        namesThePath = namesThePath || label->text() == path;
+    EXPECT_TRUE(namesThePath);
     const std::optional<std::optional<QString>> whole = test::await(controller().logFile()->readWhole());
     ASSERT_TRUE(whole && *whole);
     EXPECT_TRUE((*whole)->contains(QStringLiteral("404 Not Found")));
@@ -456,7 +465,8 @@ TEST_F(InstallFlowTest, FailingCommandsEndInTheErrorCardWithTheirLogFile)
     waitForInstallation();
     EXPECT_TRUE(controller().installationComplete());
     EXPECT_FALSE(shows(button("showLogFileButton")));
-    EXPECT_EQ(platform.revealedFiles.size(), 1);
+    EXPECT_FALSE(showsChild("logFilePath"));
+    EXPECT_EQ(platform.revealedFiles.size(), 2);
 }
 
 TEST_F(InstallFlowTest, TryAgainWorksAroundAnNpmCacheLeftToTheAdministrator)
