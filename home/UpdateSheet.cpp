@@ -212,6 +212,8 @@ void UpdateSheet::render()
         m_symbol->setTint(Tint(Role::accent));
     }
 
+    const std::optional<ServiceError>& runError = m_run->error();
+    const bool stopped = runError.has_value() && runError->isCancelled();
     switch (phase) {
     case Phase::ready:
         m_title->setText(tr("Update %1?").arg(name));
@@ -231,9 +233,9 @@ void UpdateSheet::render()
         break;
     case Phase::failed:
         // An older Node.js is not a failure of the update, only what has to come first.
-        m_title->setText(needsNode                                         ? tr("A Newer Node.js Is Needed")
-                         : m_run->error() && m_run->error()->isCancelled() ? tr("Update Stopped")
-                                                                           : tr("Update Failed"));
+        m_title->setText(needsNode ? tr("A Newer Node.js Is Needed")
+                         : stopped ? tr("Update Stopped")
+                                   : tr("Update Failed"));
         break;
     }
     m_description->setVisible(!failed);

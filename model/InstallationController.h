@@ -73,7 +73,11 @@ public:
     // The user stops the current attempt's run (its "Cancel"): it fails, saying what stays.
     void cancelInstallation();
     // The current attempt ended because the user stopped it.
-    bool wasCancelled() const { return m_run.error() && m_run.error()->isCancelled(); }
+    bool wasCancelled() const
+    {
+        const std::optional<ServiceError>& error = m_run.error();
+        return error.has_value() && error->isCancelled();
+    }
 
     // Sets the status of the step of `type`, and its details when some are given. A type that
     // is not in the list changes nothing.

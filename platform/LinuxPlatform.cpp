@@ -455,7 +455,7 @@ QStringList LinuxPlatform::showItemsCommandLine(const QString& path)
             QStringLiteral("string:")};
 }
 
-void LinuxPlatform::revealFile(const QString& path, RevealAnswer answer)
+void LinuxPlatform::revealFile(const QString& path, const RevealAnswer& answer)
 {
     // Without a file manager that answers on the session bus, the folder opens instead. The
     // process owns itself and goes once it has ended or failed to start.
@@ -469,7 +469,7 @@ void LinuxPlatform::revealFile(const QString& path, RevealAnswer answer)
     process->setStandardErrorFile(QProcess::nullDevice());
     const QUrl folder = QUrl::fromLocalFile(QFileInfo(path).absolutePath());
     // Said once: the folder was opened instead, or nothing answered at all.
-    const auto answered = [folder, answer = std::move(answer)](bool fileManagerShowedIt) {
+    const auto answered = [folder, answer](bool fileManagerShowedIt) {
         const bool shown = fileManagerShowedIt || QDesktopServices::openUrl(folder);
         if (answer)
             answer(shown);

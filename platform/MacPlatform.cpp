@@ -330,11 +330,11 @@ void MacPlatform::openURL(const QUrl& url)
         Platform::openURL(url);
 }
 
-void MacPlatform::revealFile(const QString& path, RevealAnswer answer)
+void MacPlatform::revealFile(const QString& path, const RevealAnswer& answer)
 {
     const QStringList commandLine = revealCommandLine(path);
     if (!QProcess::startDetached(commandLine.first(), commandLine.mid(1))) {
-        Platform::revealFile(path, std::move(answer));
+        Platform::revealFile(path, answer);
         return;
     }
     if (answer)

@@ -17,7 +17,7 @@ DiskSpace Platform::availableDiskSpace(const QString& path) const
 
 bool Platform::revealFolder(const QString& path) { return QDesktopServices::openUrl(QUrl::fromLocalFile(path)); }
 
-void Platform::revealFile(const QString& path, RevealAnswer answer)
+void Platform::revealFile(const QString& path, const RevealAnswer& answer)
 {
     const bool shown = revealFolder(QFileInfo(path).absolutePath());
     if (answer)

@@ -206,7 +206,7 @@ public:
     // Shows a file to the user in the file manager, selected where the file manager can do
     // that; otherwise its folder. `answer` (when given) learns whether anything showed it,
     // possibly later, on the GUI thread.
-    virtual void revealFile(const QString& path, RevealAnswer answer);
+    virtual void revealFile(const QString& path, const RevealAnswer& answer);
     // Where the whole logs of installations and removals are kept (the folder may not exist
     // yet): on macOS ~/Library/Logs/Quillforge, elsewhere under the user's state folder.
     virtual QString logFolder() const = 0;

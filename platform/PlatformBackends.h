@@ -45,7 +45,7 @@ public:
     QString administratorCommand(const QString& command) const override { return administratorLine(command); }
     std::optional<NodeReleaseTarget> nodeReleaseTarget() const override;
     // Finder, with the file selected (`open -R`).
-    void revealFile(const QString& path, RevealAnswer answer) override;
+    void revealFile(const QString& path, const RevealAnswer& answer) override;
     // A Finder window on the folder (`open`).
     bool revealFolder(const QString& path) override;
     // The default browser (`open`).
@@ -110,7 +110,7 @@ public:
     QString administratorCommand(const QString& command) const override { return administratorLine(command); }
     std::optional<NodeReleaseTarget> nodeReleaseTarget() const override;
     // The file manager's ShowItems over D-Bus (through dbus-send); its folder when that fails.
-    void revealFile(const QString& path, RevealAnswer answer) override;
+    void revealFile(const QString& path, const RevealAnswer& answer) override;
     QString logFolder() const override;
     QString cacheFolder() const override;
 

@@ -61,7 +61,7 @@ public:
         revealed.append(path);
         return fileManagerAnswers;
     }
-    void revealFile(const QString& path, RevealAnswer answer) override
+    void revealFile(const QString& path, const RevealAnswer& answer) override
     {
         revealedFiles.append(path);
         if (answer)

@@ -187,9 +187,10 @@ TEST_F(StagedInstallTest, ALinkedProgramFolderStaysALinkAndReceivesNode)
         ASSERT_EQ(install(), "") << log.toStdString();
         EXPECT_EQ(linkTarget(home(QStringLiteral(".local/bin"))), "../dotfiles/bin");
         EXPECT_EQ(runProgram(home(QStringLiteral(".local/bin/hello"))), "hello");
-        const std::string v = version;
-        EXPECT_EQ(nodeAndNpm(home(QStringLiteral(".local/bin"))), v + "\nnpm " + v + "\nnpx " + v + "\n");
-        EXPECT_EQ(runProgram(home(QStringLiteral("dotfiles/bin/node"))), v);
+        const QString v = QString::fromLatin1(version);
+        EXPECT_EQ(nodeAndNpm(home(QStringLiteral(".local/bin"))),
+                  QStringLiteral("%1\nnpm %1\nnpx %1\n").arg(v).toStdString());
+        EXPECT_EQ(runProgram(home(QStringLiteral("dotfiles/bin/node"))), v.toStdString());
         EXPECT_EQ(entriesOf(home(QStringLiteral(".local"))), kInstalledFolders);
         EXPECT_EQ(entriesOf(home(QStringLiteral("dotfiles/bin"))),
                   (std::vector<std::string>{"hello", "node", "npm", "npx"}));
