@@ -1,6 +1,7 @@
 #include "CommandLine.h"
 #include "Diagnostics.h"
 #include "InstallationState.h"
+#include "Language.h"
 #include "MainWindow.h"
 #include "Services.h"
 #include "SingleInstance.h"
@@ -28,6 +29,8 @@ int main(int argc, char* argv[])
         std::fprintf(stderr, "%s\n", qUtf8Printable(problem));
         return 1;
     }
+    // In the user's language where Quillforge has it; what the command line answers stays English.
+    qf::language::install(app);
 
     // One window per user: a second launch brings the first one to the front instead.
     qf::SingleInstance instance(qf::SingleInstance::defaultDirectory());

@@ -110,7 +110,7 @@ ui::Button* mainButton(const QString& title, const QString& objectName)
 
 ui::Button* backButton(ui::Button::Style style)
 {
-    auto* button = new ui::Button(FlowScreen::tr("Back"), style,
+    auto* button = new ui::Button(qf::FlowScreen::tr("Back"), style,
                                   style == ui::Button::Style::plain ? ui::Button::Size::regular
                                                                     : ui::Button::Size::large);
     button->setObjectName(QStringLiteral("backButton"));

@@ -2,6 +2,7 @@
 #include "CommandLine.h"
 #include "FakePlatform.h"
 #include "InstallationState.h"
+#include "Language.h"
 #include "MainWindow.h"
 #include "Preferences.h"
 #include "QuillforgeVersion.h"
@@ -40,7 +41,7 @@ QByteArray readFile(const QString& path)
 }
 
 // A property list's top-level dictionary: each key with its string value, "true"/"false"
-// for Booleans.
+// for Booleans, the strings of an array joined by commas.
 QMap<QString, QString> readPropertyList(const QString& path)
 {
     QMap<QString, QString> entries;
@@ -56,6 +57,11 @@ QMap<QString, QString> readPropertyList(const QString& path)
             key = xml.readElementText();
         } else if (name == QLatin1String("true") || name == QLatin1String("false")) {
             entries.insert(key, name.toString());
+        } else if (name == QLatin1String("array")) {
+            QStringList strings;
+            while (xml.readNextStartElement())
+                strings << xml.readElementText();
+            entries.insert(key, strings.join(QLatin1Char(',')));
         } else {
             entries.insert(key, xml.readElementText());
         }
@@ -209,6 +215,12 @@ TEST(Release, TheMacBundleDescribesItselfCompletely)
     EXPECT_EQ(plist.value(QStringLiteral("CFBundleIdentifier")), QString::fromLatin1(release::applicationId));
     EXPECT_EQ(plist.value(QStringLiteral("CFBundleExecutable")), QStringLiteral("Quillforge"));
     EXPECT_TRUE(QFileInfo::exists(QStringLiteral(QF_ICON_DIR "/") + plist.value(QStringLiteral("CFBundleIconFile"))));
+    // The system offers Quillforge in each language it speaks.
+    QStringList languages{QStringLiteral("en")};
+    for (QString language : language::available())
+        languages << language.replace(QStringLiteral("pt_BR"), QStringLiteral("pt-BR"))
+                         .replace(QStringLiteral("zh_CN"), QStringLiteral("zh-Hans"));
+    EXPECT_EQ(plist.value(QStringLiteral("CFBundleLocalizations")), languages.join(QLatin1Char(',')));
     // Without this text macOS refuses the Apple events that open Terminal.
     const QString why = plist.value(QStringLiteral("NSAppleEventsUsageDescription"));
     EXPECT_TRUE(why.contains(QStringLiteral("Terminal")) && why.contains(QStringLiteral("System Events")))
@@ -334,4 +346,33 @@ TEST(Release, TheMacPackageStepsSignNotariseOnlyWithCredentialsAndMakeADiskImage
     // Credentials without a Developer ID cannot notarise: nothing is sent to Apple.
     EXPECT_FALSE(dryRun({{QStringLiteral("QUILLFORGE_NOTARY_PROFILE"), QStringLiteral("quillforge")}})
                      .contains(QStringLiteral("notarytool")));
+}
+
+// The catalogues' check, on one with each kind of fault: an unfinished text, a placeholder
+// lost, a command name translated; and on one without.
+TEST(Release, TheTranslationCheckFindsUnfinishedTextsLostPlaceholdersAndTranslatedNames)
+{
+    const auto check = [](const QByteArray& messages) {
+        QTemporaryDir folder;
+        const QString catalogue = folder.filePath(QStringLiteral("quillforge_de.ts"));
+        test::writeFile(catalogue, "<?xml version=\"1.0\" encoding=\"utf-8\"?>\n<!DOCTYPE TS>\n"
+                                   "<TS version=\"2.1\" language=\"de\"><context><name>qf::HomeView</name>" +
+                                       messages + "</context></TS>\n");
+        return runApp(
+            {QStringLiteral(QF_SOURCE_DIR "/scripts/check-translations"), QStringLiteral("--catalogue"), catalogue}, {},
+            QStringLiteral("python3"));
+    };
+    const AppRun broken = check("<message><source>Install %1</source><translation>Installieren</translation></message>"
+                                "<message><source>Run npm</source><translation>Paketmanager starten</translation>"
+                                "</message><message><source>Back</source>"
+                                "<translation type=\"unfinished\"></translation></message>");
+    EXPECT_EQ(broken.exitCode, 1);
+    EXPECT_TRUE(broken.output.contains(QStringLiteral("\"Install %1\": placeholders none instead of %1")))
+        << broken.output.toStdString();
+    EXPECT_TRUE(broken.output.contains(QStringLiteral("\"Run npm\": \"npm\" must stay as it is")));
+    EXPECT_TRUE(broken.output.contains(QStringLiteral("\"Back\": unfinished")));
+
+    const AppRun whole = check("<message><source>Install %1</source><translation>%1 installieren</translation>"
+                               "</message>");
+    EXPECT_EQ(whole.exitCode, 0) << whole.output.toStdString();
 }
