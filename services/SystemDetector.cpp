@@ -47,15 +47,17 @@ std::optional<QDate> SystemDetector::nodeEndOfLife(int major)
 
 RequirementStatus SystemDetector::nodeStatus(const NodeCheck& node, int minimumMajor, const QDate& today)
 {
-    QString details = node.version.value_or(QStringLiteral("Not installed"));
+    QString details = node.version.value_or(QCoreApplication::translate("SystemDetector", "Not installed"));
     if (node.isInstalled && !node.meetsRequirement) {
-        details += QStringLiteral(" (needs %1 or newer)").arg(minimumMajor);
+        details =
+            QCoreApplication::translate("SystemDetector", "%1 (needs %2 or newer)").arg(details).arg(minimumMajor);
     } else if (node.isInstalled && node.version) {
         const QVersionNumber version =
             QVersionNumber::fromString(node.version->mid(node.version->startsWith(QLatin1Char('v')) ? 1 : 0));
         const std::optional<QDate> end = version.isNull() ? std::nullopt : nodeEndOfLife(version.majorVersion());
         if (end && *end < today)
-            details += QStringLiteral(" \u2013 no longer receives security fixes");
+            details = QCoreApplication::translate("SystemDetector", "%1 \u2013 no longer receives security fixes")
+                          .arg(details);
     }
     return {SystemRequirement::nodeJS, node.isInstalled && node.meetsRequirement, details, minimumMajor};
 }
@@ -76,8 +78,10 @@ RequirementStatus SystemDetector::diskSpaceStatus(std::optional<qint64> megabyte
     const bool enough = mb >= minimumDiskSpaceMB;
     // Short of space, the details say by how much.
     return {SystemRequirement::diskSpace, enough,
-            enough ? QString::number(mb) + QStringLiteral(" MB available")
-                   : QStringLiteral("%1 MB free, %2 MB needed").arg(mb).arg(minimumDiskSpaceMB)};
+            enough ? QCoreApplication::translate("SystemDetector", "%1 MB available").arg(mb)
+                   : QCoreApplication::translate("SystemDetector", "%1 MB free, %2 MB needed")
+                         .arg(mb)
+                         .arg(minimumDiskSpaceMB)};
 }
 
 QCoro::Task<std::optional<QString>> SystemDetector::getNodeVersion()

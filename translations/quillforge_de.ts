@@ -245,6 +245,14 @@
         <source>%1 needs Node.js %2 or newer.</source>
         <translation>%1 benötigt Node.js %2 oder neuer.</translation>
     </message>
+    <message>
+        <source>We&apos;ll install the CLI tool on your computer.</source>
+        <translation>Wir installieren das CLI-Tool auf Ihrem Computer.</translation>
+    </message>
+    <message>
+        <source>We&apos;ll install the CLI tool on your Mac.</source>
+        <translation>Wir installieren das CLI-Tool auf Ihrem Mac.</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -341,6 +349,14 @@
     <message>
         <source>The ~/Developer folder contains files. Please remove your projects first if you want to delete it.</source>
         <translation>Der Ordner ~/Developer enthält Dateien. Bitte entfernen Sie zuerst Ihre Projekte, wenn Sie ihn löschen möchten.</translation>
+    </message>
+    <message>
+        <source>Git is required but not found. Please install it by running: %1</source>
+        <translation>Git wird benötigt, wurde aber nicht gefunden. Bitte installieren Sie es mit diesem Befehl: %1</translation>
+    </message>
+    <message>
+        <source>Git is required but not found. Please install Xcode Command Line Tools by running: xcode-select --install</source>
+        <translation>Git wird benötigt, wurde aber nicht gefunden. Bitte installieren Sie die Xcode Command Line Tools mit diesem Befehl: xcode-select --install</translation>
     </message>
 </context>
 <context>
@@ -623,6 +639,26 @@
         <source>%1 not installed</source>
         <translation>%1 nicht installiert</translation>
     </message>
+    <message>
+        <source>Not installed</source>
+        <translation>Nicht installiert</translation>
+    </message>
+    <message>
+        <source>%1 (needs %2 or newer)</source>
+        <translation>%1 (benötigt %2 oder neuer)</translation>
+    </message>
+    <message>
+        <source>%1 – no longer receives security fixes</source>
+        <translation>%1 – erhält keine Sicherheitsupdates mehr</translation>
+    </message>
+    <message>
+        <source>%1 MB available</source>
+        <translation>%1 MB verfügbar</translation>
+    </message>
+    <message>
+        <source>%1 MB free, %2 MB needed</source>
+        <translation>%1 MB frei, %2 MB benötigt</translation>
+    </message>
 </context>
 <context>
     <name>SystemRequirement</name>
@@ -650,6 +686,73 @@
         <source>Free up space by emptying Trash or removing unused apps</source>
         <translation>Geben Sie Speicherplatz frei, indem Sie den Papierkorb leeren oder nicht benötigte Apps entfernen</translation>
     </message>
+    <message>
+        <source>64-bit Linux</source>
+        <translation>64-Bit-Linux</translation>
+    </message>
+    <message>
+        <source>Your computer needs to be running a 64-bit Linux system. Works on both Intel/AMD and ARM processors.</source>
+        <translation>Auf Ihrem Computer muss ein 64-Bit-Linux-System laufen. Funktioniert mit Intel/AMD- und ARM-Prozessoren.</translation>
+    </message>
+    <message>
+        <source>Install the 64-bit edition of your Linux distribution</source>
+        <translation>Installieren Sie die 64-Bit-Version Ihrer Linux-Distribution</translation>
+    </message>
+    <message>
+        <source>The AI assistant and its dependencies need about 1GB of free space on your computer. This is a one-time installation.</source>
+        <translation>Der KI-Assistent und seine Abhängigkeiten benötigen etwa 1 GB freien Speicherplatz auf Ihrem Computer. Die Installation ist einmalig.</translation>
+    </message>
+    <message>
+        <source>Install manually: download it from %1 (or use your system&apos;s package manager)</source>
+        <translation>Manuell installieren: Laden Sie es von %1 herunter (oder verwenden Sie die Paketverwaltung Ihres Systems)</translation>
+    </message>
+    <message>
+        <source>macOS 14 or later</source>
+        <translation>macOS 14 oder neuer</translation>
+    </message>
+    <message>
+        <source>Your Mac needs to be running macOS 14 (Sonoma) or later. Works on both Intel and Apple Silicon.</source>
+        <translation>Auf Ihrem Mac muss macOS 14 (Sonoma) oder neuer laufen. Funktioniert mit Intel-Prozessoren und Apple Silicon.</translation>
+    </message>
+    <message>
+        <source>Update your Mac: Apple Menu → System Settings → General → Software Update</source>
+        <translation>Aktualisieren Sie Ihren Mac: Apple-Menü → Systemeinstellungen → Allgemein → Softwareupdate</translation>
+    </message>
+    <message>
+        <source>The AI assistant and its dependencies need about 1GB of free space on your Mac. This is a one-time installation.</source>
+        <translation>Der KI-Assistent und seine Abhängigkeiten benötigen etwa 1 GB freien Speicherplatz auf Ihrem Mac. Die Installation ist einmalig.</translation>
+    </message>
+    <message>
+        <source>Install manually: brew install node (or download from %1)</source>
+        <translation>Manuell installieren: brew install node (oder von %1 herunterladen)</translation>
+    </message>
+</context>
+<context>
+    <name>SystemTool</name>
+    <message>
+        <source>Open your file manager to manage this folder</source>
+        <translation>Öffnen Sie Ihren Dateimanager, um diesen Ordner zu verwalten</translation>
+    </message>
+    <message>
+        <source>Git &amp; Build Tools</source>
+        <translation>Git &amp; Build-Tools</translation>
+    </message>
+    <message>
+        <source>Provides Git and build tools</source>
+        <translation>Stellt Git und Build-Tools bereit</translation>
+    </message>
+    <message>
+        <source>Use your system&apos;s package manager to remove Git</source>
+        <translation>Entfernen Sie Git über die Paketverwaltung Ihres Systems</translation>
+    </message>
+    <message>
+        <source>Open Finder to manage this folder</source>
+        <translation>Öffnen Sie den Finder, um diesen Ordner zu verwalten</translation>
+    </message>
+    <message>
+        <source>Xcode CLI Tools</source>
+        <translation>Xcode CLI Tools</translation>
+    </message>
 </context>
 <context>
     <name>SystemToolAction</name>
@@ -668,6 +771,36 @@
     <message>
         <source>Open a terminal yourself and type this line:</source>
         <translation>Öffnen Sie selbst ein Terminal und geben Sie diese Zeile ein:</translation>
+    </message>
+</context>
+<context>
+    <name>TerminalLaunchedView</name>
+    <message>
+        <source>%1 launched in a new terminal window</source>
+        <translation>%1 wurde in einem neuen Terminalfenster gestartet</translation>
+    </message>
+    <message>
+        <source>Switch to the terminal window to start using %1</source>
+        <translation>Wechseln Sie zum Terminalfenster, um %1 zu verwenden</translation>
+    </message>
+    <message>
+        <source>%1 launched in Terminal</source>
+        <translation>%1 wurde im Terminal gestartet</translation>
+    </message>
+    <message>
+        <source>Switch to Terminal.app to start using %1</source>
+        <translation>Wechseln Sie zum Terminal, um %1 zu verwenden</translation>
+    </message>
+</context>
+<context>
+    <name>TerminalLauncher</name>
+    <message>
+        <source>Quillforge is not allowed to control Terminal</source>
+        <translation>Quillforge darf das Terminal nicht steuern</translation>
+    </message>
+    <message>
+        <source>To let it open Terminal for you, turn on Terminal under Quillforge in System Settings &gt; Privacy &amp; Security &gt; Automation. Or open Terminal yourself and type this line:</source>
+        <translation>Damit Quillforge das Terminal für Sie öffnen kann, aktivieren Sie in Systemeinstellungen &gt; Datenschutz &amp; Sicherheit &gt; Automation unter Quillforge den Eintrag „Terminal“. Oder öffnen Sie das Terminal selbst und geben Sie diese Zeile ein:</translation>
     </message>
 </context>
 <context>
@@ -781,6 +914,14 @@
     <message>
         <source>Node.js was installed, but the Node.js found first is still %1 in %2, which is too old for the update of %3. Remove the older Node.js, then try again.</source>
         <translation>Node.js wurde installiert, aber zuerst wird noch Node.js %1 in %2 gefunden, das für das Update von %3 zu alt ist. Entfernen Sie das ältere Node.js und versuchen Sie es dann erneut.</translation>
+    </message>
+    <message>
+        <source>%1 %2 needs Node.js %3 or newer; this computer has %4.</source>
+        <translation>%1 %2 benötigt Node.js %3 oder neuer; auf diesem Computer ist %4 installiert.</translation>
+    </message>
+    <message>
+        <source>%1 %2 needs Node.js %3 or newer; this Mac has %4.</source>
+        <translation>%1 %2 benötigt Node.js %3 oder neuer; auf diesem Mac ist %4 installiert.</translation>
     </message>
 </context>
 <context>

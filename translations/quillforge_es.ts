@@ -245,6 +245,14 @@
         <source>%1 needs Node.js %2 or newer.</source>
         <translation>%1 necesita Node.js %2 o posterior.</translation>
     </message>
+    <message>
+        <source>We&apos;ll install the CLI tool on your computer.</source>
+        <translation>Instalaremos la herramienta de línea de comandos en tu ordenador.</translation>
+    </message>
+    <message>
+        <source>We&apos;ll install the CLI tool on your Mac.</source>
+        <translation>Instalaremos la herramienta de línea de comandos en tu Mac.</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -341,6 +349,14 @@
     <message>
         <source>The ~/Developer folder contains files. Please remove your projects first if you want to delete it.</source>
         <translation>La carpeta ~/Developer contiene archivos. Si quieres eliminarla, retira antes tus proyectos.</translation>
+    </message>
+    <message>
+        <source>Git is required but not found. Please install it by running: %1</source>
+        <translation>Se necesita Git, pero no se ha encontrado. Instálalo ejecutando: %1</translation>
+    </message>
+    <message>
+        <source>Git is required but not found. Please install Xcode Command Line Tools by running: xcode-select --install</source>
+        <translation>Se necesita Git, pero no se ha encontrado. Instala las Xcode Command Line Tools ejecutando: xcode-select --install</translation>
     </message>
 </context>
 <context>
@@ -623,6 +639,26 @@
         <source>%1 not installed</source>
         <translation>Falta instalar %1</translation>
     </message>
+    <message>
+        <source>Not installed</source>
+        <translation>No instalado</translation>
+    </message>
+    <message>
+        <source>%1 (needs %2 or newer)</source>
+        <translation>%1 (se necesita la %2 o posterior)</translation>
+    </message>
+    <message>
+        <source>%1 – no longer receives security fixes</source>
+        <translation>%1 – ya no recibe parches de seguridad</translation>
+    </message>
+    <message>
+        <source>%1 MB available</source>
+        <translation>%1 MB disponibles</translation>
+    </message>
+    <message>
+        <source>%1 MB free, %2 MB needed</source>
+        <translation>%1 MB libres, se necesitan %2 MB</translation>
+    </message>
 </context>
 <context>
     <name>SystemRequirement</name>
@@ -650,6 +686,73 @@
         <source>Free up space by emptying Trash or removing unused apps</source>
         <translation>Libera espacio vaciando la Papelera o eliminando apps que no uses</translation>
     </message>
+    <message>
+        <source>64-bit Linux</source>
+        <translation>Linux de 64 bits</translation>
+    </message>
+    <message>
+        <source>Your computer needs to be running a 64-bit Linux system. Works on both Intel/AMD and ARM processors.</source>
+        <translation>Tu ordenador necesita un sistema Linux de 64 bits. Funciona tanto con procesadores Intel/AMD como ARM.</translation>
+    </message>
+    <message>
+        <source>Install the 64-bit edition of your Linux distribution</source>
+        <translation>Instala la edición de 64 bits de tu distribución de Linux</translation>
+    </message>
+    <message>
+        <source>The AI assistant and its dependencies need about 1GB of free space on your computer. This is a one-time installation.</source>
+        <translation>El asistente de IA y sus dependencias necesitan aproximadamente 1 GB de espacio libre en tu ordenador. Solo se instala una vez.</translation>
+    </message>
+    <message>
+        <source>Install manually: download it from %1 (or use your system&apos;s package manager)</source>
+        <translation>Instálalo manualmente: descárgalo de %1 (o usa el gestor de paquetes de tu sistema)</translation>
+    </message>
+    <message>
+        <source>macOS 14 or later</source>
+        <translation>macOS 14 o posterior</translation>
+    </message>
+    <message>
+        <source>Your Mac needs to be running macOS 14 (Sonoma) or later. Works on both Intel and Apple Silicon.</source>
+        <translation>Tu Mac necesita macOS 14 (Sonoma) o posterior. Funciona tanto en Mac con Intel como con Apple Silicon.</translation>
+    </message>
+    <message>
+        <source>Update your Mac: Apple Menu → System Settings → General → Software Update</source>
+        <translation>Actualiza tu Mac: menú Apple → Ajustes del Sistema → General → Actualización de software</translation>
+    </message>
+    <message>
+        <source>The AI assistant and its dependencies need about 1GB of free space on your Mac. This is a one-time installation.</source>
+        <translation>El asistente de IA y sus dependencias necesitan aproximadamente 1 GB de espacio libre en tu Mac. Solo se instala una vez.</translation>
+    </message>
+    <message>
+        <source>Install manually: brew install node (or download from %1)</source>
+        <translation>Instálalo manualmente: brew install node (o descárgalo de %1)</translation>
+    </message>
+</context>
+<context>
+    <name>SystemTool</name>
+    <message>
+        <source>Open your file manager to manage this folder</source>
+        <translation>Abre tu gestor de archivos para administrar esta carpeta</translation>
+    </message>
+    <message>
+        <source>Git &amp; Build Tools</source>
+        <translation>Git y herramientas de compilación</translation>
+    </message>
+    <message>
+        <source>Provides Git and build tools</source>
+        <translation>Proporciona Git y las herramientas de compilación</translation>
+    </message>
+    <message>
+        <source>Use your system&apos;s package manager to remove Git</source>
+        <translation>Usa el gestor de paquetes de tu sistema para eliminar Git</translation>
+    </message>
+    <message>
+        <source>Open Finder to manage this folder</source>
+        <translation>Abre Finder para administrar esta carpeta</translation>
+    </message>
+    <message>
+        <source>Xcode CLI Tools</source>
+        <translation>Xcode CLI Tools</translation>
+    </message>
 </context>
 <context>
     <name>SystemToolAction</name>
@@ -668,6 +771,36 @@
     <message>
         <source>Open a terminal yourself and type this line:</source>
         <translation>Abre una terminal por tu cuenta y escribe esta línea:</translation>
+    </message>
+</context>
+<context>
+    <name>TerminalLaunchedView</name>
+    <message>
+        <source>%1 launched in a new terminal window</source>
+        <translation>%1 se ha abierto en una nueva ventana de terminal</translation>
+    </message>
+    <message>
+        <source>Switch to the terminal window to start using %1</source>
+        <translation>Ve a la ventana de terminal para empezar a usar %1</translation>
+    </message>
+    <message>
+        <source>%1 launched in Terminal</source>
+        <translation>%1 se ha abierto en Terminal</translation>
+    </message>
+    <message>
+        <source>Switch to Terminal.app to start using %1</source>
+        <translation>Ve a Terminal.app para empezar a usar %1</translation>
+    </message>
+</context>
+<context>
+    <name>TerminalLauncher</name>
+    <message>
+        <source>Quillforge is not allowed to control Terminal</source>
+        <translation>Quillforge no tiene permiso para controlar Terminal</translation>
+    </message>
+    <message>
+        <source>To let it open Terminal for you, turn on Terminal under Quillforge in System Settings &gt; Privacy &amp; Security &gt; Automation. Or open Terminal yourself and type this line:</source>
+        <translation>Para que pueda abrir Terminal por ti, activa Terminal debajo de Quillforge en Ajustes del Sistema &gt; Privacidad y seguridad &gt; Automatización. O abre Terminal por tu cuenta y escribe esta línea:</translation>
     </message>
 </context>
 <context>
@@ -781,6 +914,14 @@
     <message>
         <source>Node.js was installed, but the Node.js found first is still %1 in %2, which is too old for the update of %3. Remove the older Node.js, then try again.</source>
         <translation>Node.js se ha instalado, pero el primer Node.js que se encuentra sigue siendo %1 en %2, demasiado antiguo para actualizar %3. Elimina el Node.js más antiguo y vuelve a intentarlo.</translation>
+    </message>
+    <message>
+        <source>%1 %2 needs Node.js %3 or newer; this computer has %4.</source>
+        <translation>%1 %2 necesita Node.js %3 o posterior; este ordenador tiene la versión %4.</translation>
+    </message>
+    <message>
+        <source>%1 %2 needs Node.js %3 or newer; this Mac has %4.</source>
+        <translation>%1 %2 necesita Node.js %3 o posterior; este Mac tiene la versión %4.</translation>
     </message>
 </context>
 <context>

@@ -245,6 +245,14 @@
         <source>%1 needs Node.js %2 or newer.</source>
         <translation>%1 nécessite Node.js %2 ou une version ultérieure.</translation>
     </message>
+    <message>
+        <source>We&apos;ll install the CLI tool on your computer.</source>
+        <translation>Nous allons installer l’outil CLI sur votre ordinateur.</translation>
+    </message>
+    <message>
+        <source>We&apos;ll install the CLI tool on your Mac.</source>
+        <translation>Nous allons installer l’outil CLI sur votre Mac.</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -341,6 +349,14 @@
     <message>
         <source>The ~/Developer folder contains files. Please remove your projects first if you want to delete it.</source>
         <translation>Le dossier ~/Developer contient des fichiers. Supprimez d’abord vos projets si vous souhaitez le supprimer.</translation>
+    </message>
+    <message>
+        <source>Git is required but not found. Please install it by running: %1</source>
+        <translation>Git est nécessaire mais n’a pas été trouvé. Veuillez l’installer en exécutant&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Git is required but not found. Please install Xcode Command Line Tools by running: xcode-select --install</source>
+        <translation>Git est nécessaire mais n’a pas été trouvé. Veuillez installer les Xcode Command Line Tools en exécutant&#xa0;: xcode-select --install</translation>
     </message>
 </context>
 <context>
@@ -623,6 +639,26 @@
         <source>%1 not installed</source>
         <translation>%1 non installé</translation>
     </message>
+    <message>
+        <source>Not installed</source>
+        <translation>Non installé</translation>
+    </message>
+    <message>
+        <source>%1 (needs %2 or newer)</source>
+        <translation>%1 (version %2 ou ultérieure requise)</translation>
+    </message>
+    <message>
+        <source>%1 – no longer receives security fixes</source>
+        <translation>%1 – ne reçoit plus de correctifs de sécurité</translation>
+    </message>
+    <message>
+        <source>%1 MB available</source>
+        <translation>%1 Mo disponibles</translation>
+    </message>
+    <message>
+        <source>%1 MB free, %2 MB needed</source>
+        <translation>%1 Mo libres, %2 Mo nécessaires</translation>
+    </message>
 </context>
 <context>
     <name>SystemRequirement</name>
@@ -650,6 +686,73 @@
         <source>Free up space by emptying Trash or removing unused apps</source>
         <translation>Libérez de l’espace en vidant la Corbeille ou en supprimant des apps inutilisées</translation>
     </message>
+    <message>
+        <source>64-bit Linux</source>
+        <translation>Linux 64 bits</translation>
+    </message>
+    <message>
+        <source>Your computer needs to be running a 64-bit Linux system. Works on both Intel/AMD and ARM processors.</source>
+        <translation>Votre ordinateur doit fonctionner sous un système Linux 64 bits. Compatible avec les processeurs Intel/AMD et ARM.</translation>
+    </message>
+    <message>
+        <source>Install the 64-bit edition of your Linux distribution</source>
+        <translation>Installez l’édition 64 bits de votre distribution Linux</translation>
+    </message>
+    <message>
+        <source>The AI assistant and its dependencies need about 1GB of free space on your computer. This is a one-time installation.</source>
+        <translation>L’assistant IA et ses dépendances nécessitent environ 1 Go d’espace libre sur votre ordinateur. Cette installation n’a lieu qu’une seule fois.</translation>
+    </message>
+    <message>
+        <source>Install manually: download it from %1 (or use your system&apos;s package manager)</source>
+        <translation>Installation manuelle&#xa0;: téléchargez-le depuis %1 (ou utilisez le gestionnaire de paquets de votre système)</translation>
+    </message>
+    <message>
+        <source>macOS 14 or later</source>
+        <translation>macOS 14 ou version ultérieure</translation>
+    </message>
+    <message>
+        <source>Your Mac needs to be running macOS 14 (Sonoma) or later. Works on both Intel and Apple Silicon.</source>
+        <translation>Votre Mac doit fonctionner sous macOS 14 (Sonoma) ou une version ultérieure. Compatible avec les Mac Intel et Apple Silicon.</translation>
+    </message>
+    <message>
+        <source>Update your Mac: Apple Menu → System Settings → General → Software Update</source>
+        <translation>Mettez à jour votre Mac&#xa0;: menu Pomme → Réglages Système → Général → Mise à jour de logiciels</translation>
+    </message>
+    <message>
+        <source>The AI assistant and its dependencies need about 1GB of free space on your Mac. This is a one-time installation.</source>
+        <translation>L’assistant IA et ses dépendances nécessitent environ 1 Go d’espace libre sur votre Mac. Cette installation n’a lieu qu’une seule fois.</translation>
+    </message>
+    <message>
+        <source>Install manually: brew install node (or download from %1)</source>
+        <translation>Installation manuelle&#xa0;: brew install node (ou téléchargez-le depuis %1)</translation>
+    </message>
+</context>
+<context>
+    <name>SystemTool</name>
+    <message>
+        <source>Open your file manager to manage this folder</source>
+        <translation>Ouvrez votre gestionnaire de fichiers pour gérer ce dossier</translation>
+    </message>
+    <message>
+        <source>Git &amp; Build Tools</source>
+        <translation>Git et outils de compilation</translation>
+    </message>
+    <message>
+        <source>Provides Git and build tools</source>
+        <translation>Fournit Git et les outils de compilation</translation>
+    </message>
+    <message>
+        <source>Use your system&apos;s package manager to remove Git</source>
+        <translation>Utilisez le gestionnaire de paquets de votre système pour supprimer Git</translation>
+    </message>
+    <message>
+        <source>Open Finder to manage this folder</source>
+        <translation>Ouvrez le Finder pour gérer ce dossier</translation>
+    </message>
+    <message>
+        <source>Xcode CLI Tools</source>
+        <translation>Xcode CLI Tools</translation>
+    </message>
 </context>
 <context>
     <name>SystemToolAction</name>
@@ -668,6 +771,36 @@
     <message>
         <source>Open a terminal yourself and type this line:</source>
         <translation>Ouvrez vous-même un terminal et tapez cette ligne&#xa0;:</translation>
+    </message>
+</context>
+<context>
+    <name>TerminalLaunchedView</name>
+    <message>
+        <source>%1 launched in a new terminal window</source>
+        <translation>%1 a été lancé dans une nouvelle fenêtre de terminal</translation>
+    </message>
+    <message>
+        <source>Switch to the terminal window to start using %1</source>
+        <translation>Passez à la fenêtre de terminal pour commencer à utiliser %1</translation>
+    </message>
+    <message>
+        <source>%1 launched in Terminal</source>
+        <translation>%1 a été lancé dans Terminal</translation>
+    </message>
+    <message>
+        <source>Switch to Terminal.app to start using %1</source>
+        <translation>Passez à Terminal pour commencer à utiliser %1</translation>
+    </message>
+</context>
+<context>
+    <name>TerminalLauncher</name>
+    <message>
+        <source>Quillforge is not allowed to control Terminal</source>
+        <translation>Quillforge n’est pas autorisé à contrôler Terminal</translation>
+    </message>
+    <message>
+        <source>To let it open Terminal for you, turn on Terminal under Quillforge in System Settings &gt; Privacy &amp; Security &gt; Automation. Or open Terminal yourself and type this line:</source>
+        <translation>Pour que Quillforge puisse ouvrir Terminal pour vous, activez Terminal sous Quillforge dans Réglages Système &gt; Confidentialité et sécurité &gt; Automatisation. Ou ouvrez vous-même Terminal et tapez cette ligne&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -781,6 +914,14 @@
     <message>
         <source>Node.js was installed, but the Node.js found first is still %1 in %2, which is too old for the update of %3. Remove the older Node.js, then try again.</source>
         <translation>Node.js a été installé, mais le premier Node.js trouvé est toujours la version %1 dans %2, trop ancienne pour la mise à jour de %3. Supprimez l’ancien Node.js, puis réessayez.</translation>
+    </message>
+    <message>
+        <source>%1 %2 needs Node.js %3 or newer; this computer has %4.</source>
+        <translation>%1 %2 nécessite Node.js %3 ou une version ultérieure&#xa0;; cet ordinateur dispose de la version %4.</translation>
+    </message>
+    <message>
+        <source>%1 %2 needs Node.js %3 or newer; this Mac has %4.</source>
+        <translation>%1 %2 nécessite Node.js %3 ou une version ultérieure&#xa0;; ce Mac dispose de la version %4.</translation>
     </message>
 </context>
 <context>

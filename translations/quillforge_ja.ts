@@ -245,6 +245,14 @@
         <source>%1 needs Node.js %2 or newer.</source>
         <translation>%1 には Node.js %2 以降が必要です。</translation>
     </message>
+    <message>
+        <source>We&apos;ll install the CLI tool on your computer.</source>
+        <translation>CLI ツールをコンピュータにインストールします。</translation>
+    </message>
+    <message>
+        <source>We&apos;ll install the CLI tool on your Mac.</source>
+        <translation>CLI ツールをお使いの Mac にインストールします。</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -341,6 +349,14 @@
     <message>
         <source>The ~/Developer folder contains files. Please remove your projects first if you want to delete it.</source>
         <translation>~/Developer フォルダにはファイルがあります。このフォルダを削除したい場合は、先にプロジェクトを移動または削除してください。</translation>
+    </message>
+    <message>
+        <source>Git is required but not found. Please install it by running: %1</source>
+        <translation>Git が必要ですが、見つかりませんでした。次のコマンドを実行してインストールしてください：%1</translation>
+    </message>
+    <message>
+        <source>Git is required but not found. Please install Xcode Command Line Tools by running: xcode-select --install</source>
+        <translation>Git が必要ですが、見つかりませんでした。次のコマンドを実行して Xcode Command Line Tools をインストールしてください：xcode-select --install</translation>
     </message>
 </context>
 <context>
@@ -623,6 +639,26 @@
         <source>%1 not installed</source>
         <translation>%1 がインストールされていません</translation>
     </message>
+    <message>
+        <source>Not installed</source>
+        <translation>未インストール</translation>
+    </message>
+    <message>
+        <source>%1 (needs %2 or newer)</source>
+        <translation>%1（%2 以降が必要です）</translation>
+    </message>
+    <message>
+        <source>%1 – no longer receives security fixes</source>
+        <translation>%1 – セキュリティ修正の提供は終了しています</translation>
+    </message>
+    <message>
+        <source>%1 MB available</source>
+        <translation>%1 MB 使用可能</translation>
+    </message>
+    <message>
+        <source>%1 MB free, %2 MB needed</source>
+        <translation>空き %1 MB、必要 %2 MB</translation>
+    </message>
 </context>
 <context>
     <name>SystemRequirement</name>
@@ -650,6 +686,73 @@
         <source>Free up space by emptying Trash or removing unused apps</source>
         <translation>ゴミ箱を空にするか、使っていない App を削除して空き容量を増やしてください</translation>
     </message>
+    <message>
+        <source>64-bit Linux</source>
+        <translation>64 ビット版 Linux</translation>
+    </message>
+    <message>
+        <source>Your computer needs to be running a 64-bit Linux system. Works on both Intel/AMD and ARM processors.</source>
+        <translation>コンピュータで 64 ビット版の Linux が動作している必要があります。Intel/AMD と ARM のどちらのプロセッサでも動作します。</translation>
+    </message>
+    <message>
+        <source>Install the 64-bit edition of your Linux distribution</source>
+        <translation>お使いの Linux ディストリビューションの 64 ビット版をインストールしてください</translation>
+    </message>
+    <message>
+        <source>The AI assistant and its dependencies need about 1GB of free space on your computer. This is a one-time installation.</source>
+        <translation>AI アシスタントとその動作に必要なソフトウェアのために、コンピュータに約 1 GB の空き容量が必要です。インストールは一度だけです。</translation>
+    </message>
+    <message>
+        <source>Install manually: download it from %1 (or use your system&apos;s package manager)</source>
+        <translation>手動でインストール：%1 からダウンロード（またはシステムのパッケージマネージャを使用）</translation>
+    </message>
+    <message>
+        <source>macOS 14 or later</source>
+        <translation>macOS 14 以降</translation>
+    </message>
+    <message>
+        <source>Your Mac needs to be running macOS 14 (Sonoma) or later. Works on both Intel and Apple Silicon.</source>
+        <translation>お使いの Mac で macOS 14（Sonoma）以降が動作している必要があります。Intel と Apple シリコンのどちらの Mac でも動作します。</translation>
+    </message>
+    <message>
+        <source>Update your Mac: Apple Menu → System Settings → General → Software Update</source>
+        <translation>Mac をアップデートしてください：Apple メニュー →「システム設定」→「一般」→「ソフトウェアアップデート」</translation>
+    </message>
+    <message>
+        <source>The AI assistant and its dependencies need about 1GB of free space on your Mac. This is a one-time installation.</source>
+        <translation>AI アシスタントとその動作に必要なソフトウェアのために、お使いの Mac に約 1 GB の空き容量が必要です。インストールは一度だけです。</translation>
+    </message>
+    <message>
+        <source>Install manually: brew install node (or download from %1)</source>
+        <translation>手動でインストール：brew install node（または %1 からダウンロード）</translation>
+    </message>
+</context>
+<context>
+    <name>SystemTool</name>
+    <message>
+        <source>Open your file manager to manage this folder</source>
+        <translation>このフォルダはファイルマネージャを開いて管理してください</translation>
+    </message>
+    <message>
+        <source>Git &amp; Build Tools</source>
+        <translation>Git とビルドツール</translation>
+    </message>
+    <message>
+        <source>Provides Git and build tools</source>
+        <translation>Git とビルドツールを提供</translation>
+    </message>
+    <message>
+        <source>Use your system&apos;s package manager to remove Git</source>
+        <translation>Git を削除するには、システムのパッケージマネージャを使ってください</translation>
+    </message>
+    <message>
+        <source>Open Finder to manage this folder</source>
+        <translation>このフォルダは Finder を開いて管理してください</translation>
+    </message>
+    <message>
+        <source>Xcode CLI Tools</source>
+        <translation>Xcode CLI Tools</translation>
+    </message>
 </context>
 <context>
     <name>SystemToolAction</name>
@@ -668,6 +771,36 @@
     <message>
         <source>Open a terminal yourself and type this line:</source>
         <translation>ご自身でターミナルを開き、次の行を入力してください：</translation>
+    </message>
+</context>
+<context>
+    <name>TerminalLaunchedView</name>
+    <message>
+        <source>%1 launched in a new terminal window</source>
+        <translation>%1 を新しいターミナルウインドウで起動しました</translation>
+    </message>
+    <message>
+        <source>Switch to the terminal window to start using %1</source>
+        <translation>ターミナルウインドウに切り替えて、%1 を使い始めましょう</translation>
+    </message>
+    <message>
+        <source>%1 launched in Terminal</source>
+        <translation>%1 をターミナルで起動しました</translation>
+    </message>
+    <message>
+        <source>Switch to Terminal.app to start using %1</source>
+        <translation>ターミナルに切り替えて、%1 を使い始めましょう</translation>
+    </message>
+</context>
+<context>
+    <name>TerminalLauncher</name>
+    <message>
+        <source>Quillforge is not allowed to control Terminal</source>
+        <translation>Quillforge にはターミナルを操作する許可がありません</translation>
+    </message>
+    <message>
+        <source>To let it open Terminal for you, turn on Terminal under Quillforge in System Settings &gt; Privacy &amp; Security &gt; Automation. Or open Terminal yourself and type this line:</source>
+        <translation>Quillforge がターミナルを開けるようにするには、「システム設定」&gt;「プライバシーとセキュリティ」&gt;「オートメーション」で、Quillforge の下にある「ターミナル」をオンにしてください。または、ご自身でターミナルを開き、次の行を入力してください：</translation>
     </message>
 </context>
 <context>
@@ -781,6 +914,14 @@
     <message>
         <source>Node.js was installed, but the Node.js found first is still %1 in %2, which is too old for the update of %3. Remove the older Node.js, then try again.</source>
         <translation>Node.js はインストールされましたが、最初に見つかる Node.js はまだ %2 にある %1 で、%3 のアップデートには古すぎます。古い Node.js を削除してから、もう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>%1 %2 needs Node.js %3 or newer; this computer has %4.</source>
+        <translation>%1 %2 には Node.js %3 以降が必要ですが、このコンピュータにあるのは %4 です。</translation>
+    </message>
+    <message>
+        <source>%1 %2 needs Node.js %3 or newer; this Mac has %4.</source>
+        <translation>%1 %2 には Node.js %3 以降が必要ですが、この Mac にあるのは %4 です。</translation>
     </message>
 </context>
 <context>

@@ -245,6 +245,14 @@
         <source>%1 needs Node.js %2 or newer.</source>
         <translation>%1 precisa do Node.js %2 ou mais recente.</translation>
     </message>
+    <message>
+        <source>We&apos;ll install the CLI tool on your computer.</source>
+        <translation>Vamos instalar a ferramenta de linha de comando no seu computador.</translation>
+    </message>
+    <message>
+        <source>We&apos;ll install the CLI tool on your Mac.</source>
+        <translation>Vamos instalar a ferramenta de linha de comando no seu Mac.</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -341,6 +349,14 @@
     <message>
         <source>The ~/Developer folder contains files. Please remove your projects first if you want to delete it.</source>
         <translation>A pasta ~/Developer contém arquivos. Se quiser apagá-la, remova seus projetos antes.</translation>
+    </message>
+    <message>
+        <source>Git is required but not found. Please install it by running: %1</source>
+        <translation>O Git é necessário, mas não foi encontrado. Instale-o executando: %1</translation>
+    </message>
+    <message>
+        <source>Git is required but not found. Please install Xcode Command Line Tools by running: xcode-select --install</source>
+        <translation>O Git é necessário, mas não foi encontrado. Instale as Xcode Command Line Tools executando: xcode-select --install</translation>
     </message>
 </context>
 <context>
@@ -623,6 +639,26 @@
         <source>%1 not installed</source>
         <translation>Falta instalar %1</translation>
     </message>
+    <message>
+        <source>Not installed</source>
+        <translation>Não instalado</translation>
+    </message>
+    <message>
+        <source>%1 (needs %2 or newer)</source>
+        <translation>%1 (requer %2 ou mais recente)</translation>
+    </message>
+    <message>
+        <source>%1 – no longer receives security fixes</source>
+        <translation>%1 – não recebe mais correções de segurança</translation>
+    </message>
+    <message>
+        <source>%1 MB available</source>
+        <translation>%1 MB disponíveis</translation>
+    </message>
+    <message>
+        <source>%1 MB free, %2 MB needed</source>
+        <translation>%1 MB livres, %2 MB necessários</translation>
+    </message>
 </context>
 <context>
     <name>SystemRequirement</name>
@@ -650,6 +686,73 @@
         <source>Free up space by emptying Trash or removing unused apps</source>
         <translation>Libere espaço esvaziando a lixeira ou removendo apps que você não usa</translation>
     </message>
+    <message>
+        <source>64-bit Linux</source>
+        <translation>Linux de 64 bits</translation>
+    </message>
+    <message>
+        <source>Your computer needs to be running a 64-bit Linux system. Works on both Intel/AMD and ARM processors.</source>
+        <translation>Seu computador precisa usar um sistema Linux de 64 bits. Funciona com processadores Intel/AMD e ARM.</translation>
+    </message>
+    <message>
+        <source>Install the 64-bit edition of your Linux distribution</source>
+        <translation>Instale a edição de 64 bits da sua distribuição Linux</translation>
+    </message>
+    <message>
+        <source>The AI assistant and its dependencies need about 1GB of free space on your computer. This is a one-time installation.</source>
+        <translation>O assistente de IA e as dependências dele precisam de cerca de 1 GB de espaço livre no seu computador. A instalação é feita uma única vez.</translation>
+    </message>
+    <message>
+        <source>Install manually: download it from %1 (or use your system&apos;s package manager)</source>
+        <translation>Instale manualmente: baixe-o em %1 (ou use o gerenciador de pacotes do seu sistema)</translation>
+    </message>
+    <message>
+        <source>macOS 14 or later</source>
+        <translation>macOS 14 ou posterior</translation>
+    </message>
+    <message>
+        <source>Your Mac needs to be running macOS 14 (Sonoma) or later. Works on both Intel and Apple Silicon.</source>
+        <translation>Seu Mac precisa ter o macOS 14 (Sonoma) ou posterior. Funciona em Macs com Intel e com Apple Silicon.</translation>
+    </message>
+    <message>
+        <source>Update your Mac: Apple Menu → System Settings → General → Software Update</source>
+        <translation>Atualize seu Mac: menu Apple → Ajustes do Sistema → Geral → Atualização de Software</translation>
+    </message>
+    <message>
+        <source>The AI assistant and its dependencies need about 1GB of free space on your Mac. This is a one-time installation.</source>
+        <translation>O assistente de IA e as dependências dele precisam de cerca de 1 GB de espaço livre no seu Mac. A instalação é feita uma única vez.</translation>
+    </message>
+    <message>
+        <source>Install manually: brew install node (or download from %1)</source>
+        <translation>Instale manualmente: brew install node (ou baixe-o em %1)</translation>
+    </message>
+</context>
+<context>
+    <name>SystemTool</name>
+    <message>
+        <source>Open your file manager to manage this folder</source>
+        <translation>Abra seu gerenciador de arquivos para organizar esta pasta</translation>
+    </message>
+    <message>
+        <source>Git &amp; Build Tools</source>
+        <translation>Git e ferramentas de compilação</translation>
+    </message>
+    <message>
+        <source>Provides Git and build tools</source>
+        <translation>Fornece o Git e as ferramentas de compilação</translation>
+    </message>
+    <message>
+        <source>Use your system&apos;s package manager to remove Git</source>
+        <translation>Use o gerenciador de pacotes do seu sistema para remover o Git</translation>
+    </message>
+    <message>
+        <source>Open Finder to manage this folder</source>
+        <translation>Abra o Finder para organizar esta pasta</translation>
+    </message>
+    <message>
+        <source>Xcode CLI Tools</source>
+        <translation>Xcode CLI Tools</translation>
+    </message>
 </context>
 <context>
     <name>SystemToolAction</name>
@@ -668,6 +771,36 @@
     <message>
         <source>Open a terminal yourself and type this line:</source>
         <translation>Abra um terminal por conta própria e digite esta linha:</translation>
+    </message>
+</context>
+<context>
+    <name>TerminalLaunchedView</name>
+    <message>
+        <source>%1 launched in a new terminal window</source>
+        <translation>O %1 foi aberto em uma nova janela do terminal</translation>
+    </message>
+    <message>
+        <source>Switch to the terminal window to start using %1</source>
+        <translation>Vá para a janela do terminal para começar a usar o %1</translation>
+    </message>
+    <message>
+        <source>%1 launched in Terminal</source>
+        <translation>O %1 foi aberto no Terminal</translation>
+    </message>
+    <message>
+        <source>Switch to Terminal.app to start using %1</source>
+        <translation>Vá para o Terminal.app para começar a usar o %1</translation>
+    </message>
+</context>
+<context>
+    <name>TerminalLauncher</name>
+    <message>
+        <source>Quillforge is not allowed to control Terminal</source>
+        <translation>O Quillforge não tem permissão para controlar o Terminal</translation>
+    </message>
+    <message>
+        <source>To let it open Terminal for you, turn on Terminal under Quillforge in System Settings &gt; Privacy &amp; Security &gt; Automation. Or open Terminal yourself and type this line:</source>
+        <translation>Para que ele possa abrir o Terminal para você, ative o Terminal abaixo de Quillforge em Ajustes do Sistema &gt; Privacidade e Segurança &gt; Automação. Ou abra o Terminal por conta própria e digite esta linha:</translation>
     </message>
 </context>
 <context>
@@ -781,6 +914,14 @@
     <message>
         <source>Node.js was installed, but the Node.js found first is still %1 in %2, which is too old for the update of %3. Remove the older Node.js, then try again.</source>
         <translation>O Node.js foi instalado, mas o primeiro Node.js encontrado ainda é %1 em %2, antigo demais para a atualização do %3. Remova o Node.js mais antigo e tente novamente.</translation>
+    </message>
+    <message>
+        <source>%1 %2 needs Node.js %3 or newer; this computer has %4.</source>
+        <translation>O %1 %2 precisa do Node.js %3 ou mais recente; este computador tem a versão %4.</translation>
+    </message>
+    <message>
+        <source>%1 %2 needs Node.js %3 or newer; this Mac has %4.</source>
+        <translation>O %1 %2 precisa do Node.js %3 ou mais recente; este Mac tem a versão %4.</translation>
     </message>
 </context>
 <context>

@@ -245,6 +245,14 @@
         <source>%1 needs Node.js %2 or newer.</source>
         <translation>%1 需要 Node.js %2 或更高版本。</translation>
     </message>
+    <message>
+        <source>We&apos;ll install the CLI tool on your computer.</source>
+        <translation>将在这台电脑上安装 CLI 工具。</translation>
+    </message>
+    <message>
+        <source>We&apos;ll install the CLI tool on your Mac.</source>
+        <translation>将在这台 Mac 上安装 CLI 工具。</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -341,6 +349,14 @@
     <message>
         <source>The ~/Developer folder contains files. Please remove your projects first if you want to delete it.</source>
         <translation>~/Developer 文件夹中有文件。如果要删除这个文件夹，请先移走您的项目。</translation>
+    </message>
+    <message>
+        <source>Git is required but not found. Please install it by running: %1</source>
+        <translation>需要 Git，但未找到。请运行以下命令进行安装：%1</translation>
+    </message>
+    <message>
+        <source>Git is required but not found. Please install Xcode Command Line Tools by running: xcode-select --install</source>
+        <translation>需要 Git，但未找到。请运行以下命令安装 Xcode Command Line Tools：xcode-select --install</translation>
     </message>
 </context>
 <context>
@@ -623,6 +639,26 @@
         <source>%1 not installed</source>
         <translation>未安装 %1</translation>
     </message>
+    <message>
+        <source>Not installed</source>
+        <translation>未安装</translation>
+    </message>
+    <message>
+        <source>%1 (needs %2 or newer)</source>
+        <translation>%1（需要 %2 或更高版本）</translation>
+    </message>
+    <message>
+        <source>%1 – no longer receives security fixes</source>
+        <translation>%1 – 已不再提供安全修复</translation>
+    </message>
+    <message>
+        <source>%1 MB available</source>
+        <translation>%1 MB 可用</translation>
+    </message>
+    <message>
+        <source>%1 MB free, %2 MB needed</source>
+        <translation>可用 %1 MB，需要 %2 MB</translation>
+    </message>
 </context>
 <context>
     <name>SystemRequirement</name>
@@ -650,6 +686,73 @@
         <source>Free up space by emptying Trash or removing unused apps</source>
         <translation>清倒废纸篓或移除不用的应用，以释放空间</translation>
     </message>
+    <message>
+        <source>64-bit Linux</source>
+        <translation>64 位 Linux</translation>
+    </message>
+    <message>
+        <source>Your computer needs to be running a 64-bit Linux system. Works on both Intel/AMD and ARM processors.</source>
+        <translation>电脑需要运行 64 位 Linux 系统。Intel/AMD 和 ARM 处理器均可使用。</translation>
+    </message>
+    <message>
+        <source>Install the 64-bit edition of your Linux distribution</source>
+        <translation>安装所用 Linux 发行版的 64 位版本</translation>
+    </message>
+    <message>
+        <source>The AI assistant and its dependencies need about 1GB of free space on your computer. This is a one-time installation.</source>
+        <translation>AI 助手及其依赖项需要电脑上约 1 GB 的可用空间。只需安装一次。</translation>
+    </message>
+    <message>
+        <source>Install manually: download it from %1 (or use your system&apos;s package manager)</source>
+        <translation>手动安装：从 %1 下载（或使用系统的软件包管理器）</translation>
+    </message>
+    <message>
+        <source>macOS 14 or later</source>
+        <translation>macOS 14 或更高版本</translation>
+    </message>
+    <message>
+        <source>Your Mac needs to be running macOS 14 (Sonoma) or later. Works on both Intel and Apple Silicon.</source>
+        <translation>Mac 需要运行 macOS 14（Sonoma）或更高版本。Intel 和 Apple 芯片的 Mac 均可使用。</translation>
+    </message>
+    <message>
+        <source>Update your Mac: Apple Menu → System Settings → General → Software Update</source>
+        <translation>更新 Mac：苹果菜单 →“系统设置”→“通用”→“软件更新”</translation>
+    </message>
+    <message>
+        <source>The AI assistant and its dependencies need about 1GB of free space on your Mac. This is a one-time installation.</source>
+        <translation>AI 助手及其依赖项需要 Mac 上约 1 GB 的可用空间。只需安装一次。</translation>
+    </message>
+    <message>
+        <source>Install manually: brew install node (or download from %1)</source>
+        <translation>手动安装：brew install node（或从 %1 下载）</translation>
+    </message>
+</context>
+<context>
+    <name>SystemTool</name>
+    <message>
+        <source>Open your file manager to manage this folder</source>
+        <translation>请打开文件管理器来管理此文件夹</translation>
+    </message>
+    <message>
+        <source>Git &amp; Build Tools</source>
+        <translation>Git 和构建工具</translation>
+    </message>
+    <message>
+        <source>Provides Git and build tools</source>
+        <translation>提供 Git 和构建工具</translation>
+    </message>
+    <message>
+        <source>Use your system&apos;s package manager to remove Git</source>
+        <translation>请使用系统的软件包管理器移除 Git</translation>
+    </message>
+    <message>
+        <source>Open Finder to manage this folder</source>
+        <translation>请打开访达来管理此文件夹</translation>
+    </message>
+    <message>
+        <source>Xcode CLI Tools</source>
+        <translation>Xcode CLI Tools</translation>
+    </message>
 </context>
 <context>
     <name>SystemToolAction</name>
@@ -668,6 +771,36 @@
     <message>
         <source>Open a terminal yourself and type this line:</source>
         <translation>请自行打开一个终端，并输入下面这一行：</translation>
+    </message>
+</context>
+<context>
+    <name>TerminalLaunchedView</name>
+    <message>
+        <source>%1 launched in a new terminal window</source>
+        <translation>%1 已在新的终端窗口中启动</translation>
+    </message>
+    <message>
+        <source>Switch to the terminal window to start using %1</source>
+        <translation>切换到终端窗口，开始使用 %1</translation>
+    </message>
+    <message>
+        <source>%1 launched in Terminal</source>
+        <translation>%1 已在终端中启动</translation>
+    </message>
+    <message>
+        <source>Switch to Terminal.app to start using %1</source>
+        <translation>切换到“终端”，开始使用 %1</translation>
+    </message>
+</context>
+<context>
+    <name>TerminalLauncher</name>
+    <message>
+        <source>Quillforge is not allowed to control Terminal</source>
+        <translation>Quillforge 没有控制“终端”的权限</translation>
+    </message>
+    <message>
+        <source>To let it open Terminal for you, turn on Terminal under Quillforge in System Settings &gt; Privacy &amp; Security &gt; Automation. Or open Terminal yourself and type this line:</source>
+        <translation>若要让 Quillforge 自动打开终端，请前往“系统设置”&gt;“隐私与安全性”&gt;“自动化”，在 Quillforge 下打开“终端”。也可以自行打开终端，并输入下面这一行：</translation>
     </message>
 </context>
 <context>
@@ -781,6 +914,14 @@
     <message>
         <source>Node.js was installed, but the Node.js found first is still %1 in %2, which is too old for the update of %3. Remove the older Node.js, then try again.</source>
         <translation>Node.js 已安装，但最先找到的 Node.js 仍是位于 %2 的 %1，版本过旧，无法用于更新 %3。请移除旧版 Node.js，然后重试。</translation>
+    </message>
+    <message>
+        <source>%1 %2 needs Node.js %3 or newer; this computer has %4.</source>
+        <translation>%1 %2 需要 Node.js %3 或更高版本；这台电脑上的是 %4。</translation>
+    </message>
+    <message>
+        <source>%1 %2 needs Node.js %3 or newer; this Mac has %4.</source>
+        <translation>%1 %2 需要 Node.js %3 或更高版本；这台 Mac 上的是 %4。</translation>
     </message>
 </context>
 <context>
