@@ -106,14 +106,13 @@ QCoro::Task<Result<void>> ToolInstaller::runSteps(CLITool tool, StepUpdate repor
     switch (prepareDeveloperFolder(log)) {
     case FolderCreation::created:
         m_madeDeveloperFolder = true;
-        report(SetupStepType::createDeveloperFolder, SetupStepStatus::completed, QStringLiteral("Created"));
+        report(SetupStepType::createDeveloperFolder, SetupStepStatus::completed, tr("Created"));
         break;
     case FolderCreation::alreadyThere:
-        report(SetupStepType::createDeveloperFolder, SetupStepStatus::skipped, QStringLiteral("Already exists"));
+        report(SetupStepType::createDeveloperFolder, SetupStepStatus::skipped, tr("Already exists"));
         break;
     case FolderCreation::failed:
-        report(SetupStepType::createDeveloperFolder, SetupStepStatus::failure(QStringLiteral("Could not create")),
-               std::nullopt);
+        report(SetupStepType::createDeveloperFolder, SetupStepStatus::failure(tr("Could not create")), std::nullopt);
         break;
     }
 
@@ -123,7 +122,7 @@ QCoro::Task<Result<void>> ToolInstaller::runSteps(CLITool tool, StepUpdate repor
     if (cancellation.isCancelled())
         co_return ShellError::cancellation();
     if (!git.found) {
-        report(SetupStepType::checkGit, SetupStepStatus::failure(QStringLiteral("Not found")), std::nullopt);
+        report(SetupStepType::checkGit, SetupStepStatus::failure(tr("Not found")), std::nullopt);
         co_return failure(InstallationError::gitNotFound);
     }
     report(SetupStepType::checkGit, SetupStepStatus::completed, git.version);
@@ -232,8 +231,7 @@ QCoro::Task<Result<void>> ToolInstaller::runSteps(CLITool tool, StepUpdate repor
     if (cancellation.isCancelled())
         co_return ShellError::cancellation();
     if (!found) {
-        report(SetupStepType::installTool, SetupStepStatus::failure(QStringLiteral("Verification failed")),
-               std::nullopt);
+        report(SetupStepType::installTool, SetupStepStatus::failure(tr("Verification failed")), std::nullopt);
         co_return failure(InstallationError::verificationFailed);
     }
     // What lives in ~/.local/bin must be found by the user's own terminal too.

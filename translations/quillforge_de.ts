@@ -833,6 +833,26 @@
         <source>The installation of %1</source>
         <translation>Die Installation von %1</translation>
     </message>
+    <message>
+        <source>Created</source>
+        <translation>Erstellt</translation>
+    </message>
+    <message>
+        <source>Already exists</source>
+        <translation>Bereits vorhanden</translation>
+    </message>
+    <message>
+        <source>Could not create</source>
+        <translation>Konnte nicht erstellt werden</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation>Nicht gefunden</translation>
+    </message>
+    <message>
+        <source>Verification failed</source>
+        <translation>Überprüfung fehlgeschlagen</translation>
+    </message>
 </context>
 <context>
     <name>ToolRemover</name>

@@ -833,6 +833,26 @@
         <source>The installation of %1</source>
         <translation>La instalación de %1</translation>
     </message>
+    <message>
+        <source>Created</source>
+        <translation>Creada</translation>
+    </message>
+    <message>
+        <source>Already exists</source>
+        <translation>Ya existe</translation>
+    </message>
+    <message>
+        <source>Could not create</source>
+        <translation>No se pudo crear</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation>No encontrado</translation>
+    </message>
+    <message>
+        <source>Verification failed</source>
+        <translation>Falló la verificación</translation>
+    </message>
 </context>
 <context>
     <name>ToolRemover</name>

@@ -833,6 +833,26 @@
         <source>The installation of %1</source>
         <translation>L’installation de %1</translation>
     </message>
+    <message>
+        <source>Created</source>
+        <translation>Créé</translation>
+    </message>
+    <message>
+        <source>Already exists</source>
+        <translation>Existe déjà</translation>
+    </message>
+    <message>
+        <source>Could not create</source>
+        <translation>Création impossible</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation>Introuvable</translation>
+    </message>
+    <message>
+        <source>Verification failed</source>
+        <translation>Échec de la vérification</translation>
+    </message>
 </context>
 <context>
     <name>ToolRemover</name>

@@ -833,6 +833,26 @@
         <source>The installation of %1</source>
         <translation>%1 のインストール</translation>
     </message>
+    <message>
+        <source>Created</source>
+        <translation>作成しました</translation>
+    </message>
+    <message>
+        <source>Already exists</source>
+        <translation>作成済み</translation>
+    </message>
+    <message>
+        <source>Could not create</source>
+        <translation>作成できませんでした</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation>見つかりません</translation>
+    </message>
+    <message>
+        <source>Verification failed</source>
+        <translation>確認に失敗しました</translation>
+    </message>
 </context>
 <context>
     <name>ToolRemover</name>

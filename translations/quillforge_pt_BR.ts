@@ -833,6 +833,26 @@
         <source>The installation of %1</source>
         <translation>A instalação do %1</translation>
     </message>
+    <message>
+        <source>Created</source>
+        <translation>Criada</translation>
+    </message>
+    <message>
+        <source>Already exists</source>
+        <translation>Já existe</translation>
+    </message>
+    <message>
+        <source>Could not create</source>
+        <translation>Não foi possível criar</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation>Não encontrado</translation>
+    </message>
+    <message>
+        <source>Verification failed</source>
+        <translation>Falha na verificação</translation>
+    </message>
 </context>
 <context>
     <name>ToolRemover</name>

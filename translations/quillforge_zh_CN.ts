@@ -833,6 +833,26 @@
         <source>The installation of %1</source>
         <translation>%1 的安装</translation>
     </message>
+    <message>
+        <source>Created</source>
+        <translation>已创建</translation>
+    </message>
+    <message>
+        <source>Already exists</source>
+        <translation>已存在</translation>
+    </message>
+    <message>
+        <source>Could not create</source>
+        <translation>无法创建</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation>未找到</translation>
+    </message>
+    <message>
+        <source>Verification failed</source>
+        <translation>验证失败</translation>
+    </message>
 </context>
 <context>
     <name>ToolRemover</name>

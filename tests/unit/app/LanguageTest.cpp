@@ -1,4 +1,10 @@
+#include "InstallationState.h"
 #include "Language.h"
+#include "OnboardingView.h"
+
+#include <QCoreApplication>
+#include <QLabel>
+#include <QTranslator>
 
 #include <gtest/gtest.h>
 
@@ -34,5 +40,28 @@ TEST(Language, TheFirstPreferredLanguageQuillforgeSpeaksChooses)
         if (chosen) {
             EXPECT_TRUE(qf::language::available().contains(*chosen));
         }
+    }
+}
+
+// Every catalogue the program carries reaches the screens: the introduction shows its
+// catalogue's title, not the English one.
+TEST(Language, EachCatalogueTranslatesTheScreens)
+{
+    const QString english = QStringLiteral("Welcome to Quillforge");
+    for (const QString& language : qf::language::available()) {
+        SCOPED_TRACE(language.toStdString());
+        QTranslator catalogue;
+        ASSERT_TRUE(catalogue.load(QStringLiteral(QF_CATALOGUE_DIR "/quillforge_") + language));
+        QCoreApplication::installTranslator(&catalogue);
+        const QString title = QCoreApplication::translate("qf::OnboardingView", "Welcome to Quillforge");
+        qf::InstallationState state;
+        qf::OnboardingView view(state);
+        QStringList shown;
+        for (const QLabel* label : view.findChildren<QLabel*>())
+            shown << label->text();
+        QCoreApplication::removeTranslator(&catalogue);
+        EXPECT_NE(title, english);
+        EXPECT_TRUE(shown.contains(title)) << shown.join(QLatin1Char('|')).toStdString();
+        EXPECT_FALSE(shown.contains(english));
     }
 }
