@@ -52,7 +52,7 @@ std::optional<QString> choose(const QStringList& preferred)
 
 std::optional<QString> install(QCoreApplication& application)
 {
-    const std::optional<QString> chosen = choose(QLocale::system().uiLanguages());
+    std::optional<QString> chosen = choose(QLocale::system().uiLanguages());
     if (!chosen)
         return std::nullopt;
     auto* own = new QTranslator(&application);
