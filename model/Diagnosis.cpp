@@ -1,5 +1,6 @@
 #include "Diagnosis.h"
 
+#include <QDir>
 #include <QRegularExpression>
 #include <QStringList>
 #include <QUrl>
@@ -170,6 +171,13 @@ QString npmErrorPath(const QString& output)
     for (QRegularExpressionMatchIterator it = pathLine.globalMatch(output); it.hasNext();)
         path = it.next().captured(1).trimmed();
     return path;
+}
+
+std::optional<QString> npmRefusedPath(const QString& output)
+{
+    if (recogniseFailure(output) != FailureCause::permissionDenied)
+        return std::nullopt;
+    return QDir::cleanPath(npmErrorPath(output));
 }
 
 QString npmPermissionRetrySentence(const QString& tool, bool ownFolder)

@@ -34,6 +34,9 @@ QString missingNpmPackage(const QString& output);
 // The file or folder that npm's error names ("npm ERR! path /usr/local/lib/node_modules"), the
 // last one; empty when there is none.
 QString npmErrorPath(const QString& output);
+// When `output` reads as npm being refused a write (permission denied): the file or folder it
+// names, cleaned (empty when it names none); nothing otherwise.
+std::optional<QString> npmRefusedPath(const QString& output);
 
 // What a person reads when npm could not write to its own folders, saying what "Try Again"
 // will do: use a private npm cache and, when `ownFolder`, install `tool` into ~/.local.

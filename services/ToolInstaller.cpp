@@ -14,6 +14,16 @@
 
 namespace qf {
 
+namespace {
+
+// The user's own prefix, where a tool goes when npm's global folder is not theirs to write.
+QString localFolder() { return QDir::homePath() + QStringLiteral("/.local"); }
+
+// Quillforge's own npm cache, for npm whose cache was left to the administrator.
+QString privateNpmCacheFolder(const Platform& platform) { return platform.cacheFolder() + QStringLiteral("/npm"); }
+
+} // namespace
+
 ToolInstaller::ToolInstaller(ShellRunner& shell, SystemDetector& detector, const Platform& platform,
                              NodeInstaller& node, SearchPathFix& searchPath)
     : m_shell(shell), m_detector(detector), m_platform(platform), m_node(node), m_searchPath(searchPath)
@@ -180,7 +190,7 @@ QCoro::Task<Result<void>> ToolInstaller::runSteps(CLITool tool, StepUpdate repor
         // user's npm settings stay as they are.
         const Result<QString> prefix = co_await m_shell.run(QStringLiteral("npm prefix -g"),
                                                             ShellRunner::defaultTimeoutSeconds, cancellation);
-        const QString ownFolder = QDir::homePath() + QStringLiteral("/.local");
+        const QString ownFolder = localFolder();
         npmPrefix = prefix ? prefix.value() : QString();
         if (!npmPrefix.isEmpty() && !isWritableNpmPrefix(npmPrefix)) {
             log(QStringLiteral("npm's global folder %1 is not writable for your user, so %2 goes into ~/.local "
@@ -199,7 +209,7 @@ QCoro::Task<Result<void>> ToolInstaller::runSteps(CLITool tool, StepUpdate repor
         if (m_privateNpmCache) {
             log(QStringLiteral("npm could not write to its folders before, so it uses a cache of Quillforge's own in "
                                "%1 (your npm settings stay as they are).\n")
-                    .arg(m_platform.cacheFolder() + QStringLiteral("/npm")));
+                    .arg(privateNpmCacheFolder(m_platform)));
             installCommand = privateNpmCache(m_platform) + installCommand;
         }
     }
@@ -262,14 +272,15 @@ QCoro::Task<Result<void>> ToolInstaller::runSteps(CLITool tool, StepUpdate repor
 ServiceError ToolInstaller::afterNpmFailure(CLITool tool, const ServiceError& error, const QString& prefix)
 {
     const ShellError* shell = error.shellError();
-    if (!shell || recogniseFailure(shell->lastOutput()) != FailureCause::permissionDenied)
+    const std::optional<QString> refused = shell ? npmRefusedPath(shell->lastOutput()) : std::nullopt;
+    if (!refused)
         return error;
     // Most often an earlier "sudo npm" left npm's cache or its global folder to the
     // administrator. What npm names decides: a path among the global folder's packages,
     // commands or manual pages sends the tool to ~/.local; anything else (its cache, or nothing
     // named) is worked around with a cache of Quillforge's own.
-    const QString path = QDir::cleanPath(npmErrorPath(shell->lastOutput()));
-    const QString ownFolder = QDir::homePath() + QStringLiteral("/.local");
+    const QString& path = *refused;
+    const QString ownFolder = localFolder();
     const auto inside = [&path](const QString& folder) {
         if (folder.isEmpty())
             return false;
@@ -297,8 +308,7 @@ ServiceError ToolInstaller::afterNpmFailure(CLITool tool, const ServiceError& er
 
 QString ToolInstaller::privateNpmCache(const Platform& platform)
 {
-    return QStringLiteral("npm_config_cache=") + shellQuote(platform.cacheFolder() + QStringLiteral("/npm")) +
-           QLatin1Char(' ');
+    return QStringLiteral("npm_config_cache=") + shellQuote(privateNpmCacheFolder(platform)) + QLatin1Char(' ');
 }
 
 bool ToolInstaller::isWritableNpmPrefix(const QString& prefix)

@@ -212,13 +212,13 @@ QCoro::Task<Result<UpdateOutcome>> ToolUpdater::bringUpToDate(CLITool tool, Outp
 ServiceError ToolUpdater::afterNpmFailure(CLITool tool, const UpdateRoute& route, const ServiceError& error)
 {
     const ShellError* shell = error.shellError();
-    if (route.kind != UpdateRoute::npm || m_privateNpmCache || !shell ||
-        recogniseFailure(shell->lastOutput()) != FailureCause::permissionDenied)
+    const std::optional<QString> refused = shell ? npmRefusedPath(shell->lastOutput()) : std::nullopt;
+    if (route.kind != UpdateRoute::npm || m_privateNpmCache || !refused)
         return error;
     // A folder of the tool's own that the user may not change is not worked around: the update
     // stays where the tool is. Anything else is most often npm's cache, left to the
     // administrator by an earlier "sudo npm".
-    const QString path = QDir::cleanPath(npmErrorPath(shell->lastOutput()));
+    const QString& path = *refused;
     if (!path.isEmpty() && path.startsWith(QDir::cleanPath(route.prefix) + QLatin1Char('/')))
         return error;
     m_privateNpmCache = true;
