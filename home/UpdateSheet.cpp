@@ -159,7 +159,7 @@ void UpdateSheet::start(bool installNodeFirst)
 {
     m_output.clear();
     m_log->clear();
-    m_run->begin(tr("Update %1").arg(m_tool.displayName()));
+    m_run->begin(QStringLiteral("Update ") + m_tool.displayName()); // the log file's name stays English
     // The update may outlive the sheet (the window closes): its output then goes to the log
     // file only.
     auto task = installNodeFirst ? m_updater.installNodeThenUpdate(m_tool, m_run->sink(), m_run->cancellation())

@@ -58,46 +58,66 @@ ShellError ShellError::cancellation()
     return error;
 }
 
-QString ShellError::durationText(double seconds)
+namespace {
+
+// A message of ShellError in the user's language, or as written (English) for the log.
+QString say(const char* text, bool english)
 {
-    const QLocale english(QLocale::English);
+    return english ? QString::fromUtf8(text) : QCoreApplication::translate("ShellError", text);
+}
+
+} // namespace
+
+QString ShellError::durationText(double seconds) { return duration(seconds, false); }
+
+QString ShellError::duration(double seconds, bool english)
+{
+    // The user's own way of writing numbers on screen; the log's is English.
+    const QLocale locale = english ? QLocale(QLocale::English) : QLocale();
     // Whole minutes from a minute on, otherwise seconds with at most three significant digits.
     if (seconds >= 60 && std::fmod(seconds, 60.0) == 0.0) {
         const double minutes = seconds / 60;
-        return minutes == 1 ? tr("1 minute") : tr("%1 minutes").arg(english.toString(minutes, 'f', 0));
+        return minutes == 1 ? say(QT_TR_NOOP("1 minute"), english)
+                            : say(QT_TR_NOOP("%1 minutes"), english).arg(locale.toString(minutes, 'f', 0));
     }
     if (seconds == 1)
-        return tr("1 second");
+        return say(QT_TR_NOOP("1 second"), english);
     // Never in scientific notation: "0.25", "9.5", "1,234.5".
-    QString number = seconds < 10 ? english.toString(seconds, 'g', 3) : english.toString(seconds, 'f', 1);
-    if (number.endsWith(QLatin1String(".0")))
-        number.chop(2);
-    return tr("%1 seconds").arg(number);
+    QString number = seconds < 10 ? locale.toString(seconds, 'g', 3) : locale.toString(seconds, 'f', 1);
+    const QString zero = QString(locale.decimalPoint()) + locale.zeroDigit();
+    if (number.endsWith(zero))
+        number.chop(zero.size());
+    return say(QT_TR_NOOP("%1 seconds"), english).arg(number);
 }
 
-QString ShellError::errorDescription() const
+QString ShellError::describe(bool english) const
 {
     switch (m_kind) {
     case commandFailed: {
         QString shown = m_text;
         // The end says what went wrong; a person cannot read a hundred megabytes anyway.
         if (shown.size() > shownOutputLength) {
-            shown = tr("[earlier output cut: the last %1 characters follow]")
-                        .arg(QLocale(QLocale::English).toString(shownOutputLength)) +
+            shown = say(QT_TR_NOOP("[earlier output cut: the last %1 characters follow]"), english)
+                        .arg((english ? QLocale(QLocale::English) : QLocale()).toString(shownOutputLength)) +
                     QLatin1Char('\n') + shown.last(shownOutputLength);
         }
-        return QStringLiteral("Command failed with exit code ") + QString::number(m_exitCode) + QStringLiteral(": ") +
-               shown;
+        return say(QT_TR_NOOP("Command failed with exit code %1: %2"), english).arg(QString::number(m_exitCode), shown);
     }
-    case processError: return QStringLiteral("Process error: ") + m_text;
-    case timedOut: return tr("The command did not finish within %1 and was stopped.").arg(durationText(m_seconds));
+    case processError: return say(QT_TR_NOOP("Process error: %1"), english).arg(m_text);
+    case timedOut:
+        return say(QT_TR_NOOP("The command did not finish within %1 and was stopped."), english)
+            .arg(duration(m_seconds, english));
     case outputTooLarge:
-        return tr("The command wrote more than %1 MB of output and was stopped.").arg(m_bytes / (1024 * 1024));
+        return say(QT_TR_NOOP("The command wrote more than %1 MB of output and was stopped."), english)
+            .arg(m_bytes / (1024 * 1024));
     case noProgress:
-        if (!m_activity.isEmpty())
-            return tr("%1 made no progress for %2 and was stopped.").arg(m_activity, durationText(m_seconds));
-        return tr("The command showed no progress for %1 and was stopped.").arg(durationText(m_seconds));
-    case cancelled: return tr("The command was cancelled.");
+        if (!m_activity.isEmpty()) {
+            return say(QT_TR_NOOP("%1 made no progress for %2 and was stopped."), english)
+                .arg(m_activity, duration(m_seconds, english));
+        }
+        return say(QT_TR_NOOP("The command showed no progress for %1 and was stopped."), english)
+            .arg(duration(m_seconds, english));
+    case cancelled: return say(QT_TR_NOOP("The command was cancelled."), english);
     }
     return {};
 }
@@ -135,6 +155,13 @@ QString errorDescription(InstallationError error, const SystemWording& wording)
 }
 
 ServiceError::ServiceError(ShellError error) : m_cause(error), m_description(error.errorDescription()) {}
+
+QString ServiceError::logDescription() const
+{
+    if (const ShellError* shell = shellError(); shell && !m_plain)
+        return shell->logDescription();
+    return m_description;
+}
 
 ServiceError::ServiceError(InstallationError error, const SystemWording& wording)
     : m_cause(error), m_description(qf::errorDescription(error, wording))

@@ -35,7 +35,7 @@ public:
     static ShellError cancellation();
 
     // "1 second", "0.5 seconds", "1,234.5 seconds", "15 minutes": a length of time as the
-    // messages say it.
+    // messages say it, in the user's language.
     static QString durationText(double seconds);
 
     Kind kind() const { return m_kind; }
@@ -46,14 +46,19 @@ public:
     const QString& output() const { return m_text; }
     // What the command said last: the end of a streamed command's output, or its output.
     const QString& lastOutput() const { return m_recent.isEmpty() ? m_text : m_recent; }
-    // The message in full: the command's status and what it said. The log keeps it.
-    QString errorDescription() const;
+    // The message in full: the command's status and what it said, in the user's language.
+    QString errorDescription() const { return describe(false); }
+    // The same in English, as the log keeps it: a log is what a person sends when asking for help.
+    QString logDescription() const { return describe(true); }
     // What a person reads: one plain sentence of what happened and what to do.
     QString plainDescription() const;
 
     friend bool operator==(const ShellError&, const ShellError&) = default;
 
 private:
+    static QString duration(double seconds, bool english);
+    QString describe(bool english) const;
+
     Kind m_kind = commandFailed;
     int m_exitCode = 0;
     QString m_text;
@@ -97,6 +102,8 @@ public:
     static ServiceError explained(ShellError error, const QString& sentence);
 
     const QString& errorDescription() const { return m_description; }
+    // For the log: a failed command's message in English; other messages as they were given.
+    QString logDescription() const;
     // What a person reads: for a failed command, one plain sentence of what happened and what
     // to do (errorDescription has all of it, for the log); otherwise the description.
     QString plainDescription() const;

@@ -61,7 +61,7 @@ void OperationRun::fail(const ServiceError& error)
     if (error.isCancelled())
         sink()(QStringLiteral("\nCancelled by the user\n"));
     else if (error.errorDescription() != error.plainDescription())
-        sink()(QStringLiteral("\nError: ") + error.errorDescription() + QLatin1Char('\n'));
+        sink()(QStringLiteral("\nError: ") + error.logDescription() + QLatin1Char('\n'));
     m_error = error;
     setPhase(Phase::failed);
 }

@@ -70,7 +70,7 @@ QCoro::Task<std::optional<QString>> SearchPathFix::addLocalPrograms(CLITool tool
     if (added && added.value())
         m_shell.invalidateEnvironment(); // the start-up file changed
     if (!added) {
-        log(QStringLiteral("Note: ") + added.error().errorDescription() +
+        log(QStringLiteral("Note: ") + added.error().logDescription() +
             QStringLiteral("\nTo start %1 from a terminal, add this line to %2:\n%3\n")
                 .arg(tool.displayName(), shown, line));
         co_return terminalCaveat(tool, shown, line);

@@ -39,7 +39,7 @@ QCoro::Task<Result<void>> ToolRemover::remove(CLITool tool, Output log, Cancella
         if (!removal.value().isEmpty())
             log(removal.value() + QLatin1Char('\n'));
     } else {
-        log(QStringLiteral("Note: ") + removal.error().errorDescription() + QLatin1Char('\n'));
+        log(QStringLiteral("Note: ") + removal.error().logDescription() + QLatin1Char('\n'));
     }
 
     Result<QString> stillThere = co_await m_shell.findProgram(tool.commandName());
@@ -72,7 +72,7 @@ QCoro::Task<Result<void>> ToolRemover::remove(CLITool tool, Output log, Cancella
             if (!removed) {
                 if (removed.error().isDeclined())
                     co_return removed.error();
-                log(QStringLiteral("Note: ") + removed.error().errorDescription() + QLatin1Char('\n'));
+                log(QStringLiteral("Note: ") + removed.error().logDescription() + QLatin1Char('\n'));
             }
             stillThere = co_await m_shell.findProgram(tool.commandName());
         }

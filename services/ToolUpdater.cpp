@@ -185,7 +185,7 @@ QCoro::Task<Result<UpdateOutcome>> ToolUpdater::bringUpToDate(CLITool tool, Outp
     if (!updated) {
         if (updated.error().isDeclined())
             co_return updated.error();
-        log(QStringLiteral("Note: ") + updated.error().errorDescription() + QLatin1Char('\n'));
+        log(QStringLiteral("Note: ") + updated.error().logDescription() + QLatin1Char('\n'));
         const ServiceError explained = afterNpmFailure(tool, where, updated.error());
         ServiceError failure = co_await failedUpdate(tool, explained, *before);
         co_return failure;

@@ -582,6 +582,14 @@
         <source>The command was cancelled.</source>
         <translation>Der Befehl wurde abgebrochen.</translation>
     </message>
+    <message>
+        <source>Command failed with exit code %1: %2</source>
+        <translation>Befehl mit Exit-Code %1 fehlgeschlagen: %2</translation>
+    </message>
+    <message>
+        <source>Process error: %1</source>
+        <translation>Prozessfehler: %1</translation>
+    </message>
 </context>
 <context>
     <name>StagedInstall</name>

@@ -582,6 +582,14 @@
         <source>The command was cancelled.</source>
         <translation>Se ha cancelado el comando.</translation>
     </message>
+    <message>
+        <source>Command failed with exit code %1: %2</source>
+        <translation>El comando falló con el código de salida %1: %2</translation>
+    </message>
+    <message>
+        <source>Process error: %1</source>
+        <translation>Error del proceso: %1</translation>
+    </message>
 </context>
 <context>
     <name>StagedInstall</name>

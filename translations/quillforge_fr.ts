@@ -582,6 +582,14 @@
         <source>The command was cancelled.</source>
         <translation>La commande a été annulée.</translation>
     </message>
+    <message>
+        <source>Command failed with exit code %1: %2</source>
+        <translation>La commande a échoué avec le code de sortie %1 : %2</translation>
+    </message>
+    <message>
+        <source>Process error: %1</source>
+        <translation>Erreur de processus : %1</translation>
+    </message>
 </context>
 <context>
     <name>StagedInstall</name>

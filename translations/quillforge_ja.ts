@@ -582,6 +582,14 @@
         <source>The command was cancelled.</source>
         <translation>コマンドはキャンセルされました。</translation>
     </message>
+    <message>
+        <source>Command failed with exit code %1: %2</source>
+        <translation>コマンドが終了コード %1 で失敗しました: %2</translation>
+    </message>
+    <message>
+        <source>Process error: %1</source>
+        <translation>プロセスエラー: %1</translation>
+    </message>
 </context>
 <context>
     <name>StagedInstall</name>

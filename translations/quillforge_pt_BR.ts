@@ -582,6 +582,14 @@
         <source>The command was cancelled.</source>
         <translation>O comando foi cancelado.</translation>
     </message>
+    <message>
+        <source>Command failed with exit code %1: %2</source>
+        <translation>O comando falhou com o código de saída %1: %2</translation>
+    </message>
+    <message>
+        <source>Process error: %1</source>
+        <translation>Erro de processo: %1</translation>
+    </message>
 </context>
 <context>
     <name>StagedInstall</name>

@@ -582,6 +582,14 @@
         <source>The command was cancelled.</source>
         <translation>命令已取消。</translation>
     </message>
+    <message>
+        <source>Command failed with exit code %1: %2</source>
+        <translation>命令失败，退出代码 %1：%2</translation>
+    </message>
+    <message>
+        <source>Process error: %1</source>
+        <translation>进程错误：%1</translation>
+    </message>
 </context>
 <context>
     <name>StagedInstall</name>

@@ -4,6 +4,7 @@
 #include "TestMachine.h"
 #include "TestSupport.h"
 
+#include <QLocale>
 #include <QDir>
 #include <QFile>
 #include <QProcess>
@@ -141,8 +142,19 @@ TEST(ShellError, TextsSayTheRealLengthsAndKeepTheEndOfLongOutput)
         {600, "10 minutes"},         {2e6, "2,000,000 seconds"},
         {15 * 60, "15 minutes"},     {1e12, "1,000,000,000,000 seconds"},
     };
+    const QLocale saved;
+    QLocale::setDefault(QLocale(QLocale::English));
     for (const auto& [seconds, text] : lengths)
         EXPECT_EQ(ShellError::durationText(seconds), QString::fromLatin1(text)) << seconds;
+
+    // On screen numbers are written the user's way; the log keeps English, for asking for help.
+    QLocale::setDefault(QLocale(QLocale::German));
+    const ShellError slow = ShellError::timeout(1234.5);
+    EXPECT_EQ(slow.errorDescription(), QStringLiteral("The command did not finish within 1.234,5 seconds and was stopped."));
+    EXPECT_EQ(slow.logDescription(), QStringLiteral("The command did not finish within 1,234.5 seconds and was stopped."));
+    EXPECT_EQ(ServiceError(ShellError::stalled(2.5)).logDescription(),
+              QStringLiteral("The command showed no progress for 2.5 seconds and was stopped."));
+    QLocale::setDefault(saved);
     EXPECT_EQ(ShellError::timeout(0.5).errorDescription(),
               QStringLiteral("The command did not finish within 0.5 seconds and was stopped."));
     EXPECT_EQ(ShellError::stalled(15 * 60).errorDescription(),
