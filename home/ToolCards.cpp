@@ -174,6 +174,7 @@ AIToolCard::AIToolCard(CLITool tool, std::function<void()> onOpen, std::function
     auto* title = hstack(8);
     auto* name = new Label(tool.displayName(), Theme::font(14, QFont::DemiBold));
     name->setObjectName(QStringLiteral("toolName"));
+    name->setWrapping(true); // beside a long badge in a narrow window
     title->addWidget(name, 0, Qt::AlignVCenter);
     m_badge = new StatusBadge(tr("Installed"), Tint(Role::green));
     title->addWidget(m_badge, 0, Qt::AlignVCenter);

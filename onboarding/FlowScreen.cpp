@@ -31,7 +31,7 @@ FlowScreen::FlowScreen(const QString& objectName, const QString& title, QWidget*
     auto* bar = new QWidget;
     bar->setObjectName(QStringLiteral("bottomBar"));
     // The bar's buttons keep to the content's column, however wide the window.
-    m_bar = centredRow(bar, this, 8, sides(spacing::screenSide, spacing::barPadding, spacing::barPadding));
+    m_bar = barRow(bar, this, 8, sides(spacing::screenSide, spacing::barPadding, spacing::barPadding));
     root->addWidget(bar);
 
     // Return belongs to the main button, as in a dialog: Space still presses a focused one.

@@ -60,9 +60,11 @@ RequirementRow::RequirementRow(const RequirementStatus& status, const SystemWord
     auto* text = vstack(2);
     auto* titleLabel = new Label(title, Theme::headline());
     titleLabel->setObjectName(QStringLiteral("requirementTitle"));
+    titleLabel->setWrapping(true);
     text->addWidget(titleLabel);
     auto* details = new Label(status.details, Theme::caption(), blocking ? mark : Tint(Role::secondary));
     details->setObjectName(QStringLiteral("requirementDetails"));
+    details->setWrapping(true);
     text->addWidget(details);
     row->addLayout(text);
 

@@ -4,6 +4,8 @@
 
 #include <QScrollBar>
 
+#include <algorithm>
+
 namespace qf::ui {
 
 QWidget* divider(int padding) { return divider(padding, padding); }
@@ -58,6 +60,97 @@ CentredRow* centredRow(QWidget* owner, QWidget* centredOn, int spacing, QMargins
     layout->setSpacing(spacing);
     layout->setContentsMargins(padding);
     return layout;
+}
+
+BarRow* barRow(QWidget* owner, QWidget* centredOn, int spacing, QMargins padding)
+{
+    auto* layout = new BarRow(owner, centredOn);
+    layout->setSpacing(spacing);
+    layout->setContentsMargins(padding);
+    return layout;
+}
+
+QList<BarRow::Line> BarRow::lines(int width) const
+{
+    const QMargins margins = contentsMargins();
+    const int room = std::min(width, maximumWidth()) - margins.left() - margins.right();
+    QList<Line> found(1);
+    int used = 0;
+    bool afterStretch = false;
+    for (int i = 0; i < count(); ++i) {
+        QLayoutItem* item = itemAt(i);
+        if (item->spacerItem()) {
+            afterStretch = true;
+            continue;
+        }
+        if (item->isEmpty())
+            continue; // a hidden button
+        const QSize wanted = item->sizeHint();
+        if (!found.last().items.isEmpty() && used + spacing() + wanted.width() > room) {
+            found.append(Line{});
+            used = 0;
+        }
+        Line& line = found.last();
+        used += (line.items.isEmpty() ? 0 : spacing()) + wanted.width();
+        line.items << item;
+        line.trailing << afterStretch;
+        line.height = std::max(line.height, wanted.height());
+    }
+    return found;
+}
+
+QSize BarRow::minimumSize() const
+{
+    // As narrow as its widest button: the rest goes onto lines of their own.
+    int widest = 0;
+    for (int i = 0; i < count(); ++i) {
+        if (!itemAt(i)->isEmpty())
+            widest = std::max(widest, itemAt(i)->minimumSize().width());
+    }
+    const QMargins margins = contentsMargins();
+    return {widest + margins.left() + margins.right(), CentredRow::minimumSize().height()};
+}
+
+int BarRow::heightForWidth(int width) const
+{
+    if (fitsOneLine(width))
+        return sizeHint().height();
+    const QList<Line> all = lines(width);
+    int height = contentsMargins().top() + contentsMargins().bottom() + spacing() * int(all.size() - 1);
+    for (const Line& line : all)
+        height += line.height;
+    return height;
+}
+
+void BarRow::setGeometry(const QRect& room)
+{
+    if (fitsOneLine(room.width())) {
+        CentredRow::setGeometry(room);
+        return;
+    }
+    QLayout::setGeometry(room);
+    const QRect span = centredSpan(room, maximumWidth(), centre(room)).marginsRemoved(contentsMargins());
+    int top = span.top();
+    for (const Line& line : lines(room.width())) {
+        int left = span.left();
+        int right = span.right() + 1;
+        // The leading buttons from the left in order; the trailing ones in order, ending at the right.
+        int trailingWidth = 0;
+        for (qsizetype i = 0; i < line.items.size(); ++i) {
+            if (line.trailing[i])
+                trailingWidth += line.items[i]->sizeHint().width() + spacing();
+        }
+        int trailingLeft = right - std::max(0, trailingWidth - spacing());
+        for (qsizetype i = 0; i < line.items.size(); ++i) {
+            QLayoutItem* item = line.items[i];
+            const int width = std::min(item->sizeHint().width(), span.width());
+            int& x = line.trailing[i] ? trailingLeft : left;
+            item->setGeometry(QRect(std::max(x, span.left()), top + (line.height - item->sizeHint().height()) / 2,
+                                    width, item->sizeHint().height()));
+            x += width + spacing();
+        }
+        top += line.height + spacing();
+    }
 }
 
 QVBoxLayout* vstack(int spacing, QMargins padding) { return vstack(nullptr, spacing, padding); }

@@ -74,7 +74,7 @@ public:
         return Box::minimumHeightForWidth(std::min(width, m_maximumWidth));
     }
 
-private:
+protected:
     qreal centre(const QRect& room) const
     {
         const QWidget* owner = this->parentWidget();
@@ -91,9 +91,34 @@ private:
 using CentredColumn = Centred<QVBoxLayout>;
 using CentredRow = Centred<QHBoxLayout>;
 
+// The row of a bar's buttons: one centred row while they fit, and where they do not (long
+// words in a narrow window) as many lines as they need, each as full as it can be, in order.
+// What comes before the row's stretch keeps to the left, what comes after it to the right, so
+// the main button stays last and at the right.
+class BarRow : public CentredRow {
+public:
+    using CentredRow::CentredRow;
+
+    QSize minimumSize() const override;
+    bool hasHeightForWidth() const override { return true; }
+    int heightForWidth(int width) const override;
+    int minimumHeightForWidth(int width) const override { return heightForWidth(width); }
+    void setGeometry(const QRect& room) override;
+
+private:
+    struct Line {
+        QList<QLayoutItem*> items;
+        QList<bool> trailing;
+        int height = 0;
+    };
+    bool fitsOneLine(int width) const { return width >= sizeHint().width(); }
+    QList<Line> lines(int width) const;
+};
+
 // A centred column or row of `spacing` with `padding`, laid into `owner`.
 CentredColumn* centredColumn(QWidget* owner, QWidget* centredOn, int spacing, QMargins padding = {});
 CentredRow* centredRow(QWidget* owner, QWidget* centredOn, int spacing, QMargins padding = {});
+BarRow* barRow(QWidget* owner, QWidget* centredOn, int spacing, QMargins padding = {});
 
 // A one-point line in the separator colour, `padding` points of room above and below it.
 QWidget* divider(int padding = 0);

@@ -39,6 +39,7 @@ TerminalFallbackRow::TerminalFallbackRow(const QString& title, const QString& hi
     auto* column = vstack(6);
     m_title = new Label(title, Theme::font(12, QFont::DemiBold));
     m_title->setObjectName(QStringLiteral("terminalFallbackTitle"));
+    m_title->setWrapping(true);
     column->addWidget(m_title);
     m_hint = new Label(hintText, Theme::caption(), Tint(Role::secondary));
     m_hint->setObjectName(QStringLiteral("terminalFallbackHint"));

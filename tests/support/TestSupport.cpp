@@ -48,6 +48,9 @@ void settle()
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QCoreApplication::processEvents();
     }
+    // A change deep in nested layouts climbs one layout per request: let it reach the top.
+    for (int i = 0; i < 8; ++i)
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
 }
 
 void inBothAppearances(const std::function<void()>& check)

@@ -24,9 +24,14 @@
 #include <QHash>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QAbstractScrollArea>
+#include <QTextDocument>
+#include <QTextLayout>
+#include <QTranslator>
 #include <QTest>
 
 #include <algorithm>
+#include <cmath>
 #include <functional>
 
 using namespace qf;
@@ -220,6 +225,120 @@ void expectReadable(QWidget* window)
     }
 }
 
+// A text widget on screen: its place in the window and the layer it lies in.
+struct ShownText {
+    const QWidget* widget;
+    QRect place;
+    const QWidget* layer;
+};
+
+// The bars float over what scrolls beneath them; texts are compared within one layer.
+const QWidget* layerOf(const QWidget* widget)
+{
+    for (const QWidget* at = widget; at; at = at->parentWidget()) {
+        if (at->objectName() == QLatin1String("bottomBar") || at->objectName() == QLatin1String("topBar") ||
+            qobject_cast<const QAbstractScrollArea*>(at) || at->isWindow())
+            return at;
+    }
+    return nullptr;
+}
+
+// Whether `widget` keeps its text whole in the room it was given: a wrapping label is tall
+// enough for every line, a line of text, a button or a badge as wide as its text.
+bool holdsItsText(const QWidget* widget, QString* text, bool everyLine)
+{
+    if (const auto* label = qobject_cast<const QLabel*>(widget)) {
+        *text = label->text();
+        const auto* limited = qobject_cast<const ui::Label*>(label);
+        if (text->isEmpty() || (!everyLine && limited && limited->maximumLines() > 0))
+            return true;
+        const QRect room = label->contentsRect();
+        if (!label->wordWrap())
+            return room.width() >= label->sizeHint().width() - label->contentsMargins().left() -
+                                       label->contentsMargins().right() - 1;
+        if (label->textFormat() == Qt::RichText || Qt::mightBeRichText(*text)) {
+            QTextDocument document;
+            document.setDocumentMargin(0);
+            document.setDefaultFont(label->font());
+            document.setHtml(*text);
+            document.setTextWidth(room.width());
+            return std::ceil(document.size().height()) <= room.height() + 1;
+        }
+        QTextLayout layout(*text, label->font());
+        QTextOption option;
+        option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+        layout.setTextOption(option);
+        layout.beginLayout();
+        int lines = 0;
+        for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+            line.setLineWidth(room.width());
+            ++lines;
+            if (line.naturalTextWidth() > room.width() + 1)
+                return false; // one word wider than the label
+        }
+        layout.endLayout();
+        return lines * QFontMetrics(label->font()).lineSpacing() <= room.height() + 1;
+    }
+    if (const auto* button = qobject_cast<const ui::Button*>(widget)) {
+        *text = button->title();
+        return text->isEmpty() || button->width() >= button->sizeHint().width();
+    }
+    if (const auto* badge = qobject_cast<const ui::Badge*>(widget)) {
+        *text = badge->text();
+        return text->isEmpty() || badge->width() >= badge->sizeHint().width();
+    }
+    return true;
+}
+
+// Every text in `root` shows whole: none is cut by the room it was given or by what holds it,
+// and no two overlap. Only what scrolls may lie beyond the part that shows, and only where
+// `everyLine` is false may a text limited to a few lines end in an ellipsis.
+void expectWholeTexts(const QWidget* root, bool everyLine)
+{
+    QList<ShownText> shown;
+    for (QWidget* widget : root->findChildren<QWidget*>()) {
+        if (!widget->isVisibleTo(root->window()))
+            continue;
+        QString text;
+        if (!(qobject_cast<QLabel*>(widget) || qobject_cast<ui::Button*>(widget) || qobject_cast<ui::Badge*>(widget)))
+            continue;
+        EXPECT_TRUE(holdsItsText(widget, &text, everyLine))
+            << describe(widget) << " cuts \"" << text.toStdString() << "\" at " << widget->width() << "x"
+            << widget->height() << " (wants " << widget->sizeHint().width() << ") in "
+            << describe(widget->parentWidget()) << " visible " << widget->isVisible();
+        if (text.isEmpty())
+            continue;
+        // Each holder up to the first that scrolls has room for it.
+        QRect place = widget->rect();
+        for (const QWidget* at = widget; at->parentWidget() && !at->isWindow(); at = at->parentWidget()) {
+            const QWidget* holder = at->parentWidget();
+            if (qobject_cast<const QAbstractScrollArea*>(holder->parentWidget()))
+                break; // the viewport: what scrolls may lie beyond it
+            place.translate(at->pos());
+            EXPECT_TRUE(holder->rect().contains(place))
+                << describe(widget) << " \"" << text.toStdString() << "\" lies beyond " << describe(holder) << ": "
+                << place.x() << "," << place.y() << " " << place.width() << "x" << place.height() << " in "
+                << holder->width() << "x" << holder->height();
+        }
+        shown << ShownText{widget, QRect(widget->mapTo(widget->window(), QPoint(0, 0)), widget->size()),
+                           layerOf(widget)};
+    }
+    for (qsizetype i = 0; i < shown.size(); ++i) {
+        for (qsizetype j = i + 1; j < shown.size(); ++j) {
+            const ShownText& one = shown[i];
+            const ShownText& other = shown[j];
+            if (one.layer != other.layer || one.widget->isAncestorOf(other.widget) ||
+                other.widget->isAncestorOf(one.widget))
+                continue;
+            EXPECT_FALSE(one.place.intersects(other.place))
+                << describe(one.widget) << " \"" << one.widget->property("text").toString().left(30).toStdString() << "\" at "
+                << one.place.x() << "," << one.place.y() << " " << one.place.width() << "x" << one.place.height()
+                << " overlaps " << describe(other.widget) << " at " << other.place.x() << "," << other.place.y() << " "
+                << other.place.width() << "x" << other.place.height();
+        }
+    }
+}
+
 class ScreenTour;
 
 // One screen in one of its states, as a person meets it: its name, how the window is brought
@@ -235,17 +354,13 @@ const QSize kLarge(1440, 1700);
 const QSize kSmallest(MainWindow::minimumWidth, MainWindow::minimumHeight);
 
 // Every screen of the application in the states that show the most, on a machine of its own
-// for each visit.
-class ScreenTour : public test::FlowWindowTest, public ::testing::WithParamInterface<std::tuple<int, bool>> {
+// for each visit, in a window of `size()`.
+class ScreenTour : public test::FlowWindowTest {
 public:
     static const QList<ScreenVisit>& tour();
-    static std::string visitName(const ::testing::TestParamInfo<std::tuple<int, bool>>& info)
-    {
-        return std::string(tour().at(std::get<0>(info.param)).name) + (std::get<1>(info.param) ? "Smallest" : "Large");
-    }
 
 protected:
-    QSize size() const { return std::get<1>(GetParam()) ? kSmallest : kLarge; }
+    virtual QSize size() const = 0;
     // The window on `step` with `fakes` installed, once the screen's own work is done.
     void go(InstallationStep step, std::optional<CLITool> tool, std::initializer_list<const char*> fakes = {})
     {
@@ -411,7 +526,60 @@ const QList<ScreenVisit>& ScreenTour::tour()
     return visits;
 }
 
-TEST_P(ScreenTour, EveryScreenIsUsableByKeyboardReadableAndKeepsToItsColumn)
+namespace {
+
+// The tour in English, in a large window and in the smallest one.
+class EnglishTour : public ScreenTour, public ::testing::WithParamInterface<std::tuple<int, bool>> {
+public:
+    static std::string visitName(const ::testing::TestParamInfo<std::tuple<int, bool>>& info)
+    {
+        return std::string(tour().at(std::get<0>(info.param)).name) + (std::get<1>(info.param) ? "Smallest" : "Large");
+    }
+
+protected:
+    QSize size() const override { return std::get<1>(GetParam()) ? kSmallest : kLarge; }
+};
+
+// The tour in another language: a pseudo-translation where every text is at least 40% longer
+// than its English (as German and French run) with accented letters, and Japanese, which breaks
+// its lines between characters. At 1280x800, the smallest wide window, and at the smallest one.
+enum class TourLanguage { longer, japanese };
+const QSize kWide(1280, 800);
+
+class TranslatedTour : public ScreenTour,
+                       public ::testing::WithParamInterface<std::tuple<int, TourLanguage, bool>> {
+public:
+    static std::string visitName(const ::testing::TestParamInfo<std::tuple<int, TourLanguage, bool>>& info)
+    {
+        return std::string(tour().at(std::get<0>(info.param)).name) +
+               (std::get<1>(info.param) == TourLanguage::longer ? "Longer" : "Japanese") +
+               (std::get<2>(info.param) ? "Smallest" : "Wide");
+    }
+
+protected:
+    QSize size() const override { return std::get<2>(GetParam()) ? kSmallest : kWide; }
+    void SetUp() override
+    {
+        ScreenTour::SetUp();
+        const QString catalogue = std::get<1>(GetParam()) == TourLanguage::longer
+                                      ? QStringLiteral(QF_PSEUDO_CATALOGUE)
+                                      : QStringLiteral(QF_CATALOGUE_DIR "/quillforge_ja.qm");
+        ASSERT_TRUE(translator.load(catalogue)) << catalogue.toStdString();
+        QCoreApplication::installTranslator(&translator);
+    }
+    void TearDown() override
+    {
+        window.reset(); // its screens were built in the language; nothing of them outlives it
+        QCoreApplication::removeTranslator(&translator);
+        ScreenTour::TearDown();
+    }
+
+    QTranslator translator;
+};
+
+} // namespace
+
+TEST_P(EnglishTour, EveryScreenIsUsableByKeyboardReadableAndKeepsToItsColumn)
 {
     const ScreenVisit& stop = tour().at(std::get<0>(GetParam()));
     stop.arrive(*this);
@@ -424,6 +592,7 @@ TEST_P(ScreenTour, EveryScreenIsUsableByKeyboardReadableAndKeepsToItsColumn)
         EXPECT_FALSE(control->objectName().isEmpty()) << describe(control);
     }
     expectTheColumn();
+    expectWholeTexts(window.get(), size() == kLarge);
 
     QWidget* focus = QApplication::focusWidget();
     ASSERT_NE(focus, nullptr) << "nothing has the focus";
@@ -434,9 +603,42 @@ TEST_P(ScreenTour, EveryScreenIsUsableByKeyboardReadableAndKeepsToItsColumn)
     test::inBothAppearances([this] { expectReadable(window.get()); });
 }
 
-INSTANTIATE_TEST_SUITE_P(EveryScreen, ScreenTour,
+INSTANTIATE_TEST_SUITE_P(EveryScreen, EnglishTour,
                          ::testing::Combine(::testing::Range(0, int(ScreenTour::tour().size())), ::testing::Bool()),
-                         ScreenTour::visitName);
+                         EnglishTour::visitName);
+
+// In every language every text shows whole and the screen keeps to the window; the keyboard's
+// way and the contrast do not change with the words.
+TEST_P(TranslatedTour, EveryTextShowsWholeAndKeepsToTheWindow)
+{
+    const ScreenVisit& stop = tour().at(std::get<0>(GetParam()));
+    stop.arrive(*this);
+    ASSERT_FALSE(HasFatalFailure());
+    SCOPED_TRACE(stop.name);
+    // The screen speaks the language: its title is not English.
+    const bool longer = std::get<1>(GetParam()) == TourLanguage::longer;
+    const QList<ui::Label*> labels = screen()->findChildren<ui::Label*>();
+    EXPECT_TRUE(std::any_of(labels.cbegin(), labels.cend(), [longer](const ui::Label* label) {
+        const QString& text = label->text();
+        return label->isVisible() && (longer ? text.startsWith(u'[')
+                                             : std::any_of(text.cbegin(), text.cend(), [](QChar c) { return c.unicode() >= 0x3040; }));
+    }));
+
+    const Content found = expectWithin(QRect(QPoint(0, 0), size()));
+    EXPECT_FALSE(found.all.isNull());
+    if (const QWidget* bar = screen()->findChild<QWidget*>(QStringLiteral("bottomBar"))) {
+        EXPECT_GE(bar->height(), bar->sizeHint().height());
+    }
+    for (ui::ScrollView* scroll : screen()->findChildren<ui::ScrollView*>())
+        EXPECT_LE(scroll->content()->minimumSizeHint().width(), scroll->viewport()->width());
+    expectWholeTexts(window.get(), size() == kWide);
+}
+
+INSTANTIATE_TEST_SUITE_P(EveryLanguage, TranslatedTour,
+                         ::testing::Combine(::testing::Range(0, int(ScreenTour::tour().size())),
+                                            ::testing::Values(TourLanguage::longer, TourLanguage::japanese),
+                                            ::testing::Bool()),
+                         TranslatedTour::visitName);
 
 namespace {
 
