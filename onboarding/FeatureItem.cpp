@@ -31,6 +31,7 @@ FeatureItem::FeatureItem(const QString& icon, const ui::Tint& iconColor, const Q
     column->addStretch(1);
     auto* titleLabel = new Label(title, Theme::font(15, QFont::DemiBold));
     titleLabel->setObjectName(QStringLiteral("featureTitle"));
+    titleLabel->setWrapping(true);
     auto* descriptionLabel = new Label(description, Theme::font(13), Tint(Role::secondary));
     descriptionLabel->setObjectName(QStringLiteral("featureDescription"));
     descriptionLabel->setWrapping(true, 2);

@@ -60,10 +60,12 @@ OnboardingView::OnboardingView(InstallationState& state, QWidget* parent) : QWid
     auto* title = new Label(tr("Welcome to Quillforge"), Theme::font(28, QFont::Bold, FontDesign::rounded));
     title->setObjectName(QStringLiteral("onboardingTitle"));
     title->setAlignment(Qt::AlignHCenter);
+    title->setWrapping(true); // longer words in a narrow window
     auto* subtitle = new Label(tr("Get started with AI-powered coding in minutes"), Theme::font(15),
                                Tint(Role::secondary));
     subtitle->setObjectName(QStringLiteral("onboardingSubtitle"));
     subtitle->setAlignment(Qt::AlignHCenter);
+    subtitle->setWrapping(true);
     titleLayout->addWidget(title, 0, Qt::AlignHCenter);
     titleLayout->addWidget(subtitle, 0, Qt::AlignHCenter);
     header->addWidget(m_titleBlock, 0, Qt::AlignHCenter);

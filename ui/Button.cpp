@@ -27,8 +27,7 @@ Button::Button(const QString& title, Style style, Size size, QWidget* parent)
       m_font(Theme::body()),
       m_hover(this, 100, motion::easeInOut(), [this](qreal) { update(); })
 {
-    setText(title);
-    setAccessibleName(title);
+    setTitle(title);
     setAttribute(Qt::WA_Hover);
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
@@ -43,10 +42,20 @@ Button::Button(const QString& title, Style style, Size size, QWidget* parent)
 
 void Button::setTitle(const QString& title)
 {
-    setText(title);
-    setAccessibleName(title);
+    // Screen readers say the button's text unless it was given a name of its own, so the name
+    // follows every change of the title; "&&" keeps a "&" a character, not a shortcut.
+    QString escaped = title;
+    escaped.replace(QLatin1Char('&'), QLatin1String("&&"));
+    QAbstractButton::setText(escaped);
     updateGeometry();
     update();
+}
+
+QString Button::title() const
+{
+    QString shown = text();
+    shown.replace(QLatin1String("&&"), QLatin1String("&"));
+    return shown;
 }
 
 void Button::setTitleFont(const QFont& font)
@@ -135,9 +144,9 @@ int Button::naturalContentWidth() const
         width += Symbol::boxSize(m_leading.pointSize);
         ++parts;
     }
-    if (!text().isEmpty()) {
+    if (!title().isEmpty()) {
         // Shaped text has a fractional width; rounding it down would cut the last letter.
-        width += qCeil(QFontMetricsF(m_font).horizontalAdvance(text()));
+        width += qCeil(QFontMetricsF(m_font).horizontalAdvance(title()));
         ++parts;
     }
     if (!m_trailing.name.isEmpty()) {
@@ -199,7 +208,7 @@ QSize Button::sizeHint() const
 QColor Button::contentColor() const
 {
     // A title is text: it takes its colour's text shade, on the fill it lies on.
-    const bool titled = !text().isEmpty();
+    const bool titled = !title().isEmpty();
     const auto readable = [this, titled](const QColor& color) {
         if (!titled)
             return color;
@@ -295,13 +304,13 @@ void Button::paintEvent(QPaintEvent*)
     };
     if (!m_leading.name.isEmpty())
         drawSymbol(m_leading);
-    if (!text().isEmpty()) {
+    if (!title().isEmpty()) {
         painter.setFont(m_font);
         painter.setPen(content);
-        const QString shown = metrics.elidedText(text(), Qt::ElideRight, std::max<qreal>(0.0, bounds.width() - x));
+        const QString shown = metrics.elidedText(title(), Qt::ElideRight, std::max<qreal>(0.0, bounds.width() - x));
         const qreal baseline = centreY + (metrics.ascent() - metrics.descent()) / 2.0;
         painter.drawText(QPointF(x, baseline), shown);
-        x += metrics.horizontalAdvance(text()) + m_spacing;
+        x += metrics.horizontalAdvance(title()) + m_spacing;
     }
     if (!m_trailing.name.isEmpty())
         drawSymbol(m_trailing);

@@ -36,8 +36,12 @@ public:
     Style style() const { return m_style; }
     Size controlSize() const { return m_size; }
 
+    // The words on the button, which are also what screen readers say unless the button was
+    // given a name of its own (an icon's "About Node.js").
     void setTitle(const QString& title);
-    QString title() const { return text(); }
+    // Only through the title: the size and the spoken name follow it.
+    void setText(const QString& title) { setTitle(title); }
+    QString title() const;
     void setTitleFont(const QFont& font);
     void setLeadingSymbol(const QString& name, qreal pointSize, SymbolWeight weight = SymbolWeight::regular);
     void setTrailingSymbol(const QString& name, qreal pointSize, SymbolWeight weight = SymbolWeight::regular);

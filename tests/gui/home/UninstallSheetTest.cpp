@@ -10,6 +10,7 @@
 #include "TestSupport.h"
 #include "UninstallSheets.h"
 
+#include <QAccessible>
 #include <QAbstractButton>
 #include <QFile>
 #include <QLabel>
@@ -130,7 +131,8 @@ TEST_F(SheetTest, SystemToolSheetRunsTheItemsCommand)
     const QPointer<SystemToolUninstallSheet> guard(sheet);
     EXPECT_EQ(label(sheet, "sheetDescription"), QStringLiteral("This will remove Node.js from your system."));
     for (QWidget* control : test::focusableControls(sheet)) // shown or not, each has a name for screen readers
-        EXPECT_FALSE(control->accessibleName().trimmed().isEmpty()) << control->objectName().toStdString();
+        EXPECT_FALSE(QAccessible::queryAccessibleInterface(control)->text(QAccessible::Name).trimmed().isEmpty())
+            << control->objectName().toStdString();
     button(sheet, "uninstallButton")->click();
     EXPECT_TRUE(offered(sheet, "cancelButton")); // this removal may be left to run
     waitUntilIdle(sheet);

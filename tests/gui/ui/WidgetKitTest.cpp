@@ -9,6 +9,7 @@
 #include "TestSupport.h"
 #include "Theme.h"
 
+#include <QAccessible>
 #include <QAbstractAnimation>
 #include <QHBoxLayout>
 #include <QPlainTextEdit>
@@ -94,7 +95,18 @@ TEST(Label, AShortWrappingTextCentredBetweenStretchesStaysOnOneLine)
 TEST(Button, ReportsClicksAndNamesItself)
 {
     Button button(QStringLiteral("Get Started"), Button::Style::prominent, Button::Size::large);
-    EXPECT_EQ(button.accessibleName(), QStringLiteral("Get Started"));
+    const auto spoken = [&button] { return QAccessible::queryAccessibleInterface(&button)->text(QAccessible::Name); };
+    EXPECT_EQ(spoken(), QStringLiteral("Get Started"));
+    // The spoken name and the size follow a new title however it is set; "&" is a character.
+    const int wide = button.sizeHint().width();
+    button.setText(QStringLiteral("Save & Continue"));
+    EXPECT_EQ(spoken(), QStringLiteral("Save & Continue"));
+    EXPECT_EQ(button.title(), QStringLiteral("Save & Continue"));
+    EXPECT_TRUE(button.shortcut().isEmpty());
+    button.setTitle(QStringLiteral("Go"));
+    EXPECT_EQ(spoken(), QStringLiteral("Go"));
+    EXPECT_LT(button.sizeHint().width(), wide);
+    button.setTitle(QStringLiteral("Get Started"));
     button.setLabelWidth(160);
     EXPECT_EQ(button.sizeHint().width(), 160 + 2 * 14);
     EXPECT_GE(button.sizeHint().height(), 28);
