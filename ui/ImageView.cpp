@@ -3,9 +3,12 @@
 #include "Surface.h"
 
 #include <QDir>
+#include <QHash>
 #include <QPainter>
 #include <QPixmapCache>
 #include <QSvgRenderer>
+
+#include <memory>
 
 namespace qf::ui {
 
@@ -13,9 +16,20 @@ namespace {
 
 QString assetPath(const QString& name) { return QStringLiteral(":/images/%1.svg").arg(name); }
 
+// Each picture is read and parsed once: its size and every drawing of it come from one
+// renderer. Pictures are drawn on the window's thread only.
+QSvgRenderer& rendererFor(const QString& name)
+{
+    static QHash<QString, std::shared_ptr<QSvgRenderer>> renderers;
+    std::shared_ptr<QSvgRenderer>& renderer = renderers[name];
+    if (!renderer)
+        renderer = std::make_shared<QSvgRenderer>(assetPath(name));
+    return *renderer;
+}
+
 QSizeF naturalSize(const QString& name)
 {
-    QSvgRenderer svg(assetPath(name));
+    const QSvgRenderer& svg = rendererFor(name);
     const QSizeF size = svg.isValid() ? svg.viewBoxF().size() : QSizeF();
     return size.isEmpty() ? QSizeF(1, 1) : size;
 }
@@ -64,7 +78,7 @@ QPixmap ImageView::renderedPixmap(qreal dpr) const
     if (QPixmapCache::find(key, &cached))
         return cached;
 
-    QSvgRenderer svg(assetPath(m_asset));
+    QSvgRenderer& svg = rendererFor(m_asset);
     if (!svg.isValid())
         return {};
     const QSize pixels(qRound(m_size.width() * dpr), qRound(m_size.height() * dpr));

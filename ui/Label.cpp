@@ -55,13 +55,19 @@ void Label::setWrapping(bool wrap, int maximumLines)
     update();
 }
 
-int Label::lineCount(int width) const
+void Label::forgetMeasuresOfOldText() const
 {
     if (m_measuredText != text() || m_measuredFont != font()) {
         m_measuredText = text();
         m_measuredFont = font();
         m_lineCounts.clear();
+        m_oneLine = QSize();
     }
+}
+
+int Label::lineCount(int width) const
+{
+    forgetMeasuresOfOldText();
     if (const auto cached = m_lineCounts.constFind(width); cached != m_lineCounts.constEnd())
         return cached.value();
 
@@ -103,11 +109,16 @@ QSize Label::sizeHint() const
     // block, which breaks a short line that sits centred between stretches.
     if (m_maximumLines == 0 && (!wordWrap() || textFormat() == Qt::RichText || Qt::mightBeRichText(text())))
         return QLabel::sizeHint();
-    const QFontMetrics metrics(font());
-    // Prefer one line, as wide as the text wants, and let the layout narrow it.
+    // Prefer one line, as wide as the text wants, and let the layout narrow it. Layouts ask
+    // again and again; the text is measured once.
+    forgetMeasuresOfOldText();
     const QMargins m = contentsMargins();
-    const int wide = metrics.horizontalAdvance(text()) + 1 + m.left() + m.right();
-    return {wide, heightForWidth(wide)};
+    if (!m_oneLine.isValid() || m_oneLineMargins != m) {
+        const int wide = QFontMetrics(font()).horizontalAdvance(text()) + 1 + m.left() + m.right();
+        m_oneLine = QSize(wide, heightForWidth(wide));
+        m_oneLineMargins = m;
+    }
+    return m_oneLine;
 }
 
 QSize Label::minimumSizeHint() const

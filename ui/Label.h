@@ -34,6 +34,7 @@ protected:
 private:
     void applyTint();
     int lineCount(int width) const;
+    void forgetMeasuresOfOldText() const;
 
     Tint m_tint;
     int m_maximumLines = 0;
@@ -43,6 +44,8 @@ private:
     mutable QString m_measuredText;
     mutable QFont m_measuredFont;
     mutable QHash<int, int> m_lineCounts;
+    mutable QSize m_oneLine;
+    mutable QMargins m_oneLineMargins;
 };
 
 } // namespace qf::ui

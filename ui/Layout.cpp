@@ -2,6 +2,7 @@
 
 #include "RoundedCard.h"
 
+#include <QEvent>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -156,7 +157,9 @@ void BarRow::setGeometry(const QRect& room)
 QVBoxLayout* vstack(int spacing, QMargins padding) { return vstack(nullptr, spacing, padding); }
 QHBoxLayout* hstack(int spacing, QMargins padding) { return hstack(nullptr, spacing, padding); }
 
-void makeSlim(QScrollBar* bar)
+namespace {
+
+void applySlimStyle(QScrollBar* bar)
 {
     bar->setStyleSheet(
         QStringLiteral("QScrollBar:vertical { background: transparent; width: 11px; margin: 2px 2px 2px 0; }"
@@ -165,6 +168,38 @@ void makeSlim(QScrollBar* bar)
                        "QScrollBar::handle:vertical:hover { background: rgba(128, 128, 128, 0.8); }"
                        "QScrollBar::add-line:vertical, QScrollBar::sub-line:vertical { height: 0; }"
                        "QScrollBar::add-page:vertical, QScrollBar::sub-page:vertical { background: transparent; }"));
+}
+
+// Gives a scroll bar its style the first time it is about to show.
+class SlimOnShow : public QObject {
+public:
+    explicit SlimOnShow(QScrollBar* bar) : QObject(bar), m_bar(bar) { bar->installEventFilter(this); }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (watched == m_bar && event->type() == QEvent::Show) {
+            m_bar->removeEventFilter(this);
+            applySlimStyle(m_bar);
+            deleteLater();
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    QScrollBar* m_bar;
+};
+
+} // namespace
+
+void makeSlim(QScrollBar* bar)
+{
+    // A style sheet brings a style of its own, which takes time to make: a bar gets it when it
+    // first shows, so a screen that never scrolls never pays for it.
+    if (bar->isVisible())
+        applySlimStyle(bar);
+    else
+        new SlimOnShow(bar);
 }
 
 ScrollView::ScrollView(QWidget* parent) : QScrollArea(parent), m_content(new QWidget)
