@@ -402,7 +402,10 @@ TEST_F(AfterInstallTest, AKeyTheProfileComputesIsFollowedAndTheScreenSaysSo)
         profileText("/.zshrc").endsWith(QStringLiteral("\nexport OPENAI_API_KEY=\"") + kKey + QStringLiteral("\"\n")));
     EXPECT_FALSE(showsChild("skipButton"));
     EXPECT_FALSE(showsChild("profileCaption"));
-    EXPECT_EQ(button("saveButton")->text(), QStringLiteral("Continue"));
+    // It reads "Continue" and screen readers say so too.
+    EXPECT_EQ(button("saveButton")->title(), QStringLiteral("Continue"));
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(button("saveButton"))->text(QAccessible::Name),
+              QStringLiteral("Continue"));
     button("saveButton")->click();
     EXPECT_EQ(state.currentStep(), InstallationStep::completion);
 }
