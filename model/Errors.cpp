@@ -58,15 +58,7 @@ ShellError ShellError::cancellation()
     return error;
 }
 
-namespace {
-
-// A message of ShellError in the user's language, or as written (English) for the log.
-QString say(const char* text, bool english)
-{
-    return english ? QString::fromUtf8(text) : QCoreApplication::translate("ShellError", text);
-}
-
-} // namespace
+QString ShellError::say(const char* text, bool english) { return english ? QString::fromUtf8(text) : tr(text); }
 
 QString ShellError::durationText(double seconds) { return duration(seconds, false); }
 

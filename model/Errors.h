@@ -56,6 +56,9 @@ public:
     friend bool operator==(const ShellError&, const ShellError&) = default;
 
 private:
+    // `text` (marked with QT_TR_NOOP where it is written) in the user's language, or as written
+    // (English) for the log.
+    static QString say(const char* text, bool english);
     static QString duration(double seconds, bool english);
     QString describe(bool english) const;
 

@@ -20,15 +20,15 @@
 #include "WelcomeView.h"
 
 #include <QAbstractButton>
+#include <QAbstractScrollArea>
 #include <QAccessible>
 #include <QHash>
 #include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QAbstractScrollArea>
+#include <QTest>
 #include <QTextDocument>
 #include <QTextLayout>
 #include <QTranslator>
-#include <QTest>
 
 #include <algorithm>
 #include <cmath>
@@ -254,8 +254,8 @@ bool holdsItsText(const QWidget* widget, QString* text, bool everyLine)
             return true;
         const QRect room = label->contentsRect();
         if (!label->wordWrap())
-            return room.width() >= label->sizeHint().width() - label->contentsMargins().left() -
-                                       label->contentsMargins().right() - 1;
+            return room.width() >=
+                   label->sizeHint().width() - label->contentsMargins().left() - label->contentsMargins().right() - 1;
         if (label->textFormat() == Qt::RichText || Qt::mightBeRichText(*text)) {
             QTextDocument document;
             document.setDocumentMargin(0);
@@ -331,10 +331,10 @@ void expectWholeTexts(const QWidget* root, bool everyLine)
                 other.widget->isAncestorOf(one.widget))
                 continue;
             EXPECT_FALSE(one.place.intersects(other.place))
-                << describe(one.widget) << " \"" << one.widget->property("text").toString().left(30).toStdString() << "\" at "
-                << one.place.x() << "," << one.place.y() << " " << one.place.width() << "x" << one.place.height()
-                << " overlaps " << describe(other.widget) << " at " << other.place.x() << "," << other.place.y() << " "
-                << other.place.width() << "x" << other.place.height();
+                << describe(one.widget) << " \"" << one.widget->property("text").toString().left(30).toStdString()
+                << "\" at " << one.place.x() << "," << one.place.y() << " " << one.place.width() << "x"
+                << one.place.height() << " overlaps " << describe(other.widget) << " at " << other.place.x() << ","
+                << other.place.y() << " " << other.place.width() << "x" << other.place.height();
         }
     }
 }
@@ -563,8 +563,7 @@ protected:
 enum class TourLanguage { longer, japanese };
 const QSize kWide(1280, 800);
 
-class TranslatedTour : public ScreenTour,
-                       public ::testing::WithParamInterface<std::tuple<int, TourLanguage, bool>> {
+class TranslatedTour : public ScreenTour, public ::testing::WithParamInterface<std::tuple<int, TourLanguage, bool>> {
 public:
     static std::string visitName(const ::testing::TestParamInfo<std::tuple<int, TourLanguage, bool>>& info)
     {
@@ -644,8 +643,9 @@ TEST_P(TranslatedTour, EveryTextShowsWholeAndKeepsToTheWindow)
                 return QStringLiteral("åéîöû").contains(c) && text.contains(QString(2, c));
             });
         };
-        return label->isVisible() && (longer ? doubledVowel()
-                                             : std::any_of(text.cbegin(), text.cend(), [](QChar c) { return c.unicode() >= 0x3040; }));
+        return label->isVisible() && (longer ? doubledVowel() : std::any_of(text.cbegin(), text.cend(), [](QChar c) {
+                   return c.unicode() >= 0x3040;
+               }));
     }));
 
     const Content found = expectWithin(QRect(QPoint(0, 0), size()));

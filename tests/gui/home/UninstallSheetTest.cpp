@@ -10,8 +10,8 @@
 #include "TestSupport.h"
 #include "UninstallSheets.h"
 
-#include <QAccessible>
 #include <QAbstractButton>
+#include <QAccessible>
 #include <QFile>
 #include <QLabel>
 #include <QPlainTextEdit>

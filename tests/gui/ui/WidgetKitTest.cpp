@@ -9,8 +9,8 @@
 #include "TestSupport.h"
 #include "Theme.h"
 
-#include <QAccessible>
 #include <QAbstractAnimation>
+#include <QAccessible>
 #include <QHBoxLayout>
 #include <QPlainTextEdit>
 #include <QScrollBar>

@@ -4,9 +4,9 @@
 #include "TestMachine.h"
 #include "TestSupport.h"
 
-#include <QLocale>
 #include <QDir>
 #include <QFile>
+#include <QLocale>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
@@ -150,8 +150,10 @@ TEST(ShellError, TextsSayTheRealLengthsAndKeepTheEndOfLongOutput)
     // On screen numbers are written the user's way; the log keeps English, for asking for help.
     QLocale::setDefault(QLocale(QLocale::German));
     const ShellError slow = ShellError::timeout(1234.5);
-    EXPECT_EQ(slow.errorDescription(), QStringLiteral("The command did not finish within 1.234,5 seconds and was stopped."));
-    EXPECT_EQ(slow.logDescription(), QStringLiteral("The command did not finish within 1,234.5 seconds and was stopped."));
+    EXPECT_EQ(slow.errorDescription(),
+              QStringLiteral("The command did not finish within 1.234,5 seconds and was stopped."));
+    EXPECT_EQ(slow.logDescription(),
+              QStringLiteral("The command did not finish within 1,234.5 seconds and was stopped."));
     EXPECT_EQ(ServiceError(ShellError::stalled(2.5)).logDescription(),
               QStringLiteral("The command showed no progress for 2.5 seconds and was stopped."));
     QLocale::setDefault(saved);
