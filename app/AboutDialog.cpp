@@ -70,7 +70,8 @@ AboutDialog::AboutDialog(Platform& platform, QWidget* parent)
     column->addSpacing(6);
 
     auto* credits = new Label(
-        tr("Built with Qt %1. Icons from Phosphor, under the MIT licence.").arg(QString::fromLatin1(qVersion())),
+        tr("Released under the MIT licence. Built with Qt %1, with icons from Phosphor (also MIT).")
+            .arg(QString::fromLatin1(qVersion())),
         Theme::caption(), Tint(Role::secondary));
     credits->setObjectName(QStringLiteral("aboutCredits"));
     credits->setWrapping(true);

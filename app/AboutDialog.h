@@ -7,7 +7,8 @@ namespace qf {
 class Platform;
 
 // "About Quillforge": the logo, the version a person can report, the system it runs on, the
-// web site and the licences of what ships inside. Window-modal, like the removal sheets.
+// web site, Quillforge's licence and those of what ships inside. Window-modal, like the removal
+// sheets.
 class AboutDialog : public QDialog {
     Q_OBJECT
 

@@ -47,9 +47,11 @@ using qf::bench::minimum;
 
 using namespace qf;
 
-// This system's platform, with the Mac's developer tools to detect.
+// This system's platform for an account whose shell is zsh, as on a Mac, with the Mac's
+// developer tools to detect.
 class BenchPlatform : public LinuxPlatform {
 public:
+    BenchPlatform() : LinuxPlatform([] { return QStringLiteral("/bin/zsh"); }) {}
     DeveloperToolsItem developerToolsItem() const override { return MacPlatform::commandLineToolsItem(); }
 };
 

@@ -4,6 +4,8 @@ if(APPLE)
     # Everything lives inside Quillforge.app; the probe sits beside the app's own program.
     install(TARGETS quillforge BUNDLE DESTINATION .)
     install(TARGETS quillforge-probe RUNTIME DESTINATION Quillforge.app/Contents/MacOS)
+    # The licences go inside the bundle: Quillforge's own and the icons'.
+    install(FILES LICENSE DESTINATION Quillforge.app/Contents/Resources RENAME LICENSE.txt)
     install(FILES resources/icons/LICENSE DESTINATION Quillforge.app/Contents/Resources RENAME Phosphor-LICENSE.txt)
     return()
 endif()
@@ -31,6 +33,8 @@ foreach(name quillforge.1 quillforge-probe.1 changelog)
 endforeach()
 add_custom_target(quillforge_docs ALL DEPENDS ${compressed})
 install(FILES ${generated}/quillforge.1.gz ${generated}/quillforge-probe.1.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+# The copyright file carries every licence with its text (Quillforge's and the icons', both MIT):
+# Debian wants it there and in no second file (lintian's extra-license-file).
 install(FILES ${generated}/changelog.gz resources/linux/copyright DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/quillforge)
 
 set(CPACK_GENERATOR DEB)

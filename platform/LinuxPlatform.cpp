@@ -1,6 +1,7 @@
 #include "PlatformBackends.h"
 
 #include "Diagnostics.h"
+#include "LoginShell.h"
 #include "ShellQuote.h"
 
 #include <QCoreApplication>
@@ -12,6 +13,8 @@
 #include <QStandardPaths>
 #include <QSysInfo>
 #include <QUrl>
+
+#include <utility>
 
 namespace qf {
 
@@ -25,17 +28,6 @@ QMap<QString, QString> readOsRelease()
             return LinuxPlatform::parseOsRelease(QString::fromUtf8(file.readAll()));
     }
     return {};
-}
-
-// The login shell the terminal ends in: the user's own when it can be run.
-QString userShell()
-{
-    QString shell = qEnvironmentVariable("SHELL");
-    if (!shell.isEmpty()) {
-        if (const QFileInfo info(shell); info.isFile() && info.isExecutable())
-            return shell;
-    }
-    return QStringLiteral("/bin/bash");
 }
 
 // Terminal emulators here start bash as an interactive shell that is no login shell, so it
@@ -88,7 +80,10 @@ QString packageLineFor(const QString& distribution)
 
 } // namespace
 
-LinuxPlatform::LinuxPlatform() : m_osRelease(readOsRelease()), m_wording(wordingFor(m_osRelease)) {}
+LinuxPlatform::LinuxPlatform(AccountShellReader accountShell)
+    : m_accountShell(std::move(accountShell)), m_osRelease(readOsRelease()), m_wording(wordingFor(m_osRelease))
+{
+}
 
 QString LinuxPlatform::name() const { return QStringLiteral("Linux"); }
 
@@ -333,7 +328,7 @@ void LinuxPlatform::openTerminal(const QString& command, const QString& director
         return;
     }
     const QString home = QDir::homePath();
-    const QStringList commandLine = terminalCommandLine(*emulator, command, directory, home, userShell());
+    const QStringList commandLine = terminalCommandLine(*emulator, command, directory, home, loginShell());
 
     QProcess process;
     process.setProgram(commandLine.first());
@@ -396,12 +391,12 @@ void LinuxPlatform::startDeveloperToolsInstaller(TerminalOutcome outcome)
 
 QStringList LinuxPlatform::terminalShellInvocation(const QString& line) const
 {
-    return shellInvocation(userShell(), line);
+    return shellInvocation(loginShell(), line);
 }
 
-QString LinuxPlatform::loginShell() const { return userShell(); }
+QString LinuxPlatform::loginShell() const { return accountLoginShell(m_accountShell, QStringLiteral("/bin/bash")); }
 
-bool LinuxPlatform::terminalStartsLoginShell() const { return startsAsLoginShell(userShell()); }
+bool LinuxPlatform::terminalStartsLoginShell() const { return startsAsLoginShell(loginShell()); }
 
 std::optional<NodeReleaseTarget> LinuxPlatform::nodeReleaseTarget() const
 {

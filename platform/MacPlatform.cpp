@@ -1,6 +1,7 @@
 #include "PlatformBackends.h"
 
 #include "Diagnostics.h"
+#include "LoginShell.h"
 #include "MacVolume.h"
 #include "ShellQuote.h"
 
@@ -15,6 +16,7 @@
 #include <QVersionNumber>
 
 #include <algorithm>
+#include <utility>
 
 namespace qf {
 
@@ -91,7 +93,7 @@ void runAppleScript(QObject* owner, const QString& script, bool reportErrors, co
 
 } // namespace
 
-MacPlatform::MacPlatform() = default;
+MacPlatform::MacPlatform(AccountShellReader accountShell) : m_accountShell(std::move(accountShell)) {}
 
 MacPlatform::~MacPlatform()
 {
@@ -272,13 +274,7 @@ void MacPlatform::startDeveloperToolsInstaller(TerminalOutcome outcome)
                        [this] { runAppleScript(&m_scripts, systemEventsScript(), false); });
 }
 
-QString MacPlatform::loginShell() const
-{
-    QString shell = qEnvironmentVariable("SHELL");
-    if (const QFileInfo info(shell); shell.isEmpty() || !info.isFile() || !info.isExecutable())
-        shell = QStringLiteral("/bin/zsh");
-    return shell;
-}
+QString MacPlatform::loginShell() const { return accountLoginShell(m_accountShell, QStringLiteral("/bin/zsh")); }
 
 QStringList MacPlatform::terminalShellInvocation(const QString& line) const
 {

@@ -185,7 +185,8 @@ public:
     // `line`: the user's shell, started as the terminal starts it, so that it reads the same
     // start-up files.
     virtual QStringList terminalShellInvocation(const QString& line) const = 0;
-    // The user's shell: the one a new terminal window starts.
+    // The user's shell: the one a new terminal window starts, which is the account's shell in
+    // the user database rather than $SHELL (see chooseLoginShell).
     virtual QString loginShell() const = 0;
     // The program and arguments that run `line` in the user's shell started as a login shell,
     // without a terminal, so that it reads the start-up files that give a terminal its
@@ -234,8 +235,12 @@ public:
     virtual std::optional<NodeReleaseTarget> nodeReleaseTarget() const = 0;
 };
 
+// Where a backend learns the shell that the user database records for the account: empty
+// for the user database itself; a test may answer instead.
+using AccountShellReader = std::function<QString()>;
+
 // The backend for the system this binary was built for.
-std::unique_ptr<Platform> createNativePlatform();
+std::unique_ptr<Platform> createNativePlatform(AccountShellReader accountShell = {});
 
 // The exit code of an administrator command whose password dialog was cancelled.
 inline constexpr int kAdministratorDeclined = 126;

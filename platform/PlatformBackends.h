@@ -16,7 +16,8 @@ inline QString translated(const char* context, const char* text) { return QCoreA
 // lines are pure functions so that they are tested on every system.
 class MacPlatform : public Platform {
 public:
-    MacPlatform();
+    // The account's shell as `accountShell` reads it; empty: from the user database.
+    explicit MacPlatform(AccountShellReader accountShell = {});
     ~MacPlatform() override;
     MacPlatform(const MacPlatform&) = delete;
     MacPlatform& operator=(const MacPlatform&) = delete;
@@ -40,6 +41,7 @@ public:
     void startDeveloperToolsInstaller(TerminalOutcome outcome) override;
     bool setupIncludesHomebrew() const override { return true; }
     QStringList terminalShellInvocation(const QString& line) const override;
+    // The account's shell, then $SHELL, then zsh (chooseLoginShell): the shell Terminal starts.
     QString loginShell() const override;
     bool terminalStartsLoginShell() const override;
     QString administratorCommand(const QString& command) const override { return administratorLine(command); }
@@ -77,6 +79,7 @@ public:
     static QStringList revealCommandLine(const QString& path);
 
 private:
+    AccountShellReader m_accountShell;
     // The AppleScripts on their way, which end before the platform does.
     QObject m_scripts;
 };
@@ -85,7 +88,8 @@ private:
 // the build tools as the developer-tools item, the Node.js release archive.
 class LinuxPlatform : public Platform {
 public:
-    LinuxPlatform();
+    // The account's shell as `accountShell` reads it; empty: from the user database.
+    explicit LinuxPlatform(AccountShellReader accountShell = {});
 
     QString name() const override;
     const SystemWording& wording() const override;
@@ -105,6 +109,8 @@ public:
     // Homebrew the user installed is already there).
     bool setupIncludesHomebrew() const override { return false; }
     QStringList terminalShellInvocation(const QString& line) const override;
+    // The account's shell, then $SHELL, then bash (chooseLoginShell): the shell a VTE terminal
+    // starts.
     QString loginShell() const override;
     bool terminalStartsLoginShell() const override;
     QString administratorCommand(const QString& command) const override { return administratorLine(command); }
@@ -162,6 +168,7 @@ public:
     static QStringList showItemsCommandLine(const QString& path);
 
 private:
+    AccountShellReader m_accountShell;
     QMap<QString, QString> m_osRelease;
     SystemWording m_wording;
 };

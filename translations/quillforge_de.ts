@@ -1077,16 +1077,16 @@
         <translation>Quillforge-Website öffnen</translation>
     </message>
     <message>
-        <source>Built with Qt %1. Icons from Phosphor, under the MIT licence.</source>
-        <translation>Erstellt mit Qt %1. Symbole von Phosphor, unter der MIT-Lizenz.</translation>
-    </message>
-    <message>
         <source>Copy Version Details</source>
         <translation>Versionsdetails kopieren</translation>
     </message>
     <message>
         <source>Close</source>
         <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Released under the MIT licence. Built with Qt %1, with icons from Phosphor (also MIT).</source>
+        <translation>Veröffentlicht unter der MIT-Lizenz. Erstellt mit Qt %1, mit Symbolen von Phosphor (ebenfalls MIT).</translation>
     </message>
 </context>
 <context>

@@ -1077,16 +1077,16 @@
         <translation>Abrir el sitio web de Quillforge</translation>
     </message>
     <message>
-        <source>Built with Qt %1. Icons from Phosphor, under the MIT licence.</source>
-        <translation>Creado con Qt %1. Iconos de Phosphor, con licencia MIT.</translation>
-    </message>
-    <message>
         <source>Copy Version Details</source>
         <translation>Copiar detalles de la versión</translation>
     </message>
     <message>
         <source>Close</source>
         <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Released under the MIT licence. Built with Qt %1, with icons from Phosphor (also MIT).</source>
+        <translation>Publicado con licencia MIT. Creado con Qt %1, con iconos de Phosphor (también MIT).</translation>
     </message>
 </context>
 <context>

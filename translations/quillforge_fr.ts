@@ -1077,16 +1077,16 @@
         <translation>Ouvrir le site web de Quillforge</translation>
     </message>
     <message>
-        <source>Built with Qt %1. Icons from Phosphor, under the MIT licence.</source>
-        <translation>Conçu avec Qt %1. Icônes de Phosphor, sous licence MIT.</translation>
-    </message>
-    <message>
         <source>Copy Version Details</source>
         <translation>Copier les détails de version</translation>
     </message>
     <message>
         <source>Close</source>
         <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Released under the MIT licence. Built with Qt %1, with icons from Phosphor (also MIT).</source>
+        <translation>Publié sous licence MIT. Conçu avec Qt %1, avec des icônes de Phosphor (également sous licence MIT).</translation>
     </message>
 </context>
 <context>

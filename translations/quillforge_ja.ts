@@ -1077,16 +1077,16 @@
         <translation>Quillforge の Web サイトを開く</translation>
     </message>
     <message>
-        <source>Built with Qt %1. Icons from Phosphor, under the MIT licence.</source>
-        <translation>Qt %1 で構築。アイコンは Phosphor のもの（MIT ライセンス）です。</translation>
-    </message>
-    <message>
         <source>Copy Version Details</source>
         <translation>バージョン情報をコピー</translation>
     </message>
     <message>
         <source>Close</source>
         <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Released under the MIT licence. Built with Qt %1, with icons from Phosphor (also MIT).</source>
+        <translation>MIT ライセンスで公開しています。Qt %1 で構築。アイコンは Phosphor のもの（こちらも MIT ライセンス）です。</translation>
     </message>
 </context>
 <context>

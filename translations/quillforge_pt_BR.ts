@@ -1077,16 +1077,16 @@
         <translation>Abrir o site do Quillforge</translation>
     </message>
     <message>
-        <source>Built with Qt %1. Icons from Phosphor, under the MIT licence.</source>
-        <translation>Feito com Qt %1. Ícones do Phosphor, sob a licença MIT.</translation>
-    </message>
-    <message>
         <source>Copy Version Details</source>
         <translation>Copiar detalhes da versão</translation>
     </message>
     <message>
         <source>Close</source>
         <translation>Fechar</translation>
+    </message>
+    <message>
+        <source>Released under the MIT licence. Built with Qt %1, with icons from Phosphor (also MIT).</source>
+        <translation>Publicado sob a licença MIT. Feito com Qt %1, com ícones do Phosphor (também MIT).</translation>
     </message>
 </context>
 <context>

@@ -1077,16 +1077,16 @@
         <translation>打开 Quillforge 网站</translation>
     </message>
     <message>
-        <source>Built with Qt %1. Icons from Phosphor, under the MIT licence.</source>
-        <translation>基于 Qt %1 构建。图标来自 Phosphor，采用 MIT 许可证。</translation>
-    </message>
-    <message>
         <source>Copy Version Details</source>
         <translation>复制版本信息</translation>
     </message>
     <message>
         <source>Close</source>
         <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Released under the MIT licence. Built with Qt %1, with icons from Phosphor (also MIT).</source>
+        <translation>以 MIT 许可证发布。基于 Qt %1 构建，图标来自 Phosphor（同样采用 MIT 许可证）。</translation>
     </message>
 </context>
 <context>

@@ -334,6 +334,14 @@ void printProfileAndTerminal(Services& services)
     else
         state = QStringLiteral(" (does not exist)");
     printField(QStringLiteral("Shell profile"), profile + state);
+    // The account's shell, which new terminals start; SHELL only when it says otherwise (it
+    // goes stale after chsh, and an app started by the desktop may have none).
+    const QString shell = services.platform.loginShell();
+    const QString named = qEnvironmentVariable("SHELL");
+    printField(QStringLiteral("Login shell"),
+               named == shell ? shell
+                              : shell + QStringLiteral(" (SHELL: ") +
+                                    (named.isEmpty() ? QStringLiteral("not set") : named) + QLatin1Char(')'));
     printField(QStringLiteral("Terminal"), services.platform.terminalDescription());
 }
 

@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdio>
+#include <functional>
 
 namespace qf::e2e {
 
@@ -40,14 +41,20 @@ inline ShellAnswer freshLoginShell(const QString& shell, const QString& home, co
     return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()).trimmed()};
 }
 
-// Makes `home` this process's home, with `shell` as the user's shell (the login shell the
-// app reads, and the one a terminal window would start).
+// Makes `home` this process's home, with `shell` in SHELL as a terminal's environment has it.
 inline void moveInto(const QTemporaryDir& home, const QString& shell)
 {
     ASSERT_TRUE(home.isValid());
     qputenv("HOME", QFile::encodeName(home.path()));
     ASSERT_TRUE(QFileInfo(shell).isExecutable()) << "zsh is needed for the login shell";
     qputenv("SHELL", QFile::encodeName(shell));
+}
+
+// `shell` as the account's shell, whatever the user database says of the user running the
+// test: the login shell the app reads, and the one a terminal window would start.
+inline std::function<QString()> accountShell(const QString& shell)
+{
+    return [shell] { return shell; };
 }
 
 // Prints what the test does as it goes, for whoever runs it.

@@ -25,7 +25,7 @@ TEST(GeminiEndToEnd, InstalledWithoutAdministratorRightsFoundByTheTerminalAndRem
     const QString shell = QStringLiteral("/bin/zsh");
     ASSERT_NO_FATAL_FAILURE(e2e::moveInto(home, shell));
 
-    const std::unique_ptr<Platform> platform = createNativePlatform();
+    const std::unique_ptr<Platform> platform = createNativePlatform(e2e::accountShell(shell));
     Services services(*platform);
 
     const std::optional<Result<QString>> prefix = test::await(services.runner.run(QStringLiteral("npm prefix -g")));

@@ -49,7 +49,7 @@ TEST(GeminiEndToEnd, AnOlderVersionInLocalIsFoundOutOfDateAndUpdatedInPlace)
     ASSERT_NO_FATAL_FAILURE(e2e::moveInto(home, shell));
     Preferences::useFile(home.filePath(QStringLiteral("preferences.ini")));
 
-    const std::unique_ptr<Platform> platform = createNativePlatform();
+    const std::unique_ptr<Platform> platform = createNativePlatform(e2e::accountShell(shell));
     Services services(*platform);
     const CLITool gemini = CLITool::geminiCLI;
 

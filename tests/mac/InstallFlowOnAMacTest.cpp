@@ -4,6 +4,10 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QScopeGuard>
+
+#include <optional>
+#include <string>
 
 using namespace qf;
 using test::MacTest;
@@ -72,6 +76,26 @@ TEST_F(InstallFlowOnAMac, WithoutTheCommandLineToolsTheCheckNamesThemAndAsksNoth
     waitForCheck();
     EXPECT_EQ(requirement(SystemRequirement::git),
               (RequirementStatus{SystemRequirement::git, true, QStringLiteral("git version 2.39.5 (Apple Git-154)")}));
+}
+
+// The account's shell in the Mac's user database is zsh: the shell Terminal starts, whose
+// profile gets the search path, even when the app's SHELL still names bash from before chsh,
+// or when it has no SHELL at all.
+TEST_F(InstallFlowOnAMac, TheAccountsShellOutranksSHELL)
+{
+    const QByteArray started = qgetenv("SHELL");
+    const auto restore = qScopeGuard([&started] { qputenv("SHELL", started); });
+    for (const std::optional<QByteArray>& shell :
+         {std::optional<QByteArray>("/bin/bash"), std::optional<QByteArray>()}) {
+        if (shell)
+            qputenv("SHELL", *shell);
+        else
+            qunsetenv("SHELL");
+        const std::string which = shell ? "SHELL=/bin/bash" : "no SHELL";
+        EXPECT_EQ(platform->loginShell(), QStringLiteral("/bin/zsh")) << which;
+        EXPECT_EQ(platform->loginShellInvocation(QStringLiteral("true")).value(0), QStringLiteral("/bin/zsh")) << which;
+        EXPECT_EQ(services->detector.shellProfilePath(), QDir::homePath() + QStringLiteral("/.zshrc")) << which;
+    }
 }
 
 // The operating system requirement reads the Mac's version: 13 is too old, 14 and 26 are fine.

@@ -139,6 +139,57 @@ TEST(Release, TheOneVersionReachesEveryPlaceItIsShown)
     }
 }
 
+// Quillforge is MIT-licensed: the licence file, the package's copyright file (which Debian
+// wants to hold every licence with its text), the AppStream metainfo, the bundle and the about
+// window all say so; the icons keep their own notice.
+TEST(Release, TheLicenceIsMITWhereverItIsNamed)
+{
+    const QString source = QStringLiteral(QF_SOURCE_DIR);
+    const QString licence = QString::fromUtf8(readFile(source + QStringLiteral("/LICENSE")));
+    EXPECT_TRUE(licence.startsWith(QStringLiteral("MIT License\n\nCopyright (c) 2026 The Quillforge developers\n\n")))
+        << licence.left(80).toStdString();
+    const qsizetype permission = licence.indexOf(QStringLiteral("Permission is hereby granted"));
+    ASSERT_GT(permission, 0);
+    const QString text = licence.mid(permission);
+    QString icons = QString::fromUtf8(readFile(source + QStringLiteral("/resources/icons/LICENSE")));
+    icons.remove(QLatin1Char('\r'));
+    EXPECT_TRUE(icons.contains(QStringLiteral("Copyright (c) 2023 Phosphor Icons")));
+    EXPECT_EQ(icons.mid(icons.indexOf(QStringLiteral("Permission is hereby granted"))), text);
+
+    // The copyright file's paragraphs: the Files paragraphs name the licence, one paragraph of
+    // its own holds the text, blank lines as " .".
+    QString copyright = QString::fromUtf8(readFile(source + QStringLiteral("/resources/linux/copyright")));
+    ASSERT_TRUE(copyright.endsWith(QLatin1Char('\n')));
+    copyright.chop(1);
+    const QStringList paragraphs = copyright.split(QStringLiteral("\n\n"));
+    ASSERT_EQ(paragraphs.size(), 4);
+    EXPECT_EQ(paragraphs[1], QStringLiteral("Files: *\nCopyright: 2026 The Quillforge developers\nLicense: Expat"));
+    EXPECT_EQ(paragraphs[2],
+              QStringLiteral("Files: resources/icons/*\nCopyright: 2023 Phosphor Icons\nLicense: Expat"));
+    QStringList lines = paragraphs[3].split(QLatin1Char('\n'));
+    EXPECT_EQ(lines.takeFirst(), QStringLiteral("License: Expat"));
+    for (QString& line : lines) {
+        EXPECT_TRUE(line.startsWith(QLatin1Char(' ')) && line.trimmed() != QString()) << line.toStdString();
+        line = line == QStringLiteral(" .") ? QString() : line.mid(1);
+    }
+    EXPECT_EQ(QString(lines.join(QLatin1Char('\n')) + QLatin1Char('\n')), text);
+
+    const QString generated = QStringLiteral(QF_GENERATED_DIR);
+    const QString metainfo =
+        QString::fromUtf8(readFile(generated + QStringLiteral("/app.quillforge.Quillforge.metainfo.xml")));
+    EXPECT_TRUE(metainfo.contains(QStringLiteral("<project_license>MIT</project_license>")));
+    EXPECT_EQ(
+        readPropertyList(generated + QStringLiteral("/Info.plist")).value(QStringLiteral("NSHumanReadableCopyright")),
+        QStringLiteral("\u00a9 2026 The Quillforge developers. Released under the MIT licence."));
+
+    test::FakePlatform platform;
+    const AboutDialog about(platform);
+    const QString credits = test::child<QLabel>(&about, QStringLiteral("aboutCredits"))->text();
+    EXPECT_TRUE(credits.startsWith(QStringLiteral("Released under the MIT licence.")) &&
+                credits.contains(QString::fromLatin1(qVersion())) && credits.contains(QStringLiteral("Phosphor")))
+        << credits.toStdString();
+}
+
 TEST(Release, VersionAndHelpAnswerWithoutAWindowAndUnknownOptionsAreRefused)
 {
     // No display is set: a launch that tried to open a window could not even start.

@@ -296,9 +296,12 @@ TEST_P(LinuxPlatformOpenTerminal, RunsTheLineInTheDirectoryAndEndsInTheShell)
 
     qf::test::ScopedEnv pathEnv("PATH", bin.toUtf8());
     qf::test::ScopedEnv homeEnv("HOME", home.toUtf8());
-    qf::test::ScopedEnv shellEnv("SHELL", shell.toUtf8());
+    // The account's shell opens the window, not the one SHELL names (which would do nothing).
+    const QString named = sandbox.filePath(QStringLiteral("shells/named sh"));
+    ASSERT_TRUE(qf::test::writeExecutable(named, "#!/bin/sh\nexit 0\n"));
+    qf::test::ScopedEnv shellEnv("SHELL", named.toUtf8());
 
-    LinuxPlatform platform;
+    LinuxPlatform platform([shell] { return shell; });
     EXPECT_EQ(platform.terminalDescription(),
               emulatorName + QStringLiteral(" (") + bin + QLatin1Char('/') + emulatorName + QLatin1Char(')'));
     qf::test::StdoutCapture capture;

@@ -48,16 +48,21 @@ TEST(MacPlatformShell, TheLoginEnvironmentComesFromTheAccountsShell)
     QTemporaryDir folder;
     ASSERT_TRUE(folder.isValid());
     const QString line = QStringLiteral("printf x");
+    const QString missing = folder.filePath(QStringLiteral("missing"));
+    const auto account = [](const QString& shell) { return [shell] { return shell; }; };
     {
-        qf::test::ScopedEnv shell("SHELL", folder.filePath(QStringLiteral("missing")).toUtf8());
-        EXPECT_EQ(MacPlatform().loginShellInvocation(line),
+        qf::test::ScopedEnv shell("SHELL", missing.toUtf8());
+        EXPECT_EQ(MacPlatform(account(missing)).loginShellInvocation(line),
                   (QStringList{QStringLiteral("/bin/zsh"), QStringLiteral("-l"), QStringLiteral("-i"),
                                QStringLiteral("-c"), line}));
     }
+    // What SHELL says does not count while the account's shell can run.
+    const QString named = folder.filePath(QStringLiteral("sh"));
+    ASSERT_TRUE(qf::test::writeExecutable(named, "#!/bin/sh\n"));
+    qf::test::ScopedEnv shell("SHELL", named.toUtf8());
     for (const char* name : {"bash", "tcsh", "ksh"}) {
         const QString path = folder.filePath(QLatin1String(name));
         ASSERT_TRUE(qf::test::writeExecutable(path, "#!/bin/sh\n"));
-        qf::test::ScopedEnv shell("SHELL", path.toUtf8());
         // csh and tcsh take "-l" only alone; a shell not known to take "-i" with "-c" gets "-l".
         const QString which = QLatin1String(name);
         const QStringList expected = which == QLatin1String("tcsh") ? QStringList{path, QStringLiteral("-c"), line}
@@ -65,15 +70,15 @@ TEST(MacPlatformShell, TheLoginEnvironmentComesFromTheAccountsShell)
                                          ? QStringList{path, QStringLiteral("-l"), QStringLiteral("-c"), line}
                                          : QStringList{path, QStringLiteral("-l"), QStringLiteral("-i"),
                                                        QStringLiteral("-c"), line};
-        EXPECT_EQ(MacPlatform().loginShellInvocation(line), expected);
-        EXPECT_EQ(qf::LinuxPlatform().loginShellInvocation(line), expected);
+        EXPECT_EQ(MacPlatform(account(path)).loginShellInvocation(line), expected);
+        EXPECT_EQ(qf::LinuxPlatform(account(path)).loginShellInvocation(line), expected);
         // A login shell per command is never interactive: what only a terminal's shell reads
         // (a ~/.bashrc that starts tmux) stays out.
         const QStringList plain = which == QLatin1String("tcsh")
                                       ? QStringList{path, QStringLiteral("-c"), line}
                                       : QStringList{path, QStringLiteral("-l"), QStringLiteral("-c"), line};
-        EXPECT_EQ(MacPlatform().plainLoginShellInvocation(line), plain);
-        EXPECT_EQ(qf::LinuxPlatform().plainLoginShellInvocation(line), plain);
+        EXPECT_EQ(MacPlatform(account(path)).plainLoginShellInvocation(line), plain);
+        EXPECT_EQ(qf::LinuxPlatform(account(path)).plainLoginShellInvocation(line), plain);
     }
 }
 

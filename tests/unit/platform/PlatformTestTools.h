@@ -20,13 +20,19 @@
 
 namespace qf::test {
 
-// Sets an environment variable for the lifetime of the object and puts the old value back.
+// Sets an environment variable (or unsets it) for the lifetime of the object and puts the old
+// value back.
 class ScopedEnv {
 public:
     ScopedEnv(const char* name, const QByteArray& value)
         : m_name(name), m_old(qgetenv(name)), m_had(qEnvironmentVariableIsSet(name))
     {
         qputenv(name, value);
+    }
+    ScopedEnv(const char* name, std::nullopt_t)
+        : m_name(name), m_old(qgetenv(name)), m_had(qEnvironmentVariableIsSet(name))
+    {
+        qunsetenv(name);
     }
     ~ScopedEnv()
     {

@@ -233,6 +233,32 @@ TEST_F(SystemDetectorTest, TheCheckOfAToolLooksForItBeforeTheRequirements)
     EXPECT_EQ(check(CLITool::claudeCode), std::tuple(true, std::optional<QString>(), QList<RequirementStatus>()));
 }
 
+// The profile that gets the search path is the one of the shell a new terminal starts: the
+// account's zsh, whether SHELL names bash (as it does until the next login after chsh) or is
+// not set at all (an app started by the desktop without it).
+TEST_F(SystemDetectorTest, ShellProfileFollowsTheAccountsShellNotSHELL)
+{
+    const QString zsh = sandbox.path(QStringLiteral("shells/zsh"));
+    ASSERT_TRUE(test::writeExecutable(zsh, "#!/bin/sh\n"));
+    const LinuxPlatform linuxPlatform([zsh] { return zsh; });
+    const MacPlatform mac([zsh] { return zsh; });
+    SystemDetector onLinux(services.runner, linuxPlatform);
+    SystemDetector onAMac(services.runner, mac);
+    const auto chosen = [](const SystemDetector& detector) {
+        const ShellProfile profile = detector.shellProfile();
+        return std::pair(profile.path, profile.family);
+    };
+    const std::pair<QString, ShellFamily> expected(sandbox.home() + QStringLiteral("/.zshrc"), ShellFamily::posix);
+    sandbox.writeFile(QStringLiteral(".bashrc"), "");
+    sandbox.writeFile(QStringLiteral(".bash_profile"), "");
+    sandbox.setEnv("SHELL", "/bin/bash");
+    EXPECT_EQ(chosen(onLinux), expected);
+    EXPECT_EQ(chosen(onAMac), expected);
+    qunsetenv("SHELL"); // the sandbox puts it back
+    EXPECT_EQ(chosen(onLinux), expected);
+    EXPECT_EQ(chosen(onAMac), expected);
+}
+
 TEST_F(SystemDetectorTest, ShellProfileChoiceFollowsTheUsersShell)
 {
     const auto choice = [this](const char* shell) {
