@@ -45,7 +45,7 @@ long valueAfter(const std::string& output, const char* key)
     return at == std::string::npos ? -1 : std::strtol(output.c_str() + at + std::strlen(key), nullptr, 10);
 }
 
-bool runOnce(const char* program, Sample& sample, bool waitForScreen)
+bool runOnce(const char* program, Sample& sample, bool waitForScreen, const char* argument = nullptr)
 {
     QTemporaryDir home;
     if (!home.isValid())
@@ -64,7 +64,7 @@ bool runOnce(const char* program, Sample& sample, bool waitForScreen)
         setenv("HOME", homePath.c_str(), 1);
         setenv("XDG_CONFIG_HOME", (homePath + "/.config").c_str(), 1);
         setenv("QUILLFORGE_REPORT_FIRST_FRAME", "1", 1);
-        execl(program, program, static_cast<char*>(nullptr));
+        execl(program, program, argument, static_cast<char*>(nullptr));
         _exit(127);
     }
     close(fds[1]);
@@ -122,7 +122,7 @@ int main(int argc, char** argv)
     std::printf("platform: %s, %d runs each\n",
                 platform ? platform : (std::getenv("DISPLAY") ? "xcb (DISPLAY)" : "default"), runs);
 
-    std::vector<Sample> app, bare;
+    std::vector<Sample> app, bare, text;
     Sample warm;
     runOnce(QUILLFORGE_APP_PATH, warm, true); // fill the file cache before measuring
     runOnce(QUILLFORGE_BARE_PATH, warm, false);
@@ -133,6 +133,11 @@ int main(int argc, char** argv)
             return 1;
         }
         bare.push_back(sample);
+        if (!runOnce(QUILLFORGE_BARE_PATH, sample, false, "--text")) {
+            std::fprintf(stderr, "bare window with text did not report a frame\n");
+            return 1;
+        }
+        text.push_back(sample);
         if (!runOnce(QUILLFORGE_APP_PATH, sample, true)) {
             std::fprintf(stderr, "quillforge did not report a frame\n");
             return 1;
@@ -140,14 +145,22 @@ int main(int argc, char** argv)
         app.push_back(sample);
     }
     summarise("bare window", bare);
+    summarise("bare + text", text);
     summarise("quillforge", app);
     summariseScreen(app);
-    std::vector<double> a, b;
-    for (const Sample& s : app)
-        a.push_back(s.milliseconds);
-    for (const Sample& s : bare)
-        b.push_back(s.milliseconds);
+    std::vector<double> a, b, t, s;
+    for (const Sample& sample : app) {
+        a.push_back(sample.milliseconds);
+        s.push_back(sample.screenMilliseconds);
+    }
+    for (const Sample& sample : bare)
+        b.push_back(sample.milliseconds);
+    for (const Sample& sample : text)
+        t.push_back(sample.milliseconds);
     std::printf("ratio (median quillforge / median bare): %.2fx   (aim: at most 1.20x, under 40 MB)\n",
                 median(a) / median(b));
+    std::printf("introduction (median screen frame / median bare): %.2fx   (aim: at most 1.25x); "
+                "against the bare window with one line of text: %.2fx\n",
+                median(s) / median(b), median(s) / median(t));
     return 0;
 }
