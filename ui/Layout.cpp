@@ -125,11 +125,10 @@ int BarRow::heightForWidth(int width) const
 
 void BarRow::setGeometry(const QRect& room)
 {
-    if (fitsOneLine(room.width())) {
-        CentredRow::setGeometry(room);
+    // The row keeps its room; where the buttons do not fit one line they are placed again below.
+    CentredRow::setGeometry(room);
+    if (fitsOneLine(room.width()))
         return;
-    }
-    QLayout::setGeometry(room);
     const QRect span = centredSpan(room, maximumWidth(), centre(room)).marginsRemoved(contentsMargins());
     int top = span.top();
     for (const Line& line : lines(room.width())) {

@@ -54,7 +54,7 @@ inline void moveInto(const QTemporaryDir& home, const QString& shell)
 // test: the login shell the app reads, and the one a terminal window would start.
 inline std::function<QString()> accountShell(const QString& shell)
 {
-    return [shell] { return shell; };
+    return [shell] { return QString(shell); };
 }
 
 // Prints what the test does as it goes, for whoever runs it.

@@ -301,7 +301,7 @@ TEST_P(LinuxPlatformOpenTerminal, RunsTheLineInTheDirectoryAndEndsInTheShell)
     ASSERT_TRUE(qf::test::writeExecutable(named, "#!/bin/sh\nexit 0\n"));
     qf::test::ScopedEnv shellEnv("SHELL", named.toUtf8());
 
-    LinuxPlatform platform([shell] { return shell; });
+    LinuxPlatform platform([shell] { return QString(shell); });
     EXPECT_EQ(platform.terminalDescription(),
               emulatorName + QStringLiteral(" (") + bin + QLatin1Char('/') + emulatorName + QLatin1Char(')'));
     qf::test::StdoutCapture capture;

@@ -67,7 +67,7 @@ TEST(LoginShell, BothBackendsTakeTheAccountsShellOverSHELL)
     const QString fish = folder.filePath(shellPath("fish"));
     ASSERT_TRUE(qf::test::writeExecutable(zsh, "#!/bin/sh\n"));
     ASSERT_TRUE(qf::test::writeExecutable(fish, "#!/bin/sh\n"));
-    const auto account = [](const QString& shell) { return [shell] { return shell; }; };
+    const auto account = [](const QString& shell) { return [shell] { return QString(shell); }; };
     const QString line = shellPath("true");
 
     for (const std::optional<QString>& environment : {std::optional<QString>(fish), std::optional<QString>()}) {

@@ -240,8 +240,8 @@ TEST_F(SystemDetectorTest, ShellProfileFollowsTheAccountsShellNotSHELL)
 {
     const QString zsh = sandbox.path(QStringLiteral("shells/zsh"));
     ASSERT_TRUE(test::writeExecutable(zsh, "#!/bin/sh\n"));
-    const LinuxPlatform linuxPlatform([zsh] { return zsh; });
-    const MacPlatform mac([zsh] { return zsh; });
+    const LinuxPlatform linuxPlatform([zsh] { return QString(zsh); });
+    const MacPlatform mac([zsh] { return QString(zsh); });
     SystemDetector onLinux(services.runner, linuxPlatform);
     SystemDetector onAMac(services.runner, mac);
     const auto chosen = [](const SystemDetector& detector) {
